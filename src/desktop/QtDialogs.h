@@ -1,0 +1,15 @@
+/// The user's boxes and dialogs, Qt's own.
+#pragma once
+
+#include "runtime/Dialogs.h"
+
+class QtDialogs final : public Dialogs {
+ public:
+  void ShowMessage(const QString& text, const QString& title = {}) override;
+  bool AskYesNo(const QString& text, const QString& title = {}) override;
+  void Beep() override;
+  QString ChooseFile(const QString& title, const QString& filter) override;
+  quint32 ChooseColor(quint32 current) override;
+  QString ChooseFont(const QString& current) override;
+  void OpenPage(const QString& address) override;
+};

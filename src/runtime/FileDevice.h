@@ -1,0 +1,25 @@
+/// The file operations that the one reader and the one writer use; the tests put a failing one in its place.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <memory>
+
+/// One method per system call that touches a file. All paths are absolute. A method answers 0 or a count on
+/// success and a negative errno (`-ENOSPC`) on failure; none throws.
+class FileDevice {
+ public:
+  enum class OpenMode { Read, WriteNew, Update };  ///< WriteNew truncates or creates; Update is in place, creating.
+
+  virtual ~FileDevice() = default;
+  virtual int Open(const QString& path, OpenMode mode);  ///< A descriptor, or a negative errno.
+  virtual qint64 Read(int descriptor, char* data, qint64 size, qint64 offset);
+  virtual qint64 Write(int descriptor, const char* data, qint64 size, qint64 offset);  ///< May write less.
+  virtual int Truncate(int descriptor, qint64 size);
+  virtual int Flush(int descriptor);  ///< To the disk.
+  virtual int Close(int descriptor);
+  virtual int Rename(const QString& from, const QString& to);
+  virtual int Remove(const QString& path);
+  virtual int MakeFolder(const QString& path);
+  virtual int FlushFolder(const QString& path);
+};

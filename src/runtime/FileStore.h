@@ -1,0 +1,43 @@
+/// The one reader and the one writer of the program. No other code opens, replaces, renames or deletes a file.
+///
+/// A file is never half written: what replaces a file is written beside it, checked to the last byte, flushed,
+/// renamed over the old one, and the folder is flushed. Every failure throws a RuntimeError that names the path:
+/// 53 not found, 61 disk full, 70 permission denied, 75 any other access, 76 folder not found.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include "runtime/FileDevice.h"
+
+class FileStore {
+ public:
+  explicit FileStore(FileDevice& device) : m_device(device) {}
+
+  bool IsFile(const QString& path) const;    ///< A file, of any length; a folder isn't one.
+  bool IsFolder(const QString& path) const;
+  qint64 Size(const QString& path) const;    ///< In bytes; error 53 if absent.
+  /// Names of the files (not folders) in `folder` that match the wildcard (`*.txt`), in name order.
+  QStringList List(const QString& folder, const QString& wildcard) const;
+  /// Whether any file matches, without reading the rest of the folder.
+  bool AnyMatch(const QString& folder, const QString& wildcard) const;
+
+  QByteArray ReadWhole(const QString& path) const;
+  /// Up to `size` bytes from `offset`; fewer at the end of the file.
+  QByteArray ReadPart(const QString& path, qint64 offset, qint64 size) const;
+
+  /// The checked writer: old or new, whole.
+  void ReplaceWhole(const QString& path, const QByteArray& content);
+  /// A record's write in place: one write, creating the file, a gap filled with zero bytes. One that fails is cut
+  /// back to the length before it where it extended the file, and rewritten with the old bytes where it didn't.
+  void WriteInPlace(const QString& path, qint64 offset, const QByteArray& bytes);
+  /// Copies through the checked writer, replacing the target.
+  void Copy(const QString& from, const QString& to);
+  void Rename(const QString& from, const QString& to);
+  void Remove(const QString& path);      ///< Nothing if absent.
+  void MakeFolder(const QString& path);  ///< Nothing if it is there; the parent must exist (error 76).
+
+ private:
+  FileDevice& m_device;
+};

@@ -1,0 +1,51 @@
+/// The one exception of the program: a number, a text, and the file or the box concerned.
+#pragma once
+
+#include <QString>
+#include <exception>
+
+namespace ErrorNumber {
+inline constexpr int Overflow = 6;
+inline constexpr int OutOfRange = 9;
+inline constexpr int TypeMismatch = 13;
+inline constexpr int BadFileNumber = 52;
+inline constexpr int FileNotFound = 53;
+inline constexpr int DiskFull = 61;
+inline constexpr int InputPastEnd = 62;
+inline constexpr int BadFileName = 64;
+inline constexpr int PermissionDenied = 70;
+inline constexpr int PathFileAccess = 75;
+inline constexpr int PathNotFound = 76;
+inline constexpr int PrinterError = 482;
+inline constexpr int DialogCancelled = 32755;
+}  // namespace ErrorNumber
+
+/// Thrown by the rules; a handler stands only where the system names one, else `Program` shows it.
+class RuntimeError : public std::exception {
+ public:
+  /// What the error came from decides what follows when nobody handled it: a data file whose content can't be
+  /// loaded as what it must be ends the program (its good backup must not be overwritten at exit); anything else
+  /// ends the event only.
+  enum class Origin { Event, FileContent };
+
+  /// `subject` names the file (root-relative name or full path) or the box; empty where there is none.
+  RuntimeError(int number, QString subject, Origin origin = Origin::Event);
+  RuntimeError(int number, QString subject, QString text, Origin origin = Origin::Event);
+
+  int Number() const { return m_number; }
+  const QString& Subject() const { return m_subject; }
+  /// One sentence for the user, without the subject.
+  const QString& Text() const { return m_text; }
+  Origin From() const { return m_origin; }
+  /// The same error, seen as damage of the named data file.
+  RuntimeError AsFileContent(const QString& fileName) const;
+
+  const char* what() const noexcept override { return m_what.constData(); }
+
+ private:
+  int m_number;
+  QString m_subject;
+  QString m_text;
+  Origin m_origin;
+  QByteArray m_what;
+};

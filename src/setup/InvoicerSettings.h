@@ -1,0 +1,14 @@
+/// What the invoice screen starts from, remembered across runs, and the telephone settings.
+#pragma once
+
+#include <QString>
+
+struct InvoicerSettings {
+  QString cboDiscount = QStringLiteral("0.0");  ///< The invoice screen's discount percentage, live.
+  QString cboDays = QStringLiteral("0");        ///< Its discount days, live.
+
+  // Stored; no control touches them.
+  int ModemPort = 1;
+  bool PhoneDaisyChained = false;
+  bool UsingCallerId = false;
+};
