@@ -65,20 +65,24 @@ class KVPrint {
   void DrawBandRules();
   void DrawTotalsRules();
   void DrawColumnRules();
-  void DrawRule();
+  void DrawHorizontalRule(qint16 y);
   void PrintTitle(const QString& title);
   void PrintLogo();
-  void PrintBusinessCity();
+  void PrintBusinessCity(float x);
   void PrintMemo();
   void PrintColumnHeadings();
   void PrintAddressBlock(float x, const PageAddress& address, bool usaAddress, const QString& afterCity);
   void PrintShipRow(const PageShipping& shipping);
   void PrintNarrative(const QString& invoiceNo);
+  void StartItems();
   void PrintRow(const InvoicePage& page);
   void PrintContinuationPage(const InvoicePage& page);
   void PrintTerms();
-  bool IsPastPageBottom(float height) const;
-  double BodyDrop() const { return m_hasNarrative ? 1.0 : 0.0; }
+  void PrintLineAt(float x, const QString& text);  ///< On the next line, `x` inches from the left.
+  void PrintIfAny(float x, const QString& text);
+  static QString NarrativeName(const QString& invoiceNo);
+  /// A height in inches above the first item, lowered by a narrative.
+  float BodyY(double inches) const;
 
   PrinterRoutines& m_routines;
   Printer& m_printer;

@@ -82,8 +82,11 @@ void PrinterRoutines::PrintWrapped(qint16 x, qint16 y, qint16 width, qint16 /*un
 }
 
 void PrinterRoutines::PrintWrappedHere(qint16 width, qint16 unused, const QString& text) {
-  PrintWrapped(ToInt16(static_cast<double>(m_printer.CurrentX)), ToInt16(static_cast<double>(m_printer.CurrentY)),
-               width, unused, text);
+  PrintWrapped(ToInt16(static_cast<double>(m_printer.CurrentX)), WholeY(), width, unused, text);
+}
+
+qint16 PrinterRoutines::WholeY() const {
+  return ToInt16(static_cast<double>(m_printer.CurrentY));
 }
 
 void PrinterRoutines::PrintJoinedRight(float edge, const QString& text) {

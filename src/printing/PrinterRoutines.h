@@ -52,6 +52,9 @@ class PrinterRoutines {
   /// `PrintWrapped` from the cursor, which is rounded to whole twips by that.
   void PrintWrappedHere(qint16 width, qint16 unused, const QString& text);
 
+  /// The cursor's height in whole twips, as `PrintWrapped` takes it.
+  qint16 WholeY() const;
+
   /// Joined prints, right-aligned to an edge or centred on a place in twips.
   void PrintJoinedRight(float edge, const QString& text);
   void PrintJoinedCentred(float centre, const QString& text);
