@@ -2,12 +2,17 @@
 /// commit read it.
 #pragma once
 
+#include <array>
+#include <functional>
 #include <QDate>
 #include <QString>
-#include <array>
 
+#include "invoice/InvoiceControls.h"
+#include "invoice/LineEntryBoxes.h"
 #include "runtime/Currency.h"
 #include "runtime/TextMatrix.h"
+
+class Dialogs;
 
 /// Columns of the line grid; all cells are text.
 namespace LineColumn {
@@ -22,6 +27,15 @@ inline constexpr int Count = 6;
 
 inline constexpr int MaximumLines = 100;
 
+/// Elements of `optDiscount`.
+namespace DiscountOption {
+inline constexpr int None = 0;
+inline constexpr int Flat = 1;
+inline constexpr int Calculated = 2;
+}  // namespace DiscountOption
+
+/// Several lines of text in one member stand with a line feed between them, as the boxes have it; files get CR LF.
+/// The discount percentage and days (`cboDiscount`, `cboDays`) live in `InvoicerSettings`, which remembers them.
 struct WorkingInvoice {
   WorkingInvoice();
 
@@ -49,7 +63,7 @@ struct WorkingInvoice {
   QString txtReference;
   QString cboShipping;
   QDate DTShip;
-  QString cboTerms;
+  ComboValue cboTerms;
   QDate DTPicker1;
   QString txtMemo;
   bool ckAddMemo = false;
@@ -57,8 +71,31 @@ struct WorkingInvoice {
   QString txtShip, txtMisc, txtTotal, txtTax, txtTax2, txtGrandTotal, txtDiscount, txtFlatDiscount;
   bool ckExempt = false, ck2ndTax = false, ckApplyVolumeDiscount = false, ckPackingList = false, ckPrepaid = false;
   bool ckShipto = false, ckManualTax = false;
-  int optDiscount = 0;  ///< 0 none, 1 flat, 2 calculated.
+  int optDiscount = DiscountOption::None;
   bool ckDiscount = false;
-  QString cboDiscount, cboDays;
   QString txtPrepaid, cboPrepaid;
+
+  /// The default memo as last loaded; the reprint screen shows it too.
+  QString DefaultMemo;
+
+  LineEntryBoxes Entry;
+  InvoiceControls Controls;
+
+  /// Set by the screen: puts everything here on its controls, silently (no handler of theirs runs), and gives the
+  /// focus where `Controls.Focus` says. The screen calls it itself after each rule; a rule calls it, through `Show`,
+  /// before a box of its own comes up, so that the user sees behind the box what it speaks of.
+  std::function<void()> Refresh;
+  void Show() const {
+    if (Refresh) Refresh();
+  }
 };
+
+/// Shows the invoice as it stands, then the message (or the question).
+void Tell(const WorkingInvoice& invoice, Dialogs& dialogs, const QString& text, const QString& title = {});
+bool Ask(const WorkingInvoice& invoice, Dialogs& dialogs, const QString& text, const QString& title);
+
+/// An amount box that gets the focus: the currency text of zero is blanked, so that the user types over it. It holds
+/// for `txtShip`, `txtMisc`, `txtFlatDiscount` and `txtManual_1`.
+void EnterAmountBox(QString& boxText);
+/// A count box that gets the focus: "0" is blanked (`txtUnits`, `txtCUnits`, `txtHours`).
+void EnterCountBox(QString& boxText);

@@ -1,0 +1,62 @@
+/// Posting of services, items, manual and custom lines into the grid, and the boxes they are entered in.
+#pragma once
+
+#include <QString>
+
+class Dialogs;
+class TextMatrix;
+struct CatalogueLists;
+struct TaxConfiguration;
+struct WorkingInvoice;
+
+/// Line kinds; 0 to 3 are the indexes of `cmdPost`.
+namespace LineKind {
+inline constexpr int Service = 0;
+inline constexpr int Item = 1;
+inline constexpr int Manual = 2;
+inline constexpr int Custom = 3;
+inline constexpr int Labor = 4;
+}  // namespace LineKind
+
+/// Element of `cboDescription` and `cboPrice` that a kind works on: custom lines on 2, the others on their own index.
+constexpr int ElementOf(int kind) {
+  return kind == LineKind::Custom ? 2 : kind;
+}
+
+/// What posting reads beside the invoice.
+struct LineEntryDesk {
+  WorkingInvoice& Invoice;
+  const CatalogueLists& Lists;
+  const TaxConfiguration& Tax;
+  Dialogs& Boxes;
+};
+
+/// `cmdPost`: checks the boxes of the kind and writes one row. Where a box isn't fit it beeps, sends the focus there
+/// and posts nothing. Quantities that don't convert throw RuntimeError 13, a row beyond the grid 9; then nothing is
+/// posted. After a post the boxes are cleared and, if `descriptionShows`, the first entry of the list is picked.
+void PostLine(const LineEntryDesk& desk, int kind, bool descriptionShows = true);
+
+/// Writes column 5 of the row after the last line, by the kind's tax switch.
+void SetApplyTax(WorkingInvoice& invoice, int kind, const TaxConfiguration& tax);
+/// Empties the boxes of a kind after its post.
+void ClearLineEntry(WorkingInvoice& invoice, int kind);
+
+/// Picks an entry of `cboDescription`, by the user's hand or by code: text, matching price, focus to the units box. An
+/// index without an entry deselects.
+void SelectDescription(WorkingInvoice& invoice, const CatalogueLists& lists, int element, int index);
+/// The description's text changed by typing; the entry that completes it, if any, is the combo box's own affair, and it
+/// picks that through `SelectDescription` when nothing is left to complete.
+void TypeDescription(WorkingInvoice& invoice, int element, const QString& text);
+/// Picks an entry of `cboPrice`, or takes a price typed by hand, to which no quantity break applies.
+void SelectPrice(WorkingInvoice& invoice, const CatalogueLists& lists, int element, int index);
+void TypePrice(WorkingInvoice& invoice, int element, const QString& text);
+/// Deselects description and price and empties the text of both.
+void ClearSelection(WorkingInvoice& invoice, int element);
+
+/// `lstCategories`: an entry other than the first narrows the item lists and their breaks to the rows of `fgItems` in
+/// that category, and empties the boxes; the focus goes to the description. The first entry, "All", is a reload of the
+/// items, which the catalogue does.
+void NarrowItems(WorkingInvoice& invoice, CatalogueLists& lists, const TextMatrix& fgItems, const QString& category);
+
+/// Leaving `txtUnits`: text that isn't a number becomes "0", with a beep and the focus back.
+void LeaveUnits(WorkingInvoice& invoice, Dialogs& dialogs);
