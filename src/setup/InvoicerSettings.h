@@ -1,4 +1,4 @@
-/// What the invoice screen starts from, remembered across runs, and the telephone settings.
+/// What the invoice screen starts from, remembered across runs.
 #pragma once
 
 #include <QString>
@@ -6,9 +6,4 @@
 struct InvoicerSettings {
   QString cboDiscount = QStringLiteral("0.0");  ///< The invoice screen's discount percentage, live.
   QString cboDays = QStringLiteral("0");        ///< Its discount days, live.
-
-  // Stored; no control touches them.
-  int ModemPort = 1;
-  bool PhoneDaisyChained = false;
-  bool UsingCallerId = false;
 };

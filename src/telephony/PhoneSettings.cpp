@@ -1,0 +1,43 @@
+#include "telephony/PhoneSettings.h"
+
+#include "shell/CommonDiskRoutines.h"
+
+using namespace Qt::StringLiterals;
+
+void StartModem(CommonDiskRoutines& disk, PhoneSettings& phone) {
+  FindModemPort(phone);
+  phone.ckPhone = false;
+  phone.PhoneDaisyChained = false;
+  if (disk.FileExists(u"/Phone.txt"_s)) {
+    ListReader file = disk.OpenInputFile(u"/Phone.txt"_s);
+    phone.PhoneDaisyChained = file.ReadBoolean();
+    phone.ModemPort = file.ReadInt16();
+    phone.ckPhone = phone.PhoneDaisyChained;
+  }
+  LoadCallerIdSetting(disk, phone);
+}
+
+void FindModemPort(PhoneSettings& phone) {
+  phone.ModemPort = 1;
+  phone.txtModemPort = QString::number(phone.ModemPort);
+}
+
+void LoadCallerIdSetting(CommonDiskRoutines& disk, PhoneSettings& phone) {
+  if (disk.FileExists(u"/CallID.txt"_s)) phone.UsingCallerId = disk.OpenInputFile(u"/CallID.txt"_s).ReadBoolean();
+  phone.ckCallerID = true;
+}
+
+void SavePhoneSettings(CommonDiskRoutines& disk, PhoneSettings& phone) {
+  phone.PhoneDaisyChained = phone.ckPhone;
+  ListWriter file;
+  file.Field(phone.PhoneDaisyChained).EndLine();
+  file.Field(phone.ModemPort).EndLine();
+  disk.SaveFile(u"/Phone.txt"_s, file.Content(), BackupCopy::Dropped);
+  SaveCallerIdSetting(disk, phone);
+}
+
+void SaveCallerIdSetting(CommonDiskRoutines& disk, const PhoneSettings& phone) {
+  ListWriter file;
+  file.Field(phone.UsingCallerId).EndLine();
+  disk.SaveFile(u"/CallID.txt"_s, file.Content(), BackupCopy::Dropped);
+}
