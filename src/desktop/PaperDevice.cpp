@@ -1,0 +1,112 @@
+#include "desktop/PaperDevice.h"
+
+#include <optional>
+#include <QBuffer>
+#include <QImage>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+
+#include "desktop/PaperFonts.h"
+#include "runtime/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int TwipsPerInch = 1440;
+
+void PrepareLayout(QPagedPaintDevice& device, bool portrait) {
+  const auto orientation = portrait ? QPageLayout::Portrait : QPageLayout::Landscape;
+  QPageLayout layout(QPageSize(QPageSize::Letter), orientation, {});
+  layout.setMode(QPageLayout::FullPageMode);
+  device.setPageLayout(layout);
+}
+
+QColor ColorOf(quint32 packedBgr) {
+  return QColor(static_cast<int>(packedBgr & 0xFF), static_cast<int>((packedBgr >> 8) & 0xFF),
+                static_cast<int>((packedBgr >> 16) & 0xFF));
+}
+
+/// Puts marks on a begun page; a pen or font that is set already isn't set again.
+class MarkPainter {
+ public:
+  MarkPainter(QPainter& painter, PaperFonts& fonts) : m_painter(painter), m_fonts(fonts) {}
+
+  void operator()(const PaperText& mark) {
+    const PaperFonts::Face& face = m_fonts.Get(mark.Font);
+    if (m_font != mark.Font) m_painter.setFont(face.Font);
+    m_font = mark.Font;
+    SetPen(mark.Color, 0);
+    m_painter.drawText(QPointF(static_cast<qreal>(mark.X), static_cast<qreal>(mark.Y) + face.Metrics.ascent()),
+                       mark.Text);
+  }
+
+  void operator()(const PaperRule& mark) {
+    SetPen(mark.Color, mark.DrawWidth);
+    if (mark.IsBox)
+      m_painter.drawRect(QRect(QPoint(mark.X1, mark.Y1), QSize(mark.X2 - mark.X1, mark.Y2 - mark.Y1)));
+    else
+      m_painter.drawLine(mark.X1, mark.Y1, mark.X2, mark.Y2);
+  }
+
+  void operator()(const PaperPicture& mark) {
+    if (m_pictureBytes != mark.Picture) m_picture = QImage::fromData(mark.Picture);
+    m_pictureBytes = mark.Picture;
+    if (m_picture.isNull())
+      throw RuntimeError(ErrorNumber::PrinterError, {}, u"The logo can't be read as a picture."_s);
+    m_painter.drawImage(mark.Place, m_picture);
+  }
+
+ private:
+  void SetPen(quint32 color, int width) {
+    if (m_penColor == color && m_penWidth == width) return;
+    m_painter.setPen(QPen(ColorOf(color), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    m_penColor = color;
+    m_penWidth = width;
+  }
+
+  QPainter& m_painter;
+  PaperFonts& m_fonts;
+  std::optional<PaperFont> m_font;
+  std::optional<quint32> m_penColor;
+  int m_penWidth = 0;
+  QByteArray m_pictureBytes;
+  QImage m_picture;
+};
+}  // namespace
+
+void PrepareSheet(QPdfWriter& device, bool portrait) {
+  PrepareLayout(device, portrait);
+  device.setResolution(TwipsPerInch);
+}
+
+void PrepareSheet(QPrinter& device, bool portrait) {
+  PrepareLayout(device, portrait);
+  device.setFullPage(true);
+  device.setResolution(TwipsPerInch);
+}
+
+void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts) {
+  const auto failed = [] { return RuntimeError(ErrorNumber::PrinterError, {}); };
+  QPainter painter;
+  if (!painter.begin(&device)) throw failed();
+  MarkPainter marks(painter, fonts);
+  bool first = true;
+  for (const PaperPage& page : job.Pages) {
+    if (!first && !device.newPage()) throw failed();
+    first = false;
+    for (const PaperMark& mark : page) std::visit(marks, mark);
+  }
+  if (!painter.end()) throw failed();
+}
+
+QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts) {
+  QBuffer content;
+  content.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&content);
+  PrepareSheet(writer, portrait);
+  writer.setCreator(u"Karvex Invoicer"_s);
+  DrawJob(job, writer, fonts);
+  return content.data();
+}

@@ -1,0 +1,23 @@
+/// Puts a job on a device of Qt's: a printer or a PDF file, both letter sheets whose unit is the twip.
+#pragma once
+
+#include <QByteArray>
+
+#include "desktop/PaperJob.h"
+
+class PaperFonts;
+class QPdfWriter;
+class QPagedPaintDevice;
+class QPrinter;
+
+inline constexpr int TwipsPerPoint = 20;
+
+/// Full letter pages, upright or lying, at 1440 units to the inch.
+void PrepareSheet(QPdfWriter& device, bool portrait);
+void PrepareSheet(QPrinter& device, bool portrait);
+
+/// Draws all pages. Throws RuntimeError 482 where the device refuses or a picture can't be read.
+void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts);
+
+/// The job as the content of a PDF file.
+QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts);

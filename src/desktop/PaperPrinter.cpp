@@ -1,0 +1,94 @@
+#include "desktop/PaperPrinter.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <utility>
+
+#include "desktop/PaperDevice.h"
+#include "runtime/Dialogs.h"
+#include "runtime/FileStore.h"
+#include "runtime/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+
+PaperPrinter::PaperPrinter(FileStore& store, Dialogs& dialogs, QString documentsFolder)
+    : m_store(store), m_dialogs(dialogs), m_documentsFolder(std::move(documentsFolder)) {}
+
+PaperPrinter::~PaperPrinter() = default;
+
+QPrinter& PaperPrinter::Device() {
+  if (!m_device) m_device = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  return *m_device;
+}
+
+bool PaperPrinter::IsPdf() {
+  return Device().outputFormat() == QPrinter::PdfFormat;
+}
+
+void PaperPrinter::ShowPrinter() {
+  QPrinter& device = Device();
+  PrepareSheet(device, true);
+  if (IsPdf()) device.setOutputFileName(NewPdfName());
+  // The dialog writes into the device as the user looks around; a cancel takes that back.
+  const QString printerBefore = device.printerName();
+  const QString fileBefore = device.outputFileName();
+  QPrintDialog dialog(&device, QApplication::activeWindow());
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
+  if (dialog.exec() != QDialog::Accepted) {
+    device.setPrinterName(printerBefore);
+    device.setOutputFileName(fileBefore);
+    throw RuntimeError(ErrorNumber::DialogCancelled, {});
+  }
+  m_fileChosen = true;
+}
+
+void PaperPrinter::EndDoc() {
+  PaperSurface::EndDoc();
+  m_fileChosen = false;
+}
+
+void PaperPrinter::KillDoc() {
+  PaperSurface::KillDoc();
+  m_fileChosen = false;
+}
+
+void PaperPrinter::SendJob(const PaperJob& job) {
+  if (!IsPdf()) {
+    SendToPrinter(job);
+  } else if (m_fileChosen) {
+    SendToPdf(job, QFileInfo(Device().outputFileName()).absoluteFilePath());
+  } else {
+    const QString path = NewPdfName();
+    SendToPdf(job, path);
+    m_dialogs.ShowMessage(u"The page was saved as a PDF file:\n"_s + path);
+  }
+}
+
+QString PaperPrinter::NewPdfName() const {
+  const QString base = m_documentsFolder + u"/Karvex Invoicer"_s;
+  QString path = base + u".pdf"_s;
+  for (int number = 2; m_store.IsFile(path) || m_store.IsFolder(path); ++number)
+    path = base + u' ' + QString::number(number) + u".pdf"_s;
+  return path;
+}
+
+void PaperPrinter::SendToPdf(const PaperJob& job, const QString& path) {
+  const QByteArray content = PdfOf(job, Orientation == 1, Fonts());
+  try {
+    if (!m_store.IsFolder(m_documentsFolder)) m_store.MakeFolder(m_documentsFolder);
+    m_store.ReplaceWhole(path, content);
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(ErrorNumber::PrinterError, path, error.Text());
+  }
+}
+
+void PaperPrinter::SendToPrinter(const PaperJob& job) {
+  QPrinter& device = Device();
+  PrepareSheet(device, Orientation == 1);
+  device.setDocName(u"Karvex Invoicer"_s);
+  DrawJob(job, device, Fonts());
+  if (device.printerState() == QPrinter::Error || device.printerState() == QPrinter::Aborted)
+    throw RuntimeError(ErrorNumber::PrinterError, device.printerName());
+}
