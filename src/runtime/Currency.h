@@ -1,8 +1,8 @@
 /// Money: a signed 64-bit count of ten-thousandths. The only place of the program that multiplies or rounds money.
 #pragma once
 
-#include <QString>
 #include <compare>
+#include <QString>
 
 class Currency {
  public:

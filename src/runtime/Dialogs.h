@@ -1,8 +1,8 @@
 /// What the rules and screens tell and ask the user, whatever stands behind it: Qt's dialogs, or a test's answers.
 #pragma once
 
-#include <QString>
 #include <optional>
+#include <QString>
 
 /// An empty title is the default application caption, "Karvex Invoicer".
 class Dialogs {

@@ -1,15 +1,20 @@
 /// The file operations that the one reader and the one writer use; the tests put a failing one in its place.
 #pragma once
 
+#include <memory>
 #include <QByteArray>
 #include <QString>
-#include <memory>
 
 /// One method per system call that touches a file. All paths are absolute. A method answers 0 or a count on
 /// success and a negative errno (`-ENOSPC`) on failure; none throws.
+/// Nothing is written through a symbolic link: opening one to write is `-ELOOP`.
 class FileDevice {
  public:
-  enum class OpenMode { Read, WriteNew, Update };  ///< WriteNew truncates or creates; Update is in place, creating.
+  enum class OpenMode {
+    Read,
+    WriteNew,
+    Update
+  };  ///< WriteNew refuses a file that is there; Update is in place, creating.
 
   virtual ~FileDevice() = default;
   virtual int Open(const QString& path, OpenMode mode);  ///< A descriptor, or a negative errno.
@@ -18,6 +23,8 @@ class FileDevice {
   virtual int Truncate(int descriptor, qint64 size);
   virtual int Flush(int descriptor);  ///< To the disk.
   virtual int Close(int descriptor);
+  /// Gives an open file the permissions of another.
+  virtual int CopyPermissions(const QString& from, int descriptor);
   virtual int Rename(const QString& from, const QString& to);
   virtual int Remove(const QString& path);
   virtual int MakeFolder(const QString& path);

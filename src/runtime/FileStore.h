@@ -15,9 +15,9 @@ class FileStore {
  public:
   explicit FileStore(FileDevice& device) : m_device(device) {}
 
-  bool IsFile(const QString& path) const;    ///< A file, of any length; a folder isn't one.
+  bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one.
   bool IsFolder(const QString& path) const;
-  qint64 Size(const QString& path) const;    ///< In bytes; error 53 if absent.
+  qint64 Size(const QString& path) const;  ///< In bytes; error 53 if absent.
   /// Names of the files (not folders) in `folder` that match the wildcard (`*.txt`), in name order.
   QStringList List(const QString& folder, const QString& wildcard) const;
   /// Whether any file matches, without reading the rest of the folder.
@@ -39,5 +39,6 @@ class FileStore {
   void MakeFolder(const QString& path);  ///< Nothing if it is there; the parent must exist (error 76).
 
  private:
+  void WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content);
   FileDevice& m_device;
 };

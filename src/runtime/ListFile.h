@@ -2,9 +2,9 @@
 /// CR LF. Read with either line end.
 #pragma once
 
+#include <memory>
 #include <QByteArray>
 #include <QString>
-#include <memory>
 
 /// Reads fields and lines out of one file's content, which is held whole.
 ///
@@ -22,12 +22,15 @@ class ListReader {
   double ReadNumber();   ///< An empty field is error 13.
   qint16 ReadInt16();    ///< Rounds to the nearest, ties to even; error 6 beyond 16 bits.
   qint32 ReadInt32();
-  bool ReadBoolean();    ///< `#TRUE#`, `#FALSE#`, or a number (0 is false).
+  bool ReadBoolean();  ///< `#TRUE#`, `#FALSE#`, or a number (0 is false).
   const QString& FileName() const { return m_fileName; }
   /// Set false when the program closes all files: every later read is error 52.
   void Attach(std::shared_ptr<bool> open) { m_open = std::move(open); }
 
  private:
+  void RequireMore() const;
+  qsizetype LineEnd(qsizetype from) const;
+  qsizetype PastLineEnd(qsizetype end) const;
   QString m_fileName;
   QByteArray m_content;
   qsizetype m_position = 0;

@@ -18,7 +18,7 @@ class Printer {
   int ScaleMode = 1;    ///< 1 is twips.
   float CurrentX = 0;
   float CurrentY = 0;
-  int DrawWidth = 1;    ///< In twips.
+  int DrawWidth = 1;  ///< In twips.
 
   virtual void SetFontName(const QString& name) = 0;
   virtual void SetFontSize(int points) = 0;

@@ -11,9 +11,9 @@
 class RecordView {
  public:
   explicit RecordView(QByteArrayView bytes) : m_bytes(bytes) {}
-  QString Text(qsizetype offset, qsizetype width) const;  ///< Trimmed of blanks and zero bytes at both ends.
+  QString Text(qsizetype offset, qsizetype width) const;     ///< Trimmed of blanks and zero bytes at both ends.
   QString RawText(qsizetype offset, qsizetype width) const;  ///< Untrimmed, exactly `width` characters.
-  qint16 Int16(qsizetype offset) const;   ///< Little-endian, as are the following.
+  qint16 Int16(qsizetype offset) const;                      ///< Little-endian, as are the following.
   qint32 Int32(qsizetype offset) const;
   Currency Amount(qsizetype offset) const;
   double Double(qsizetype offset) const;

@@ -1,8 +1,8 @@
 /// The one exception of the program: a number, a text, and the file or the box concerned.
 #pragma once
 
-#include <QString>
 #include <exception>
+#include <QString>
 
 namespace ErrorNumber {
 inline constexpr int Overflow = 6;

@@ -1,9 +1,9 @@
 /// A rectangular matrix of texts with row 0 as headings and data from row 1: the grid behind every list.
 #pragma once
 
+#include <functional>
 #include <QAbstractTableModel>
 #include <QStringList>
-#include <functional>
 #include <vector>
 
 /// Rows and columns are addressed as the system does, from 0 with row 0 the header. A cell, row or column that isn't
@@ -47,6 +47,7 @@ class TextMatrix : public QAbstractTableModel {
 
  private:
   void Require(int row, int col) const;
+  void Reorder(const std::vector<int>& order);  ///< Of the data rows, counted from 0.
   int m_rows;
   int m_cols;
   int m_row = 0;

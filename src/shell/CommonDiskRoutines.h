@@ -2,10 +2,10 @@
 /// from /Backup, record counts, and the saves.
 #pragma once
 
+#include <memory>
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-#include <memory>
 #include <vector>
 
 #include "runtime/FileStore.h"
@@ -52,7 +52,7 @@ class CommonDiskRoutines {
   bool FileExists(const QString& name);
   /// Number of records, 0 if the file is absent (after the restore). Above 32767: RuntimeError 6.
   int RecordCount(const QString& name, int recordLength);
-  ListReader OpenInputFile(const QString& name);  ///< Reads the file whole; error 53 if absent.
+  ListReader OpenInputFile(const QString& name);                     ///< Reads the file whole; error 53 if absent.
   RandomFile OpenRandomFile(const QString& name, int recordLength);  ///< Creates the file if absent.
   RandomFile OpenCustomerFile() { return OpenRandomFile(QStringLiteral("/CustomerData.txt"), 328); }
   /// What is open can't be read or written any more (error 52).
@@ -76,6 +76,7 @@ class CommonDiskRoutines {
   void BackupDataFiles();
 
  private:
+  std::shared_ptr<bool> NewOpenMark();
   FileStore& m_store;
   QString m_dataRoot;
   QString m_exeName;

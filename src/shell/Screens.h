@@ -1,8 +1,8 @@
 /// What a screen asks for to reach another: screens never include screens.
 #pragma once
 
-#include <QString>
 #include <array>
+#include <QString>
 
 enum class ScreenName {
   frmSplash,

@@ -1,0 +1,236 @@
+#include "runtime/FileStore.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <functional>
+#include <QFile>
+#include <QRegularExpression>
+
+#include "runtime/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool IsKind(const QString& path, mode_t kind) {
+  struct stat status;
+  return ::stat(QFile::encodeName(path).constData(), &status) == 0 && (status.st_mode & S_IFMT) == kind;
+}
+
+QString FolderOf(const QString& path) {
+  return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
+}
+
+/// Beside the target, so that the rename stays on one disk; one fixed name, so that what a kill leaves behind is gone
+/// after the next save. No wildcard that the program lists by matches it.
+QString TemporaryNameOf(const QString& path) {
+  return path + u".new"_s;
+}
+
+int NumberOf(int error, const QString& path) {
+  switch (error) {
+    case ENOENT:
+      return IsKind(FolderOf(path), S_IFDIR) ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
+    case ENOTDIR:
+      return ErrorNumber::PathNotFound;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return ErrorNumber::DiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return ErrorNumber::PermissionDenied;
+    case ENAMETOOLONG:
+      return ErrorNumber::BadFileName;
+    default:
+      return ErrorNumber::PathFileAccess;
+  }
+}
+
+[[noreturn]] void Raise(qint64 result, const QString& path) {
+  throw RuntimeError(NumberOf(static_cast<int>(-result), path), path);
+}
+
+void Check(qint64 result, const QString& path) {
+  if (result < 0) Raise(result, path);
+}
+
+/// An open file that is closed whatever happens.
+class OpenFile {
+ public:
+  OpenFile(FileDevice& device, int descriptor) : m_device(device), m_descriptor(descriptor) {}
+  ~OpenFile() {
+    if (m_descriptor >= 0) m_device.Close(m_descriptor);
+  }
+  Q_DISABLE_COPY_MOVE(OpenFile)
+  int Descriptor() const { return m_descriptor; }
+  int Close() { return m_device.Close(std::exchange(m_descriptor, -1)); }
+
+ private:
+  FileDevice& m_device;
+  int m_descriptor;
+};
+
+/// Writes to the last byte, whatever the device takes at a time. 0 or a negative errno.
+qint64 WriteAll(FileDevice& device, int descriptor, QByteArrayView bytes, qint64 offset) {
+  while (!bytes.isEmpty()) {
+    const qint64 written = device.Write(descriptor, bytes.data(), bytes.size(), offset);
+    if (written < 0) return written;
+    if (written == 0) return -ENOSPC;
+    bytes = bytes.sliced(written);
+    offset += written;
+  }
+  return 0;
+}
+
+/// Reads until `size` bytes are there or the file ends.
+QByteArray ReadUpTo(FileDevice& device, int descriptor, qint64 size, qint64 offset, const QString& path) {
+  QByteArray bytes(size, Qt::Uninitialized);
+  qint64 filled = 0;
+  while (filled < size) {
+    const qint64 got = device.Read(descriptor, bytes.data() + filled, size - filled, offset + filled);
+    Check(got, path);
+    if (got == 0) break;
+    filled += got;
+  }
+  bytes.truncate(filled);
+  return bytes;
+}
+
+/// Calls `found` with each file of the folder that matches until it answers false. The kind of an entry comes with
+/// its name; only where the file system doesn't tell it is the file itself looked at.
+void EachMatch(const QString& folder, const QString& wildcard, const std::function<bool(const QString&)>& found) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);
+  if (!listing) return;
+  const auto pattern = QRegularExpression(
+      QRegularExpression::anchoredPattern(QRegularExpression::wildcardToRegularExpression(wildcard)));
+  while (const dirent* entry = ::readdir(listing.get())) {
+    if (entry->d_type == DT_DIR) continue;
+    const QString name = QFile::decodeName(entry->d_name);
+    if (!pattern.match(name).hasMatch()) continue;
+    if (entry->d_type != DT_REG && !IsKind(folder + u'/' + name, S_IFREG)) continue;
+    if (!found(name)) return;
+  }
+}
+
+}  // namespace
+
+bool FileStore::IsFile(const QString& path) const {
+  return IsKind(path, S_IFREG);
+}
+
+bool FileStore::IsFolder(const QString& path) const {
+  return IsKind(path, S_IFDIR);
+}
+
+qint64 FileStore::Size(const QString& path) const {
+  struct stat status;
+  if (::stat(QFile::encodeName(path).constData(), &status) < 0) Raise(-errno, path);
+  return status.st_size;
+}
+
+QStringList FileStore::List(const QString& folder, const QString& wildcard) const {
+  QStringList names;
+  EachMatch(folder, wildcard, [&](const QString& name) {
+    names.append(name);
+    return true;
+  });
+  std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+    const int order = a.compare(b, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : a < b;
+  });
+  return names;
+}
+
+bool FileStore::AnyMatch(const QString& folder, const QString& wildcard) const {
+  bool any = false;
+  EachMatch(folder, wildcard, [&](const QString&) {
+    any = true;
+    return false;
+  });
+  return any;
+}
+
+QByteArray FileStore::ReadWhole(const QString& path) const {
+  return ReadPart(path, 0, Size(path));
+}
+
+QByteArray FileStore::ReadPart(const QString& path, qint64 offset, qint64 size) const {
+  const int descriptor = m_device.Open(path, FileDevice::OpenMode::Read);
+  Check(descriptor, path);
+  const OpenFile file(m_device, descriptor);
+  return ReadUpTo(m_device, descriptor, size, offset, path);
+}
+
+void FileStore::WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content) {
+  const int descriptor = m_device.Open(temporary, FileDevice::OpenMode::WriteNew);
+  Check(descriptor, path);
+  OpenFile file(m_device, descriptor);
+  if (IsFile(path)) Check(m_device.CopyPermissions(path, descriptor), path);
+  Check(WriteAll(m_device, descriptor, content, 0), path);
+  Check(m_device.Flush(descriptor), path);
+  Check(file.Close(), path);
+}
+
+void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
+  // A rename would replace a write-protected file as well; the protection is somebody's wish.
+  const QByteArray name = QFile::encodeName(path);
+  if (::access(name.constData(), W_OK) < 0 && errno != ENOENT) Raise(-errno, path);
+
+  const QString temporary = TemporaryNameOf(path);
+  m_device.Remove(temporary);
+  try {
+    WriteTemporary(temporary, path, content);
+    Check(m_device.Rename(temporary, path), path);
+  } catch (const RuntimeError&) {
+    m_device.Remove(temporary);
+    throw;
+  }
+  Check(m_device.FlushFolder(FolderOf(path)), path);
+}
+
+void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArray& bytes) {
+  int descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
+  if (descriptor == -ELOOP) {
+    // Nothing is written through a link: the tree gets a file of its own in the link's place.
+    ReplaceWhole(path, ReadWhole(path));
+    descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
+  }
+  Check(descriptor, path);
+  const OpenFile file(m_device, descriptor);
+  const qint64 lengthBefore = Size(path);
+  QByteArray before;
+  if (offset < lengthBefore) before = ReadUpTo(m_device, descriptor, bytes.size(), offset, path);
+
+  const qint64 written = WriteAll(m_device, descriptor, bytes, offset);
+  if (written == 0) return;
+  WriteAll(m_device, descriptor, before, offset);
+  if (offset + bytes.size() > lengthBefore) m_device.Truncate(descriptor, lengthBefore);
+  Raise(written, path);
+}
+
+void FileStore::Copy(const QString& from, const QString& to) {
+  ReplaceWhole(to, ReadWhole(from));
+}
+
+void FileStore::Rename(const QString& from, const QString& to) {
+  Check(m_device.Rename(from, to), from);
+  Check(m_device.FlushFolder(FolderOf(to)), to);
+}
+
+void FileStore::Remove(const QString& path) {
+  const int result = m_device.Remove(path);
+  if (result < 0 && result != -ENOENT && result != -ENOTDIR) Raise(result, path);
+}
+
+void FileStore::MakeFolder(const QString& path) {
+  const int result = m_device.MakeFolder(path);
+  if (result == 0 || (result == -EEXIST && IsFolder(path))) return;
+  if (result == -ENOENT) throw RuntimeError(ErrorNumber::PathNotFound, path);
+  Raise(result, path);
+}

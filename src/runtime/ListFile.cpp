@@ -1,0 +1,137 @@
+#include "runtime/ListFile.h"
+
+#include "runtime/CodePage.h"
+#include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+
+ListReader::ListReader(QString fileName, QByteArray content)
+    : m_fileName(std::move(fileName)), m_content(std::move(content)) {}
+
+bool ListReader::AtEnd() const {
+  return m_position >= m_content.size();
+}
+
+void ListReader::RequireMore() const {
+  if (m_open && !*m_open) throw RuntimeError(ErrorNumber::BadFileNumber, m_fileName);
+  if (AtEnd()) throw RuntimeError(ErrorNumber::InputPastEnd, m_fileName, RuntimeError::Origin::FileContent);
+}
+
+qsizetype ListReader::LineEnd(qsizetype from) const {
+  const qsizetype feed = m_content.indexOf('\n', from);
+  const qsizetype end = feed < 0 ? m_content.size() : feed;
+  return end > from && m_content[end - 1] == '\r' ? end - 1 : end;
+}
+
+qsizetype ListReader::PastLineEnd(qsizetype end) const {
+  if (end < m_content.size() && m_content[end] == '\r') ++end;
+  if (end < m_content.size() && m_content[end] == '\n') ++end;
+  return end;
+}
+
+QString ListReader::ReadLine() {
+  RequireMore();
+  const qsizetype end = LineEnd(m_position);
+  const QByteArrayView line = QByteArrayView(m_content).sliced(m_position, end - m_position);
+  m_position = PastLineEnd(end);
+  return FromCodePage(line);
+}
+
+QString ListReader::ReadString() {
+  RequireMore();
+  while (!AtEnd() && m_content[m_position] == ' ') ++m_position;
+  qsizetype begin = m_position;
+  qsizetype end = begin;
+  const bool quoted = !AtEnd() && m_content[begin] == '"';
+  if (quoted) {
+    end = m_content.indexOf('"', ++begin);
+    if (end < 0) end = m_content.size();
+    m_position = std::min(end + 1, m_content.size());
+  }
+  const qsizetype lineEnd = LineEnd(m_position);
+  const qsizetype comma = QByteArrayView(m_content).sliced(m_position, lineEnd - m_position).indexOf(',');
+  const bool endsAtComma = comma >= 0;
+  const qsizetype fieldEnd = endsAtComma ? m_position + comma : lineEnd;
+  if (!quoted) end = fieldEnd;
+  m_position = endsAtComma ? fieldEnd + 1 : PastLineEnd(lineEnd);
+  return FromCodePage(QByteArrayView(m_content).sliced(begin, end - begin));
+}
+
+double ListReader::ReadNumber() {
+  const QString text = ReadString();
+  try {
+    return ToNumber(text);
+  } catch (const RuntimeError& error) {
+    throw error.AsFileContent(m_fileName);
+  }
+}
+
+qint16 ListReader::ReadInt16() {
+  const double value = ReadNumber();
+  try {
+    return ToInt16(value);
+  } catch (const RuntimeError& error) {
+    throw error.AsFileContent(m_fileName);
+  }
+}
+
+qint32 ListReader::ReadInt32() {
+  const double value = ReadNumber();
+  try {
+    return ToInt32(value);
+  } catch (const RuntimeError& error) {
+    throw error.AsFileContent(m_fileName);
+  }
+}
+
+bool ListReader::ReadBoolean() {
+  const QString text = TrimBlanks(ReadString());
+  if (text.compare("#TRUE#"_L1, Qt::CaseInsensitive) == 0) return true;
+  if (text.compare("#FALSE#"_L1, Qt::CaseInsensitive) == 0) return false;
+  try {
+    return ToNumber(text) != 0;
+  } catch (const RuntimeError& error) {
+    throw error.AsFileContent(m_fileName);
+  }
+}
+
+void ListWriter::Separate() {
+  if (m_lineBegun) m_content += ',';
+  m_lineBegun = true;
+}
+
+ListWriter& ListWriter::Field(const QString& text) {
+  Separate();
+  m_content += '"' + ToCodePage(text) + '"';
+  return *this;
+}
+
+ListWriter& ListWriter::Field(double number) {
+  Separate();
+  m_content += QByteArray::number(number, 'g', QLocale::FloatingPointShortest);
+  return *this;
+}
+
+ListWriter& ListWriter::Field(int number) {
+  Separate();
+  m_content += QByteArray::number(number);
+  return *this;
+}
+
+ListWriter& ListWriter::Field(bool value) {
+  Separate();
+  m_content += value ? "#TRUE#" : "#FALSE#";
+  return *this;
+}
+
+ListWriter& ListWriter::EndLine() {
+  m_content += "\r\n";
+  m_lineBegun = false;
+  return *this;
+}
+
+ListWriter& ListWriter::Print(const QString& text) {
+  m_content += ToCodePage(text);
+  return EndLine();
+}

@@ -1,0 +1,52 @@
+#include "runtime/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString TextOf(int number) {
+  switch (number) {
+    case ErrorNumber::Overflow:
+      return u"A number is too large for its place."_s;
+    case ErrorNumber::OutOfRange:
+      return u"A line or entry was asked for that isn't there."_s;
+    case ErrorNumber::TypeMismatch:
+      return u"What stands there isn't the number, amount or date that it must be."_s;
+    case ErrorNumber::BadFileNumber:
+      return u"The file was closed before it was read."_s;
+    case ErrorNumber::FileNotFound:
+      return u"The file isn't there."_s;
+    case ErrorNumber::DiskFull:
+      return u"The disk is full."_s;
+    case ErrorNumber::InputPastEnd:
+      return u"The file ends too early."_s;
+    case ErrorNumber::BadFileName:
+      return u"This can't be the name of a file."_s;
+    case ErrorNumber::PermissionDenied:
+      return u"The file or its folder is write-protected or may not be used."_s;
+    case ErrorNumber::PathFileAccess:
+      return u"The file or folder can't be used."_s;
+    case ErrorNumber::PathNotFound:
+      return u"The folder isn't there."_s;
+    case ErrorNumber::PrinterError:
+      return u"The printer can't be used."_s;
+    case ErrorNumber::DialogCancelled:
+      return u"The dialog was cancelled."_s;
+    default:
+      return u"The program met an error."_s;
+  }
+}
+
+}  // namespace
+
+RuntimeError::RuntimeError(int number, QString subject, Origin origin)
+    : RuntimeError(number, std::move(subject), TextOf(number), origin) {}
+
+RuntimeError::RuntimeError(int number, QString subject, QString text, Origin origin)
+    : m_number(number), m_subject(std::move(subject)), m_text(std::move(text)), m_origin(origin) {
+  m_what = u"error %1, %2: %3"_s.arg(m_number).arg(m_subject, m_text).toUtf8();
+}
+
+RuntimeError RuntimeError::AsFileContent(const QString& fileName) const {
+  return RuntimeError(m_number, fileName, m_text, Origin::FileContent);
+}

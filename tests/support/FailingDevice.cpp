@@ -1,0 +1,97 @@
+#include "support/FailingDevice.h"
+
+void FailingDevice::FailAt(Call call, int nth, int error) {
+  Reset();
+  m_failures[{call, nth}] = error;
+}
+
+void FailingDevice::WriteShortAt(int nth, qint64 size, int error) {
+  FailAt(Call::Write, nth + 1, error);
+  m_shortAt = nth;
+  m_shortSize = size;
+}
+
+void FailingDevice::KillAt(int nth) {
+  Reset();
+  m_killAt = nth;
+}
+
+int FailingDevice::Count(Call call) const {
+  const auto found = m_counts.find(call);
+  return found == m_counts.end() ? 0 : found->second;
+}
+
+void FailingDevice::Reset() {
+  m_counts.clear();
+  m_all = 0;
+  m_failures.clear();
+  m_killAt = 0;
+  m_shortAt = 0;
+}
+
+int FailingDevice::Enter(Call call) {
+  const int nth = ++m_counts[call];
+  ++m_all;
+  // Closing is what the system does for a killed process; it runs from a destructor and can't throw.
+  if (m_killAt > 0 && m_all >= m_killAt && call != Call::Close) throw Killed();
+  const auto failure = m_failures.find({call, nth});
+  return failure == m_failures.end() ? 0 : -failure->second;
+}
+
+int FailingDevice::Open(const QString& path, OpenMode mode) {
+  const int failed = Enter(Call::Open);
+  return failed < 0 ? failed : FileDevice::Open(path, mode);
+}
+
+qint64 FailingDevice::Read(int descriptor, char* data, qint64 size, qint64 offset) {
+  const int failed = Enter(Call::Read);
+  return failed < 0 ? failed : FileDevice::Read(descriptor, data, size, offset);
+}
+
+qint64 FailingDevice::Write(int descriptor, const char* data, qint64 size, qint64 offset) {
+  const int failed = Enter(Call::Write);
+  if (failed < 0) return failed;
+  if (m_shortAt == Count(Call::Write)) size = m_shortSize;
+  return FileDevice::Write(descriptor, data, size, offset);
+}
+
+int FailingDevice::Truncate(int descriptor, qint64 size) {
+  const int failed = Enter(Call::Truncate);
+  return failed < 0 ? failed : FileDevice::Truncate(descriptor, size);
+}
+
+int FailingDevice::Flush(int descriptor) {
+  const int failed = Enter(Call::Flush);
+  return failed < 0 ? failed : FileDevice::Flush(descriptor);
+}
+
+int FailingDevice::Close(int descriptor) {
+  const int failed = Enter(Call::Close);
+  const int closed = FileDevice::Close(descriptor);
+  return failed < 0 ? failed : closed;
+}
+
+int FailingDevice::CopyPermissions(const QString& from, int descriptor) {
+  const int failed = Enter(Call::CopyPermissions);
+  return failed < 0 ? failed : FileDevice::CopyPermissions(from, descriptor);
+}
+
+int FailingDevice::Rename(const QString& from, const QString& to) {
+  const int failed = Enter(Call::Rename);
+  return failed < 0 ? failed : FileDevice::Rename(from, to);
+}
+
+int FailingDevice::Remove(const QString& path) {
+  const int failed = Enter(Call::Remove);
+  return failed < 0 ? failed : FileDevice::Remove(path);
+}
+
+int FailingDevice::MakeFolder(const QString& path) {
+  const int failed = Enter(Call::MakeFolder);
+  return failed < 0 ? failed : FileDevice::MakeFolder(path);
+}
+
+int FailingDevice::FlushFolder(const QString& path) {
+  const int failed = Enter(Call::FlushFolder);
+  return failed < 0 ? failed : FileDevice::FlushFolder(path);
+}

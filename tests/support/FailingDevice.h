@@ -1,0 +1,62 @@
+/// A file device that works on the real disk until the test's nth call, then fails as a full or broken disk does, or
+/// stops as if the process had been killed.
+#pragma once
+
+#include <map>
+
+#include "runtime/FileDevice.h"
+
+class FailingDevice : public FileDevice {
+ public:
+  enum class Call {
+    Open,
+    Read,
+    Write,
+    Truncate,
+    Flush,
+    Close,
+    CopyPermissions,
+    Rename,
+    Remove,
+    MakeFolder,
+    FlushFolder
+  };
+
+  /// Thrown in place of the call at which the process is killed, and of every later one.
+  struct Killed {};
+
+  /// The `nth` call of the kind from now on, from 1, answers `-error` and does nothing.
+  void FailAt(Call call, int nth, int error);
+  /// The `nth` write takes only `size` bytes; the one after it answers `-error`.
+  void WriteShortAt(int nth, qint64 size, int error);
+  /// Every call from the `nth` on, whatever its kind.
+  void KillAt(int nth);
+  /// All calls of a kind, or of any kind, since the last setting.
+  int Count(Call call) const;
+  int CountAll() const { return m_all; }
+  /// Nothing fails any more; the counts begin anew.
+  void Reset();
+
+  int Open(const QString& path, OpenMode mode) override;
+  qint64 Read(int descriptor, char* data, qint64 size, qint64 offset) override;
+  qint64 Write(int descriptor, const char* data, qint64 size, qint64 offset) override;
+  int Truncate(int descriptor, qint64 size) override;
+  int Flush(int descriptor) override;
+  int Close(int descriptor) override;
+  int CopyPermissions(const QString& from, int descriptor) override;
+  int Rename(const QString& from, const QString& to) override;
+  int Remove(const QString& path) override;
+  int MakeFolder(const QString& path) override;
+  int FlushFolder(const QString& path) override;
+
+ private:
+  /// Counts the call; a negative errno if it is the one to fail.
+  int Enter(Call call);
+
+  std::map<Call, int> m_counts;
+  int m_all = 0;
+  std::map<std::pair<Call, int>, int> m_failures;
+  int m_killAt = 0;
+  int m_shortAt = 0;
+  qint64 m_shortSize = 0;
+};
