@@ -2,15 +2,25 @@
 /// the program and asserted.
 #pragma once
 
-#include <QWidget>
 #include <array>
+#include <QWidget>
 
 template <typename Control, int Count>
 class ControlArray {
  public:
+  /// Gathers the elements in one pass over the form, which must have been set up.
   ControlArray(const QObject* form, const QString& name) {
-    for (int i = 0; i < Count; ++i) {
-      m_controls[static_cast<std::size_t>(i)] = form->findChild<Control*>(name + u'_' + QString::number(i));
+    const QString prefix = name + u'_';
+    for (Control* control : form->findChildren<Control*>()) {
+      const QString own = control->objectName();
+      if (!own.startsWith(prefix)) {
+        continue;
+      }
+      bool isNumber = false;
+      const int index = QStringView(own).sliced(prefix.size()).toInt(&isNumber);
+      if (isNumber && index >= 0 && index < Count) {
+        m_controls[static_cast<std::size_t>(index)] = control;
+      }
     }
   }
   Control* operator[](int index) const {

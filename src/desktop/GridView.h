@@ -2,35 +2,60 @@
 /// the top row by one; a right press makes the pressed row current first.
 #pragma once
 
-#include <QTableView>
 #include <functional>
+#include <QPointer>
+#include <QTableView>
 
 #include "runtime/TextMatrix.h"
 
 class GridView : public QTableView {
  public:
   explicit GridView(QWidget* parent = nullptr);
-  /// The matrix must outlive the view. Widths follow the format string's, and the widest column takes what is left.
+  ~GridView() override;
+  /// The matrix must outlive the view. Columns are at least as wide as the format string says and as their texts, and
+  /// the widest takes what is left. The view follows the matrix's `RowChanged` and passes it on to whoever had set it
+  /// before; who wants to be told after that sets the view's own `RowChanged`.
   void SetMatrix(TextMatrix* matrix);
   TextMatrix* Matrix() const { return m_matrix; }
   int TopRow() const;
+  /// Bounded by the first row and by the last one that can stand on top.
   void SetTopRow(int row);
 
-  std::function<void()> Click;                 ///< Left click on a cell; the matrix's row and column are set.
+  // Errors of these go to the screen's guard.
+  std::function<void()> Click;  ///< Left click on a cell; the matrix's row and column are set.
   std::function<void()> DoubleClick;
+  /// On a cell, or the menu key on the current one.
   std::function<void(const QPoint& globalPosition)> RightPress;
-  std::function<void(int key)> KeyPress;       ///< Character codes; Backspace is 8.
-  std::function<void(int key)> KeyUp;          ///< Enter is 13.
+  std::function<void(int key)> KeyPress;  ///< Character codes; Backspace is 8, Enter 13.
+  std::function<void(int key)> KeyUp;     ///< Enter is 13. Only where the grid saw the press as well.
+  /// The current row changed, by code or by hand; it may throw where code changed it.
+  std::function<void(int row)> RowChanged;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void ShowRow();  ///< The view follows the matrix.
+  void TakeRow();  ///< The matrix follows the view.
+  void FitSoon();
+  void FitColumns();
+  int NeededWidth(int col) const;
+
   TextMatrix* m_matrix = nullptr;
+  std::function<void(int)> m_priorRowChanged;
+  QPointer<TextMatrix> m_alive;
+  QPersistentModelIndex m_pressed;
+  int m_pressedKey = 0;
   int m_wheel = 0;
+  bool m_fitting = false;
 };

@@ -3,7 +3,7 @@
 
 #include "runtime/Dialogs.h"
 
-class QtDialogs final : public Dialogs {
+class QtDialogs : public Dialogs {
  public:
   void ShowMessage(const QString& text, const QString& title = {}) override;
   bool AskYesNo(const QString& text, const QString& title = {}) override;

@@ -2,15 +2,17 @@
 /// doesn't give by itself: handlers that no exception leaves, boxes that settle when they are left, and key filters.
 #pragma once
 
-#include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <QMainWindow>
 
+#include "desktop/WindowPlacement.h"
 #include "runtime/RuntimeError.h"
 
 class QAbstractButton;
 class QComboBox;
 class QLineEdit;
+class TypedText;
 
 /// What a screen tells the program around it.
 class ScreenHost {
@@ -20,6 +22,11 @@ class ScreenHost {
   virtual void UnhandledError(const RuntimeError& error) = 0;
   /// The user's own window close box.
   virtual void UserClosed() = 0;
+  /// Where the last screen stood: the next one opens there.
+  WindowPlacement& Placement() { return m_placement; }
+
+ private:
+  WindowPlacement m_placement;
 };
 
 class Screen : public QMainWindow {
@@ -29,19 +36,24 @@ class Screen : public QMainWindow {
 
   /// Runs each time the screen is shown, before its window appears.
   virtual void Activate() {}
-  /// The focus that the activation asked for is set once the window is visible.
+  /// The focus that the activation asked for is set once the window is visible. Showing the window does it.
   void ApplyPendingFocus();
 
- protected:
-  /// Before the program ends because the user closed this window.
-  virtual void BeforeUserClose() {}
-
   /// Runs a handler under the guard: a RuntimeError goes to the host, and no later statement of the event runs.
-  void Run(const std::function<void()>& handler);
+  /// Answers whether the handler ran to its end.
+  bool Run(const std::function<void()>& handler);
+
+  void setVisible(bool visible) override;
+
+ protected:
+  /// Before the program ends because the user closed this window. An error in it keeps the program running.
+  virtual void BeforeUserClose() {}
 
   /// How a click treats the box that was left for it: `Dropped` when its check takes the focus back (Save, post,
   /// Finalize), or `Always` run (Menu, Cancel, Clear, Continue).
   enum class WhenLeaveRefused { Dropped, Always };
+  /// The button takes the focus first, so that the box that is left settles before the handler runs; the same for the
+  /// access key, the space bar, and Enter on the button.
   void OnClick(QAbstractButton* button, std::function<void()> handler,
                WhenLeaveRefused rule = WhenLeaveRefused::Dropped);
 
@@ -60,6 +72,9 @@ class Screen : public QMainWindow {
   }
 
   /// The focus comes to, or leaves, a control of this window; never because a box, a menu or another program took it.
+  /// A leave handler runs before the enter handler of the control that gets the focus. Where it takes the focus back,
+  /// the enter handler of its own box runs instead, and where it sends it to a third control, that one's. Hiding the
+  /// window is no leaving.
   void OnEnter(QWidget* control, std::function<void()> handler);
   void OnLeave(QWidget* control, std::function<void()> handler);
 
@@ -72,13 +87,21 @@ class Screen : public QMainWindow {
   void SetTypingLimit(QWidget* box, int characters);
 
   /// Gives the focus where the control is visible and enabled, else does nothing. Before the window shows, the
-  /// request is kept until it does.
+  /// request is kept until it does; of several the last that can be granted then is.
   void SetFocusTo(QWidget* control);
 
   void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   struct State;
+  TypedText& Typed(QWidget* box);
+
   std::unique_ptr<State> m_state;
   ScreenHost& m_host;
 };
+
+/// Runs a callback of a control under the guard of the screen that the control stands on; plainly where there is none.
+/// For what the user's own events start; what code starts is called plainly, so that an error ends the whole event.
+void RunInScreen(QWidget* control, const std::function<void()>& callback);

@@ -1,10 +1,34 @@
 /// The one look of all screens: Fusion with one small palette and one spacing grid (8 and 16 units).
+///
+/// A control says what it is by its dynamic property "look", set in its form:
+///   "title"        the label at the top left that says what the screen is about
+///   "hint"         a label in a quieter colour, for explanations
+///   "heading"      a label over a group of boxes
+///   "amount"       a label or box that shows a figure: right-aligned
+///   "panel"        a frame on its own ground: help panels and views beside a grid
+///   "primary"      the button of the way forward, one per view
+///   "destructive"  a button that deletes; it stands apart from the others
+///
+/// All screens are built alike, top to bottom: a title row (title left), the form or grid, which takes the room that is
+/// left, and the row of actions: "Menu" at its left end, a spacer, the others, and the way forward at its right end.
+/// Layout margins and spacings aren't set in the forms: the style gives 16 around a window and 8 inside.
 #pragma once
 
 class QApplication;
+class QColor;
+class QPalette;
 
-/// Sets style, palette (light or dark, as the platform's), fonts and the application's display name.
+/// Sets style, palette (light or dark, as the platform's) and fonts.
 void ApplyStyle(QApplication& application);
+
+/// The two palettes; every text on its ground has a contrast of at least 4.5 to 1.
+QPalette LightPalette();
+QPalette DarkPalette();
+/// The grounds of buttons that stand out, white text on them.
+QColor PrimaryGround();
+QColor DestructiveGround();
+/// Quieter text on the palette's window ground.
+QColor HintText(const QPalette& palette);
 
 namespace Spacing {
 inline constexpr int Small = 8;

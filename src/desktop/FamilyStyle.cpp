@@ -1,0 +1,97 @@
+#include "desktop/FamilyStyle.h"
+
+#include <QAbstractButton>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QVariant>
+
+#include "desktop/Style.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool IsWindowGround(const QWidget* widget) {
+  if (widget == nullptr || widget->isWindow()) {
+    return true;
+  }
+  const auto* window = qobject_cast<const QMainWindow*>(widget->parentWidget());
+  return window != nullptr && window->centralWidget() == widget;
+}
+
+void LookOfLabel(QLabel* label, QStringView look) {
+  QFont font = label->font();
+  if (look == "title"_L1) {
+    font.setPointSizeF(font.pointSizeF() * 1.5);
+    font.setWeight(QFont::DemiBold);
+    label->setFont(font);
+  } else if (look == "heading"_L1) {
+    font.setWeight(QFont::DemiBold);
+    label->setFont(font);
+  } else if (look == "amount"_L1) {
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  } else if (look == "hint"_L1) {
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, HintText(palette));
+    label->setPalette(palette);
+  }
+}
+
+void LookOfButton(QAbstractButton* button, QStringView look) {
+  if (look != "primary"_L1 && look != "destructive"_L1) {
+    return;
+  }
+  const QColor ground = look == "primary"_L1 ? PrimaryGround() : DestructiveGround();
+  QPalette palette = button->palette();
+  for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::Button, ground);
+    palette.setColor(group, QPalette::ButtonText, Qt::white);
+  }
+  button->setPalette(palette);
+}
+
+}  // namespace
+
+FamilyStyle::FamilyStyle() : QProxyStyle(u"Fusion"_s) {}
+
+int FamilyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  switch (metric) {
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+      return IsWindowGround(widget) ? Spacing::Large : Spacing::Small;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+      return Spacing::Small;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+int FamilyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* returnData) const {
+  // Access keys are always underlined, so that they can be learnt.
+  return hint == SH_UnderlineShortcut ? 1 : QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+void FamilyStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  const QString look = widget->property("look").toString();
+  if (look.isEmpty()) {
+    return;
+  }
+  if (auto* label = qobject_cast<QLabel*>(widget)) {
+    LookOfLabel(label, look);
+  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+    LookOfButton(button, look);
+  } else if (auto* line = qobject_cast<QLineEdit*>(widget); line != nullptr && look == "amount"_L1) {
+    line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  } else if (auto* frame = qobject_cast<QFrame*>(widget); frame != nullptr && look == "panel"_L1) {
+    frame->setFrameShape(QFrame::StyledPanel);
+    frame->setAutoFillBackground(true);
+    frame->setBackgroundRole(QPalette::AlternateBase);
+  }
+}

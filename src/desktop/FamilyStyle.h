@@ -1,0 +1,14 @@
+/// Fusion with the spacing of this program's screens and the looks that their controls name.
+#pragma once
+
+#include <QProxyStyle>
+
+class FamilyStyle : public QProxyStyle {
+ public:
+  FamilyStyle();
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returnData) const override;
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override;
+};

@@ -1,0 +1,278 @@
+#include "desktop/GridView.h"
+
+#include <algorithm>
+#include <numeric>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "desktop/CharacterCode.h"
+#include "desktop/Screen.h"
+#include "desktop/Style.h"
+
+namespace {
+
+// One notch of a plain wheel, in eighths of a degree.
+constexpr int Notch = 120;
+
+int ReleasedCode(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return 13;
+    case Qt::Key_Backspace:
+      return 8;
+    case Qt::Key_Delete:
+      return 46;
+    case Qt::Key_Escape:
+      return 27;
+    default:
+      return event.key() < 0x100 ? event.key() : 0;
+  }
+}
+
+}  // namespace
+
+GridView::GridView(QWidget* parent) : QTableView(parent) {
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setEditTriggers(NoEditTriggers);
+  setAlternatingRowColors(true);
+  setTabKeyNavigation(false);
+  setVerticalScrollMode(ScrollPerItem);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Spacing::Small);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->setMinimumSectionSize(2 * Spacing::Large);
+}
+
+GridView::~GridView() {
+  if (m_alive != nullptr) {
+    m_alive->RowChanged = m_priorRowChanged;
+  }
+}
+
+void GridView::SetMatrix(TextMatrix* matrix) {
+  m_matrix = matrix;
+  m_alive = matrix;
+  m_priorRowChanged = matrix->RowChanged;
+  setModel(matrix);
+  matrix->RowChanged = [this](int row) {
+    ShowRow();
+    if (m_priorRowChanged) {
+      m_priorRowChanged(row);
+    }
+    if (RowChanged) {
+      RowChanged(row);
+    }
+  };
+  for (auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+    connect(matrix, signal, this, [this] { FitSoon(); });
+  }
+  connect(matrix, &QAbstractItemModel::dataChanged, this, [this] { FitSoon(); });
+  connect(matrix, &QAbstractItemModel::modelReset, this, [this] {
+    ShowRow();
+    FitSoon();
+  });
+  connect(matrix, &QAbstractItemModel::layoutChanged, this, [this] {
+    ShowRow();
+    FitSoon();
+  });
+  ShowRow();
+  FitColumns();
+}
+
+int GridView::TopRow() const {
+  return verticalScrollBar()->value() + 1;
+}
+
+void GridView::SetTopRow(int row) {
+  verticalScrollBar()->setValue(row - 1);
+}
+
+void GridView::ShowRow() {
+  const QModelIndex index = m_matrix->index(m_matrix->Row() - 1, std::max(0, m_matrix->Col()));
+  if (!index.isValid()) {
+    setCurrentIndex({});
+    clearSelection();
+    return;
+  }
+  if (index.row() != currentIndex().row() || !selectionModel()->isRowSelected(index.row())) {
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index.siblingAtColumn(columnAt(0)));
+  }
+}
+
+void GridView::TakeRow() {
+  const QModelIndex index = currentIndex();
+  if (m_matrix == nullptr || !index.isValid()) {
+    return;
+  }
+  if (m_matrix->Col() != index.column()) {
+    m_matrix->SetCol(index.column());
+  }
+  if (m_matrix->Row() != index.row() + 1) {
+    m_matrix->SetRow(index.row() + 1);
+  }
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+  const QModelIndex index = indexAt(event->position().toPoint());
+  if (m_matrix == nullptr || !index.isValid()) {
+    // A press beside the lines leaves the current one alone.
+    event->accept();
+    return;
+  }
+  QTableView::mousePressEvent(event);
+  if (event->button() == Qt::RightButton) {
+    setCurrentIndex(index);
+  }
+  m_pressed = index;
+  const QPoint position = event->globalPosition().toPoint();
+  const Qt::MouseButton button = event->button();
+  RunInScreen(this, [this, position, button] {
+    TakeRow();
+    if (button == Qt::RightButton && RightPress) {
+      RightPress(position);
+    }
+  });
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+  QTableView::mouseReleaseEvent(event);
+  const bool clicked = m_pressed.isValid() && m_pressed == indexAt(event->position().toPoint());
+  m_pressed = QModelIndex();
+  RunInScreen(this, [this] { TakeRow(); });
+  if (clicked && event->button() == Qt::LeftButton) {
+    RunInScreen(this, Click);
+  }
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The first of the two presses was the click; its row is current.
+  if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+    RunInScreen(this, DoubleClick);
+  }
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() == QContextMenuEvent::Keyboard && currentIndex().isValid() && RightPress) {
+    const QPoint position = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    RunInScreen(this, [this, position] { RightPress(position); });
+  }
+  event->accept();
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  if (!event->isAutoRepeat()) {
+    m_pressedKey = event->key();
+  }
+  if (const std::optional<int> code = CharacterCode(*event)) {
+    // Letters never search the lines: they are for the cell.
+    if (KeyPress) {
+      RunInScreen(this, [this, key = *code] { KeyPress(key); });
+    } else {
+      event->ignore();
+    }
+    return;
+  }
+  QTableView::keyPressEvent(event);
+  RunInScreen(this, [this] { TakeRow(); });
+}
+
+void GridView::keyReleaseEvent(QKeyEvent* event) {
+  QTableView::keyReleaseEvent(event);
+  if (event->isAutoRepeat() || event->key() != m_pressedKey) {
+    return;
+  }
+  m_pressedKey = 0;
+  if (KeyUp) {
+    RunInScreen(this, [this, key = ReleasedCode(*event)] { KeyUp(key); });
+  }
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  // The toolkit makes the first cell current on its own; the matrix knows better.
+  if (m_matrix != nullptr) {
+    ShowRow();
+  }
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+  // A key that opened a box, or that closed one, isn't a key pressed and released here.
+  m_pressedKey = 0;
+  QTableView::focusOutEvent(event);
+}
+
+void GridView::wheelEvent(QWheelEvent* event) {
+  const QPoint delta = event->angleDelta();
+  if (std::abs(delta.x()) > std::abs(delta.y())) {
+    QTableView::wheelEvent(event);
+    return;
+  }
+  // Fine wheels and touch pads send parts of a notch.
+  m_wheel += delta.y();
+  const int rows = m_wheel / Notch;
+  m_wheel -= rows * Notch;
+  SetTopRow(TopRow() - rows);
+  event->accept();
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  FitColumns();
+}
+
+void GridView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Spacing::Small);
+    FitSoon();
+  }
+}
+
+void GridView::FitSoon() {
+  // A list that is being filled changes a thousand times; its columns are measured once after that.
+  if (!m_fitting) {
+    m_fitting = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          m_fitting = false;
+          FitColumns();
+        },
+        Qt::QueuedConnection);
+  }
+}
+
+int GridView::NeededWidth(int col) const {
+  const int format = fontMetrics().averageCharWidth() * m_matrix->FormatWidth(col) + Spacing::Small;
+  const int header = horizontalHeader()->sectionSizeHint(col);
+  return std::max({format, header, sizeHintForColumn(col)});
+}
+
+void GridView::FitColumns() {
+  if (m_matrix == nullptr || m_matrix->Cols() == 0) {
+    return;
+  }
+  std::vector<int> widths;
+  for (int col = 0; col < m_matrix->Cols(); ++col) {
+    widths.push_back(isColumnHidden(col) ? 0 : NeededWidth(col));
+  }
+  const int used = std::accumulate(widths.begin(), widths.end(), 0);
+  const auto widest = std::max_element(widths.begin(), widths.end());
+  *widest += std::max(0, viewport()->width() - used);
+  for (int col = 0; col < m_matrix->Cols(); ++col) {
+    if (!isColumnHidden(col)) {
+      setColumnWidth(col, widths[static_cast<std::size_t>(col)]);
+    }
+  }
+}

@@ -1,0 +1,43 @@
+#include "desktop/PictureButton.h"
+
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+#include "desktop/Style.h"
+
+PictureButton::PictureButton(QWidget* parent) : QPushButton(parent) {
+  setCursor(Qt::PointingHandCursor);
+}
+
+void PictureButton::SetPicture(const QPixmap& picture) {
+  m_picture = picture;
+  updateGeometry();
+  update();
+}
+
+QSize PictureButton::sizeHint() const {
+  return m_picture.deviceIndependentSize().toSize() + QSize(Spacing::Small, Spacing::Small);
+}
+
+QSize PictureButton::minimumSizeHint() const {
+  return sizeHint().boundedTo(QSize(3 * Spacing::Large, 3 * Spacing::Large));
+}
+
+void PictureButton::paintEvent(QPaintEvent* event) {
+  Q_UNUSED(event)
+  QPainter painter(this);
+  const QRect room = rect().adjusted(Spacing::Small / 2, Spacing::Small / 2, -Spacing::Small / 2, -Spacing::Small / 2);
+  if (!m_picture.isNull()) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setOpacity(isEnabled() ? (isDown() ? 0.8 : 1.0) : 0.4);
+    QRect target(QPoint(), m_picture.deviceIndependentSize().toSize().scaled(room.size(), Qt::KeepAspectRatio));
+    target.moveCenter(room.center());
+    painter.drawPixmap(target, m_picture);
+    painter.setOpacity(1.0);
+  }
+  if (hasFocus()) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 3, 3);
+  }
+}
