@@ -7,6 +7,7 @@
 
 #include "runtime/Currency.h"
 
+class CommonAccountRoutines;
 class CommonDiskRoutines;
 class Dialogs;
 struct CustomerOnScreen;
@@ -31,7 +32,7 @@ void WriteSalesJournal(const SalesJournalEntry& entry, CommonDiskRoutines& disk)
 void WriteSalesJournal(const WorkingInvoice& invoice, CommonDiskRoutines& disk, QDate today);
 
 /// Ledger entry and backup of the account on the customer screen; a prepaid invoice posts its payment too.
-void WriteReceivable(const WorkingInvoice& invoice, const CustomerOnScreen& customer, CommonDiskRoutines& disk,
+void WriteReceivable(const WorkingInvoice& invoice, const CustomerOnScreen& customer, CommonAccountRoutines& accounts,
                      QDate today);
 
 void WriteTaxRecord(const QString& taxHeading, const QString& invoiceNo, QDate taxDate, const QString& taxAmount,

@@ -2,9 +2,10 @@
 #pragma once
 
 #include <QString>
+#include <vector>
 
+class Catalogue;
 class Dialogs;
-class TextMatrix;
 struct CatalogueLists;
 struct TaxConfiguration;
 struct WorkingInvoice;
@@ -41,8 +42,11 @@ void SetApplyTax(WorkingInvoice& invoice, int kind, const TaxConfiguration& tax)
 /// Empties the boxes of a kind after its post.
 void ClearLineEntry(WorkingInvoice& invoice, int kind);
 
-/// Picks an entry of `cboDescription`, by the user's hand or by code: text, matching price, focus to the units box. An
-/// index without an entry deselects.
+/// Places in `CatalogueLists::Entries` in the order in which `cboDescription` shows them: services and items as they
+/// stand, custom items alphabetically, ignoring case.
+std::vector<int> DescriptionOrder(const CatalogueLists& lists, int element);
+/// Picks an entry of `cboDescription`, by the user's hand or by code: text, matching price, focus to the units box. The
+/// index counts in the order shown; one without an entry deselects.
 void SelectDescription(WorkingInvoice& invoice, const CatalogueLists& lists, int element, int index);
 /// The description's text changed by typing; the entry that completes it, if any, is the combo box's own affair, and it
 /// picks that through `SelectDescription` when nothing is left to complete.
@@ -50,13 +54,13 @@ void TypeDescription(WorkingInvoice& invoice, int element, const QString& text);
 /// Picks an entry of `cboPrice`, or takes a price typed by hand, to which no quantity break applies.
 void SelectPrice(WorkingInvoice& invoice, const CatalogueLists& lists, int element, int index);
 void TypePrice(WorkingInvoice& invoice, int element, const QString& text);
-/// Deselects description and price and empties the text of both.
+/// Deselects description and price and empties the text of both. A list that was filled anew has nothing selected, so
+/// the screen calls this when the catalogue announces a change of the element.
 void ClearSelection(WorkingInvoice& invoice, int element);
 
-/// `lstCategories`: an entry other than the first narrows the item lists and their breaks to the rows of `fgItems` in
-/// that category, and empties the boxes; the focus goes to the description. The first entry, "All", is a reload of the
-/// items, which the catalogue does.
-void NarrowItems(WorkingInvoice& invoice, CatalogueLists& lists, const TextMatrix& fgItems, const QString& category);
+/// `lstCategories`: "All", the first entry, loads all items again; another narrows the item lists to its category,
+/// empties the boxes and gives the focus to the description. An index without an entry does nothing.
+void PickCategory(WorkingInvoice& invoice, Catalogue& catalogue, const CatalogueLists& lists, int index);
 
 /// Leaving `txtUnits`: text that isn't a number becomes "0", with a beep and the focus back.
 void LeaveUnits(WorkingInvoice& invoice, Dialogs& dialogs);

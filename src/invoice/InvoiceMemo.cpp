@@ -1,0 +1,62 @@
+#include "invoice/InvoiceMemo.h"
+
+#include "invoice/WorkingInvoice.h"
+#include "shell/CommonDiskRoutines.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString MemoFile = u"/InvoiceMemo.txt"_s;
+
+void SetMemoTick(WorkingInvoice& invoice, bool shows) {
+  invoice.Controls.Visible.lblMemo = shows;
+  invoice.Controls.Visible.ckAddMemo = shows;
+}
+
+void SaveInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
+  if (invoice.txtMemo.isEmpty()) return;
+  disk.ReplaceTextFile(MemoFile, QString(invoice.txtMemo).replace(u'\n', u"\r\n"_s));
+  SetMemoTick(invoice, true);
+  invoice.Controls.Enabled.cmdInvoiceMemo_1 = true;
+}
+
+}  // namespace
+
+void LoadInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
+  invoice.DefaultMemo.clear();
+  if (!disk.FileExists(MemoFile)) {
+    invoice.txtMemo.clear();
+    SetMemoTick(invoice, false);
+    invoice.ckAddMemo = false;
+    return;
+  }
+  SetMemoTick(invoice, true);
+  invoice.ckAddMemo = true;
+  ListReader file = disk.OpenInputFile(MemoFile);
+  while (!file.AtEnd()) invoice.DefaultMemo += file.ReadString() + u'\n';
+  invoice.txtMemo += invoice.DefaultMemo;
+}
+
+void DoInvoiceMemoCommand(WorkingInvoice& invoice, int index, CommonDiskRoutines& disk) {
+  if (index == 0) {
+    invoice.Controls.Visible.lblMemo = false;
+    invoice.txtMemo.clear();
+    invoice.Controls.Focus = u"txtMemo"_s;
+  } else if (index == 1) {
+    invoice.txtMemo.clear();
+    LoadInvoiceMemo(invoice, disk);
+  } else if (index == 2) {
+    SaveInvoiceMemo(invoice, disk);
+  }
+}
+
+void OpenMemo(WorkingInvoice& invoice) {
+  if (invoice.ckAddMemo) return;
+  invoice.Controls.Enabled.cmdInvoiceMemo_1 = false;
+  invoice.Controls.Enabled.cmdInvoiceMemo_2 = false;
+}
+
+void TypeInMemo(WorkingInvoice& invoice) {
+  invoice.Controls.Enabled.cmdInvoiceMemo_2 = true;
+}
