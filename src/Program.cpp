@@ -1,0 +1,131 @@
+#include "Program.h"
+
+#include "catalogue/frmServices.h"
+#include "ProgramObjects.h"
+#include "records/PartialList.h"
+#include "shell/ErrorText.h"
+#include "shell/frmSplash.h"
+#include "shell/frmStartup.h"
+#include "shell/KarvexMasterModule.h"
+
+Program::Program(const Platform& platform) : m_platform(platform), m_objects(std::make_unique<Objects>(m_platform)) {}
+
+Program::~Program() {
+  m_screens.clear();
+}
+
+CommonDiskRoutines& Program::Disk() {
+  return m_objects->Disk;
+}
+
+bool Program::Start() {
+  m_starting = true;
+  try {
+    if (!CheckPreviousInstance(m_objects->Instance, *m_platform.Boxes)) {
+      EndProcess();
+      return false;
+    }
+    MakeDataTree(m_objects->Disk, *m_platform.Calendar);
+    m_objects->LoadSettings();
+    Show(ScreenName::frmSplash);
+    m_objects->LoadHiddenScreens();
+  } catch (const RuntimeError& error) {
+    UnhandledError(error);
+  }
+  m_starting = false;
+  return !m_ended;
+}
+
+std::unique_ptr<Screen> Program::Build(ScreenName screen) {
+  switch (screen) {
+    case ScreenName::frmSplash:
+      return std::make_unique<frmSplash>(*this, *this, m_objects->Disk, m_platform.Version);
+    case ScreenName::frmStartup:
+      return std::make_unique<frmStartup>(*this, *this, MenuContext());
+    case ScreenName::frmServices:
+      return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
+    default:
+      return nullptr;
+  }
+}
+
+MainMenuContext Program::MenuContext() {
+  return {m_objects->Disk, *m_platform.Boxes, m_platform.ProgramFolder, [this] {
+            LoadPartialList(m_objects->Partials, m_objects->Disk);
+            return m_objects->Partials.Count();
+          }};
+}
+
+Screen* Program::Built(ScreenName screen) const {
+  const auto found = m_screens.find(screen);
+  return found == m_screens.end() ? nullptr : found->second.get();
+}
+
+void Program::Show(ScreenName screen) {
+  std::unique_ptr<Screen>& slot = m_screens[screen];
+  if (!slot) slot = Build(screen);
+  if (!slot || slot->isVisible() || m_ended) return;
+  slot->Activate();
+  Open(*slot);
+}
+
+void Program::Open(Screen& screen) {
+  screen.show();
+  screen.activateWindow();
+  screen.ApplyPendingFocus();
+}
+
+void Program::Hide(ScreenName screen) {
+  if (Screen* built = Built(screen)) built->hide();
+}
+
+void Program::Unload(ScreenName screen) {
+  const auto found = m_screens.find(screen);
+  if (found == m_screens.end() || !found->second) return;
+  found->second->hide();
+  // The screen may be in the middle of its own handler.
+  found->second.release()->deleteLater();
+  m_screens.erase(found);
+}
+
+void Program::ShowSetupAtFirstTab() {
+  Show(ScreenName::frmSetup);
+}
+
+void Program::StartInvoiceFor(const SoldTo&) {
+  Show(ScreenName::frmInvoice);
+}
+
+void Program::PrintSample() {
+  m_objects->Routines.RunPrintJob(*m_platform.Boxes, [this] {
+    m_objects->Routines.BeginPrintJobWithoutDialog();
+    m_objects->Pages.PrintSample();
+  });
+}
+
+void Program::QuitProgram() {
+  if (m_ended) return;
+  m_objects->Disk.BackupDataFiles();
+  EndProcess();
+}
+
+void Program::UserClosed() {
+  QuitProgram();
+}
+
+void Program::UnhandledError(const RuntimeError& error) {
+  if (m_ended) return;
+  const bool ends = m_starting || error.From() == RuntimeError::Origin::FileContent;
+  m_platform.Boxes->ShowMessage(ErrorBoxText(error, ends));
+  // Without the exit backup: it would overwrite good copies with what may be damaged.
+  if (ends) EndProcess();
+}
+
+void Program::EndProcess() {
+  m_ended = true;
+  for (auto it = m_screens.rbegin(); it != m_screens.rend(); ++it) {
+    if (it->second) it->second->hide();
+  }
+  m_objects->Instance.Release();
+  if (Ended) Ended();
+}

@@ -1,0 +1,77 @@
+/// The roof: owns the rules objects and the screens, wires them, and catches what nobody caught.
+///
+/// Two programs on two data roots can live one after the other in one process; nothing is kept outside this object.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <QString>
+
+#include "desktop/Screen.h"
+#include "shell/Screens.h"
+
+class Clock;
+class CommonDiskRoutines;
+class Dialogs;
+class FileDevice;
+class Printer;
+struct MainMenuContext;
+
+/// What a program runs on.
+struct Platform {
+  QString DataRoot;       ///< Absolute, without a trailing separator; exists.
+  QString EXEName;        ///< The program file's name without extension.
+  QString ProgramFolder;  ///< Where the supplied files and the manual stand.
+  QString LockFolder;     ///< Outside the data root: where the mark of a running instance stands.
+  QString Version;        ///< "major.minor.revision".
+  FileDevice* Files = nullptr;
+  const Clock* Calendar = nullptr;
+  Dialogs* Boxes = nullptr;
+  Printer* Paper = nullptr;
+};
+
+class Program final : public Screens, public ScreenHost {
+ public:
+  explicit Program(const Platform& platform);
+  ~Program() override;
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  /// `Sub Main`. False when the program ended in it: another instance runs, or something failed (a box told so).
+  bool Start();
+  bool HasEnded() const { return m_ended; }
+  /// Called once, when the program has ended; the event loop is the caller's to leave.
+  std::function<void()> Ended;
+
+  /// The screen, or nullptr while it isn't built. For tests and for taking pictures.
+  Screen* Built(ScreenName screen) const;
+  CommonDiskRoutines& Disk();
+
+  // Screens
+  void Show(ScreenName screen) override;
+  void Hide(ScreenName screen) override;
+  void Unload(ScreenName screen) override;
+  void ShowSetupAtFirstTab() override;
+  void StartInvoiceFor(const SoldTo& customer) override;
+  void PrintSample() override;
+  void QuitProgram() override;
+
+  // ScreenHost
+  void UnhandledError(const RuntimeError& error) override;
+  void UserClosed() override;
+
+ private:
+  struct Objects;  ///< Every rules object, by folder.
+
+  MainMenuContext MenuContext();
+  std::unique_ptr<Screen> Build(ScreenName screen);
+  void Open(Screen& screen);
+  void EndProcess();
+
+  Platform m_platform;
+  std::unique_ptr<Objects> m_objects;
+  std::map<ScreenName, std::unique_ptr<Screen>> m_screens;
+  bool m_starting = false;
+  bool m_ended = false;
+};

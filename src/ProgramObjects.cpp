@@ -1,0 +1,38 @@
+#include "ProgramObjects.h"
+
+#include <QImage>
+
+#include "invoice/InvoiceMemo.h"
+
+namespace {
+
+bool IsPicture(const QByteArray& content) {
+  return !QImage::fromData(content).isNull();
+}
+
+}  // namespace
+
+Program::Objects::Objects(const Platform& platform)
+    : On(platform),
+      Store(*platform.Files),
+      Disk(Store, platform.DataRoot, platform.EXEName),
+      Instance(platform.LockFolder, platform.DataRoot),
+      Prices(Disk, Lists, SalesItems),
+      Routines(*platform.Paper, Live.Print),
+      Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}) {
+  Live.Business.UseAddressStyle = [this](bool usaStyle) { Customer.UsaAddress = usaStyle; };
+}
+
+void Program::Objects::LoadSettings() {
+  LoadSetup(Disk, Live, &IsPicture, [this] {
+    // What the invoice screen sets at its own load; the settings file then has the last word.
+    Live.Invoicer.cboDiscount = QStringLiteral("2.0");
+    Live.Invoicer.cboDays = QStringLiteral("10");
+    LoadInvoiceMemo(Invoice, Disk);
+  });
+}
+
+void Program::Objects::LoadHiddenScreens() {
+  LoadSalesItems(SalesItems, Disk);
+  Prices.Load();
+}

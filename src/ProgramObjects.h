@@ -1,0 +1,41 @@
+/// Every rules object of the program, made in one place and handed by reference to whoever needs it.
+#pragma once
+
+#include "catalogue/Catalogue.h"
+#include "catalogue/CatalogueLists.h"
+#include "catalogue/SalesItemsList.h"
+#include "customers/CustomerOnScreen.h"
+#include "invoice/WorkingInvoice.h"
+#include "printing/KVPrint.h"
+#include "printing/PrinterRoutines.h"
+#include "Program.h"
+#include "records/PartialList.h"
+#include "runtime/Clock.h"
+#include "runtime/Dialogs.h"
+#include "setup/LiveSettings.h"
+#include "shell/CommonDiskRoutines.h"
+#include "shell/MainMenu.h"
+#include "shell/PreviousInstance.h"
+
+struct Program::Objects {
+  explicit Objects(const Platform& platform);
+
+  /// The load of Setup: every setting, in the order that the files' effects need; the invoice's own defaults first.
+  void LoadSettings();
+  /// What the other screens load while the start-up screen shows.
+  void LoadHiddenScreens();
+
+  const Platform& On;
+  FileStore Store;
+  CommonDiskRoutines Disk;
+  PreviousInstance Instance;
+  LiveSettings Live;
+  CatalogueLists Lists;
+  SalesItemsList SalesItems;
+  Catalogue Prices;
+  CustomerOnScreen Customer;
+  WorkingInvoice Invoice;
+  PartialList Partials;
+  PrinterRoutines Routines;
+  KVPrint Pages;
+};

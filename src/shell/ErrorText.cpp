@@ -1,0 +1,42 @@
+#include "shell/ErrorText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString WhatToDo(const RuntimeError& error) {
+  switch (error.Number()) {
+    case ErrorNumber::DiskFull:
+      return u"The disk is full. Make room on it and try again; what stood in the file is unchanged."_s;
+    case ErrorNumber::PermissionDenied:
+    case ErrorNumber::PathFileAccess:
+      return u"Check that the program may write to its folder, then try again; what stood in the file is unchanged."_s;
+    case ErrorNumber::PathNotFound:
+      return u"The folder isn't there. Start the program again: it makes its folders at each start."_s;
+    case ErrorNumber::TypeMismatch:
+    case ErrorNumber::Overflow:
+      return u"Correct what was typed and try again. Nothing was lost."_s;
+    case ErrorNumber::OutOfRange:
+      return u"There is no room for it. Nothing was lost."_s;
+    default:
+      return u"Nothing was lost. Try again."_s;
+  }
+}
+
+}  // namespace
+
+QString ErrorBoxText(const RuntimeError& error, bool ends) {
+  QString text = error.Text();
+  if (!error.Subject().isEmpty()) text = error.Subject() + u": "_s + text;
+  text += u" (error "_s + QString::number(error.Number()) + u")\n\n"_s;
+  if (error.From() == RuntimeError::Origin::FileContent) {
+    text +=
+        u"The file can't be read as what it must be. The program ends and leaves all files as they are. Put the copy "
+        u"from the Backup folder in its place, or remove the file, then start the program again."_s;
+  } else if (ends) {
+    text += u"The program can't start. Mend this and start it again; no file was changed by it."_s;
+  } else {
+    text += WhatToDo(error);
+  }
+  return text;
+}

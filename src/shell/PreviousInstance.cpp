@@ -1,0 +1,30 @@
+#include "shell/PreviousInstance.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+
+using namespace Qt::StringLiterals;
+
+PreviousInstance::PreviousInstance(const QString& lockFolder, const QString& dataRoot) : m_folder(lockFolder) {
+  // Two ways to one folder are one root.
+  const QString canonical = QFileInfo(dataRoot).canonicalFilePath();
+  const QByteArray root = (canonical.isEmpty() ? dataRoot : canonical).toUtf8();
+  const QByteArray mark = QCryptographicHash::hash(root, QCryptographicHash::Sha1).toHex();
+  m_lock = std::make_unique<QLockFile>(lockFolder + u"/karvex-invoicer-"_s + QString::fromLatin1(mark) + u".lock"_s);
+  // A mark never grows old: only the death of its program frees it.
+  m_lock->setStaleLockTime(0);
+}
+
+PreviousInstance::~PreviousInstance() = default;
+
+bool PreviousInstance::Claim() {
+  QDir().mkpath(m_folder);
+  if (m_lock->tryLock(0)) return true;
+  return m_lock->error() != QLockFile::LockFailedError;
+}
+
+void PreviousInstance::Release() {
+  m_lock->unlock();
+}
