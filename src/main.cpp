@@ -3,6 +3,7 @@
 #include <QStandardPaths>
 
 #include "desktop/PaperPrinter.h"
+#include "desktop/Pictures.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/Style.h"
 #include "Program.h"
@@ -16,6 +17,7 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   ApplyStyle(application);
+  QApplication::setWindowIcon(LogoPicture());
 
   FileDevice files;
   FileStore store(files);

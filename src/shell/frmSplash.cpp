@@ -1,5 +1,6 @@
 #include "shell/frmSplash.h"
 
+#include "desktop/Pictures.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/DataTree.h"
 #include "shell/Screens.h"
@@ -14,7 +15,7 @@ frmSplash::frmSplash(ScreenHost& host, Screens& screens, CommonDiskRoutines& dis
       m_disk(disk),
       m_version(version) {
   m_ui->setupUi(this);
-  const QPixmap logo(u":/pictures/logo.png"_s);
+  const QPixmap logo = LogoPicture();
   m_ui->Image1_0->SetPicture(logo);
   m_ui->Image1_1->SetPicture(logo);
   m_ui->fraWelcome->setTitle(u"Welcome to "_s + disk.EXEName());

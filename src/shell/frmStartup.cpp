@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 
+#include "desktop/Pictures.h"
 #include "runtime/Dialogs.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/frmOrderMenu.h"
@@ -18,7 +19,7 @@ frmStartup::frmStartup(ScreenHost& host, Screens& screens, MainMenuContext conte
       m_context(std::move(context)) {
   m_ui->setupUi(this);
   m_options = std::make_unique<ControlArray<QRadioButton, 7>>(this, u"optMainMenuSub"_s);
-  m_ui->picture->setPixmap(QPixmap(u":/pictures/logo.png"_s));
+  m_ui->picture->setPixmap(LogoPicture());
   // The options lie in several frames and are one choice all the same.
   auto* group = new QButtonGroup(this);
   for (int i = 0; i < 7; ++i) {
