@@ -33,8 +33,9 @@ QString ShortDateText(QDate date) {
 QDate ParseShortDate(QStringView text, const QString& subject) {
   const QList<QStringView> parts = text.split(u'/');
   if (parts.size() == 3) {
-    const QDate date(Digits(parts[2], 4, 4), Digits(parts[0], 1, 2), Digits(parts[1], 1, 2));
-    if (date.isValid()) return date;
+    const int year = Digits(parts[2], 4, 4);
+    const QDate date(year, Digits(parts[0], 1, 2), Digits(parts[1], 1, 2));
+    if (year > 0 && date.isValid()) return date;
   }
   throw RuntimeError(ErrorNumber::TypeMismatch, subject);
 }

@@ -12,9 +12,13 @@ bool IsDigit(QChar c) {
   return c >= u'0' && c <= u'9';
 }
 
-/// `number` is a plain ASCII number with a point; too large gives infinity.
-double FromPlainDigits(const QByteArray& number) {
-  return number.toDouble();
+/// Too large gives infinity, too small zero.
+double ToDouble(const NumericText& number) {
+  if (number.digits.isEmpty()) return 0;
+  bool inRange = false;
+  double value = (number.digits + 'e' + QByteArray::number(number.exponent)).toDouble(&inRange);
+  if (!inRange) value = number.digits.size() + number.exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
+  return number.negative ? -value : value;
 }
 
 template <typename Int>
@@ -35,37 +39,36 @@ bool IsNumeric(QStringView text) {
 double ToNumber(QStringView text, const QString& subject) {
   const auto parsed = ParseNumericText(text);
   if (!parsed) throw RuntimeError(ErrorNumber::TypeMismatch, subject);
-  if (parsed->digits.isEmpty()) return 0;
-  const double value = FromPlainDigits(parsed->digits + 'e' + QByteArray::number(parsed->exponent));
+  const double value = ToDouble(*parsed);
   if (std::isinf(value)) throw RuntimeError(ErrorNumber::Overflow, subject);
-  return parsed->negative ? -value : value;
+  return value;
 }
 
 double ParseLeadingNumber(QStringView text) {
   qsizetype at = 0;
-  QByteArray number;
-  const auto take = [&] { number.append(static_cast<char>(text[at++].unicode())); };
-  const auto takeDigits = [&] {
+  const auto skip = [&](auto belongs) {
     const qsizetype before = at;
-    while (at < text.size() && IsDigit(text[at])) take();
+    while (at < text.size() && belongs(text[at])) ++at;
     return at - before;
   };
+  const auto skipOne = [&](QStringView any) {
+    const bool found = at < text.size() && any.contains(text[at]);
+    if (found) ++at;
+    return found;
+  };
 
-  while (at < text.size() && text[at] == u' ') ++at;
-  if (at < text.size() && (text[at] == u'-' || text[at] == u'+')) take();
-  qsizetype digits = takeDigits();
-  if (at < text.size() && text[at] == u'.') {
-    take();
-    digits += takeDigits();
-  }
+  skip([](QChar c) { return c == u' '; });
+  skipOne(u"+-");
+  qsizetype digits = skip(IsDigit);
+  if (skipOne(u".")) digits += skip(IsDigit);
   if (digits == 0) return 0;
-  if (at < text.size() && (text[at] == u'e' || text[at] == u'E')) {
-    const QByteArray mantissa = number;
-    take();
-    if (at < text.size() && (text[at] == u'-' || text[at] == u'+')) take();
-    if (takeDigits() == 0) number = mantissa;
+  qsizetype end = at;
+  if (skipOne(u"Ee")) {
+    skipOne(u"+-");
+    if (skip(IsDigit) > 0) end = at;
   }
-  const double value = FromPlainDigits(number);
+  const auto number = ParseNumericText(text.first(end));
+  const double value = number ? ToDouble(*number) : 0;
   if (std::isinf(value)) return std::copysign(std::numeric_limits<double>::max(), value);
   return value;
 }

@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cmath>
+#include <limits>
 #include <QtEndian>
 
 #include "runtime/CodePage.h"
@@ -96,7 +97,7 @@ QByteArrayView RecordBuffer::Bytes(qsizetype number) const {
 int RecordCountOf(qint64 fileLength, int recordLength, const QString& fileName) {
   // The default rounding mode: ties to even.
   const double count = std::nearbyint(static_cast<double>(fileLength) / recordLength);
-  if (count > recordLimit) {
+  if (fileLength > std::numeric_limits<qint32>::max() || count > recordLimit) {
     throw RuntimeError(ErrorNumber::Overflow, fileName, RuntimeError::Origin::FileContent);
   }
   return static_cast<int>(count);

@@ -1,6 +1,7 @@
 #include "runtime/TextMatrix.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <numeric>
 
@@ -27,6 +28,17 @@ std::vector<int> StableOrder(int count, const std::function<bool(int, int)>& les
     order.swap(merged);
   }
   return order;
+}
+
+/// What isn't a number, or is beyond any, compares as text.
+double NumberOrNaN(const QString& text) {
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  if (!IsNumeric(text)) return none;
+  try {
+    return ToNumber(text);
+  } catch (const RuntimeError&) {
+    return none;
+  }
 }
 
 Qt::Alignment AlignmentOf(QChar mark) {
@@ -147,16 +159,12 @@ void TextMatrix::SortRows(const std::function<bool(const QStringList&, const QSt
 
 void TextMatrix::SortGenericAscending(int col) {
   Require(0, col);
-  constexpr double none = std::numeric_limits<double>::quiet_NaN();
   std::vector<double> numbers;
   numbers.reserve(m_cells.size());
-  for (int row = 1; row < m_rows; ++row) {
-    const QString& text = Text(row, col);
-    numbers.push_back(IsNumeric(text) ? ToNumber(text) : none);
-  }
+  for (int row = 1; row < m_rows; ++row) numbers.push_back(NumberOrNaN(Text(row, col)));
   Reorder(StableOrder(m_rows - 1, [&](int a, int b) {
     const double x = numbers[static_cast<size_t>(a)], y = numbers[static_cast<size_t>(b)];
-    if (x == x && y == y) return x < y;
+    if (!std::isnan(x) && !std::isnan(y)) return x < y;
     return Text(a + 1, col) < Text(b + 1, col);
   }));
 }

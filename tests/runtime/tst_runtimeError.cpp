@@ -1,0 +1,44 @@
+// What an error tells, and whether it speaks of a damaged file.
+#include <QtTest>
+
+#include "runtime/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+
+class RuntimeErrorTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void everyNumberHasASentence_data() {
+    QTest::addColumn<int>("number");
+    for (const int number : {6, 9, 13, 52, 53, 61, 62, 64, 70, 75, 76, 482, 32755})
+      QTest::addRow("%d", number) << number;
+  }
+  void everyNumberHasASentence() {
+    QFETCH(int, number);
+    const RuntimeError error(number, u"/Phone.txt"_s);
+    QVERIFY(error.Text().endsWith(u'.'));
+    QVERIFY(error.Text() != RuntimeError(1, {}).Text());
+    QVERIFY(!error.Text().contains(u"Phone"_s));
+    QCOMPARE(error.Number(), number);
+    QCOMPARE(error.Subject(), u"/Phone.txt"_s);
+  }
+
+  void anErrorEndsTheEventUnlessItIsDamage() {
+    const RuntimeError error(13, u"txtUnits"_s, u"Words of its own."_s);
+    QCOMPARE(error.From(), RuntimeError::Origin::Event);
+    const RuntimeError damage = error.AsFileContent(u"/Labor.txt"_s);
+    QCOMPARE(damage.From(), RuntimeError::Origin::FileContent);
+    QCOMPARE(damage.Number(), 13);
+    QCOMPARE(damage.Subject(), u"/Labor.txt"_s);
+    QCOMPARE(damage.Text(), u"Words of its own."_s);
+  }
+
+  void theWholeErrorCanBeRead() {
+    QCOMPARE(RuntimeError(61, u"/Labor.txt"_s).what(), "error 61, /Labor.txt: The disk is full.");
+    QCOMPARE(RuntimeError(13, u"%2 %1"_s, u"%1."_s).what(), "error 13, %2 %1: %1.");
+  }
+};
+
+QTEST_GUILESS_MAIN(RuntimeErrorTest)
+#include "tst_runtimeError.moc"
