@@ -1,0 +1,66 @@
+#include "support/ProgramFixture.h"
+
+#include <QtTest>
+
+#include "desktop/Style.h"
+
+using namespace Qt::StringLiterals;
+
+ProgramFixture::ProgramFixture() {
+  ApplyStyle(*qApp);
+}
+
+ProgramFixture::~ProgramFixture() {
+  m_program.reset();
+}
+
+bool ProgramFixture::Start() {
+  Platform platform;
+  platform.DataRoot = Tree.Root();
+  platform.EXEName = EXEName;
+  platform.ProgramFolder = Tree.Root();
+  platform.LockFolder = m_lockFolder.Root();
+  platform.Version = u"1.0.0"_s;
+  platform.Files = &Files;
+  platform.Calendar = &Calendar;
+  platform.Boxes = &Dialogs;
+  platform.Paper = &Paper;
+  m_program = std::make_unique<Program>(platform);
+  const bool runs = m_program->Start();
+  ScreenDriver::ProcessEvents();
+  return runs;
+}
+
+bool ProgramFixture::StartAtMenu() {
+  const QString settings = u'/' + EXEName + "Settings.txt"_L1;
+  if (!Tree.Exists(settings)) {
+    Tree.Write(settings, "1,0,0,0,0,\"0.0\",\"0\",#TRUE#,#FALSE#,\"$0.00\",\"$0.00\"\r\n");
+  }
+  if (!Tree.Exists(u"/MyBusinessData.txt"_s)) {
+    Tree.Write(
+        u"/MyBusinessData.txt"_s,
+        "\"Orange Grove Supply\",\"12 Grove Road\",\"\",\"Ocala\",\"FL\",\"34470\",\"352-555-0100\",\"\",\"\"\r\n");
+  }
+  if (!Tree.Exists(u"/Phone.txt"_s)) {
+    Tree.Write(u"/Phone.txt"_s, "#FALSE#\r\n1\r\n");
+  }
+  if (!Start()) {
+    QTest::qFail("the program didn't start", __FILE__, __LINE__);
+    return false;
+  }
+  ScreenDriver(u"frmSplash"_s).Click(u"cmdContinue"_s);
+  return ScreenDriver::IsShown(u"frmStartup"_s);
+}
+
+void ProgramFixture::End() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && dynamic_cast<Screen*>(window) != nullptr) {
+      ScreenDriver(window).CloseByUser();
+      break;
+    }
+  }
+  if (!m_program->HasEnded()) {
+    QTest::qFail("the program didn't end", __FILE__, __LINE__);
+  }
+  m_program.reset();
+}

@@ -1,0 +1,51 @@
+/// The real program on a data root of its own: the files, screens and boxes are real; the clock stands still, the paper
+/// is recorded, and the user's answers are queued.
+///
+///   ProgramFixture program;                                       // nothing on the disk yet
+///   program.Tree.Write(u"/KVInvoiceNo.txt"_s, "20260017\r\n");
+///   program.Start();
+///   ScreenDriver menu(u"frmStartup"_s);
+///
+/// A local variable of the test function: its end checks that every queued answer was used.
+#pragma once
+
+#include <memory>
+
+#include "Program.h"
+#include "support/FailingDevice.h"
+#include "support/FixedClock.h"
+#include "support/QueuedAnswers.h"
+#include "support/RecordingPrinter.h"
+#include "support/ScreenDriver.h"
+#include "support/TemporaryTree.h"
+#include "support/TestDialogs.h"
+
+class ProgramFixture {
+ public:
+  ProgramFixture();
+  ~ProgramFixture();
+
+  /// `Sub Main`; answers whether the program runs.
+  bool Start();
+  /// Start, and past the start-up screen: the settings files are written first, so that no welcome stands in the way.
+  /// Answers with the main menu shown.
+  bool StartAtMenu();
+  /// Ends the program as the user does, by a window's close box, and forgets it; `Start` begins another on the same
+  /// tree.
+  void End();
+
+  Program& Running() { return *m_program; }
+  Screen* Built(ScreenName screen) { return m_program->Built(screen); }
+
+  TemporaryTree Tree;
+  FixedClock Calendar;
+  FailingDevice Files;
+  TestDialogs Dialogs;
+  RecordingPrinter Paper;
+  QueuedAnswers Answers;
+  QString EXEName = QStringLiteral("KarvexInvoicer");
+
+ private:
+  TemporaryTree m_lockFolder;
+  std::unique_ptr<Program> m_program;
+};
