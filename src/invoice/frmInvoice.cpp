@@ -1,0 +1,87 @@
+#include "invoice/frmInvoice.h"
+
+#include <QPlainTextEdit>
+#include <QScopeGuard>
+#include <QShortcut>
+
+#include "catalogue/Catalogue.h"
+#include "desktop/ListCombo.h"
+#include "invoice/ChargeBoxes.h"
+#include "invoice/InvoiceMemo.h"
+#include "invoice/WorkingInvoice.h"
+#include "ui_frmInvoice.h"
+
+using namespace Qt::StringLiterals;
+
+frmInvoice::frmInvoice(ScreenHost& host, const InvoiceDesk& desk)
+    : Screen(u"frmInvoice"_s, host),
+      m_desk(desk),
+      m_invoice(desk.Invoice),
+      ui(std::make_unique<Ui::frmInvoice>()),
+      m_cmdInvoice(BuildForm(), u"cmdInvoice"_s),
+      m_fraInstructions(this, u"fraInstructions"_s),
+      m_cboDescription(this, u"cboDescription"_s),
+      m_cboPrice(this, u"cboPrice"_s),
+      m_optDiscount(this, u"optDiscount"_s) {
+  BindHeader();
+  BindLineEntry();
+  BindPrintReady();
+  WireViews();
+  WireHeader();
+  WireLineEntry();
+  WireGrid();
+  WireMemo();
+  WirePrintReady();
+  WireFlow();
+  HideFrames();
+  ShowInstructions(0);
+  m_invoice.Refresh = [this] { ShowInvoice(); };
+  ShowInvoice();
+}
+
+frmInvoice* frmInvoice::BuildForm() {
+  ui->setupUi(this);
+  return this;
+}
+
+frmInvoice::~frmInvoice() {
+  m_invoice.Refresh = {};
+}
+
+std::function<void()> frmInvoice::Doing(std::function<void()> handler) {
+  return [this, handler = std::move(handler)] {
+    // An event inside another event finds values that the boxes don't show yet.
+    if (m_depth == 0) CollectTexts();
+    ++m_depth;
+    const auto shown = qScopeGuard([this] {
+      --m_depth;
+      ShowInvoice();
+    });
+    handler();
+  };
+}
+
+void frmInvoice::Do(const std::function<void()>& handler) {
+  Run(Doing(handler));
+}
+
+void frmInvoice::Click(QAbstractButton* button, const std::function<void()>& handler, WhenLeaveRefused rule) {
+  OnClick(button, Doing(handler), rule);
+}
+
+void frmInvoice::Enter(QWidget* box, const std::function<void()>& handler) {
+  OnEnter(box, Doing(handler));
+}
+
+void frmInvoice::Leave(QWidget* box, const std::function<void()>& handler) {
+  OnLeave(box, Doing(handler));
+}
+
+bool frmInvoice::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonDblClick) {
+    if (watched == ui->txtShip) Do([this] { ClearShip(m_invoice); });
+    if (watched == ui->txtMisc) Do([this] { ClearMisc(m_invoice); });
+  }
+  if (event->type() == QEvent::KeyPress && watched == ui->txtMemo) Do([this] { TypeInMemo(m_invoice); });
+  return Screen::eventFilter(watched, event);
+}

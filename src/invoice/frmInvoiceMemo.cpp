@@ -1,0 +1,18 @@
+// The memo that prints on each invoice.
+#include <QPlainTextEdit>
+
+#include "invoice/frmInvoice.h"
+#include "invoice/InvoiceMemo.h"
+#include "invoice/WorkingInvoice.h"
+#include "ui_frmInvoice.h"
+
+using namespace Qt::StringLiterals;
+
+void frmInvoice::WireMemo() {
+  ui->txtMemo->installEventFilter(this);
+  for (const int index : {0, 1, 2}) {
+    Click(findChild<QPushButton*>(u"cmdInvoiceMemo_%1"_s.arg(index)),
+          [this, index] { DoInvoiceMemoCommand(m_invoice, index, m_desk.Disk); });
+  }
+  Click(ui->cmdInvoiceMemo_4, [this] { ui->fraMemo->hide(); });
+}

@@ -1,0 +1,162 @@
+// The views: frames that are shown one at a time above the grid, and the help that goes with each.
+#include <QShortcut>
+
+#include "catalogue/Catalogue.h"
+#include "invoice/frmInvoice.h"
+#include "invoice/InvoiceMemo.h"
+#include "invoice/LaborEntry.h"
+#include "invoice/Totals.h"
+#include "invoice/WorkingInvoice.h"
+#include "runtime/Currency.h"
+#include "setup/LiveSettings.h"
+#include "ui_frmInvoice.h"
+
+using namespace Qt::StringLiterals;
+
+void frmInvoice::WireViews() {
+  Choose(ui->mnuSetup, ui->btnSetup, &frmInvoice::mnuSetup);
+  Choose(ui->mnuCreate, ui->btnCreate, &frmInvoice::mnuCreate);
+  Choose(ui->mnuPrint, ui->btnPrint, &frmInvoice::mnuPrint);
+  Choose(ui->mnuServices, ui->btnServices, &frmInvoice::mnuServices);
+  Choose(ui->mnuItems, ui->btnItems, &frmInvoice::mnuItems);
+  Choose(ui->mnuCItems, ui->btnCItems, &frmInvoice::mnuCItems);
+  Choose(ui->mnuManual, ui->btnManual, &frmInvoice::mnuManual);
+  Choose(ui->mnuLabor, ui->btnLabor, &frmInvoice::mnuLabor);
+  Choose(ui->mnuMemo, ui->btnMemo, &frmInvoice::mnuMemo);
+  Choose(ui->mnuNarrative, ui->btnNarrative, &frmInvoice::mnuNarrative);
+  On(ui->mnuClose, &QAction::triggered, Doing([this] { HideFrames(); }));
+  for (QWidget* frame : EntryFrames()) {
+    auto* escape = new QShortcut(Qt::Key_Escape, frame);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    On(escape, &QShortcut::activated, Doing([this] { HideFrames(); }));
+  }
+}
+
+void frmInvoice::Choose(QAction* entry, QToolButton* button, void (frmInvoice::*view)()) {
+  entry->setCheckable(true);
+  button->setDefaultAction(entry);
+  On(entry, &QAction::triggered, Doing([this, view] { (this->*view)(); }));
+}
+
+std::vector<QWidget*> frmInvoice::EntryFrames() const {
+  return {ui->fraItems, ui->fraCItems, ui->fraLabor, ui->fraManual, ui->fraNarrative, ui->fraServices, ui->fraMemo};
+}
+
+void frmInvoice::HideFrames() {
+  for (QWidget* frame : EntryFrames()) frame->hide();
+  ui->fraSetup->hide();
+  ui->fraPrintReady->hide();
+}
+
+void frmInvoice::ShowInstructions(int index) {
+  for (int i = 0; i < m_fraInstructions.Size(); ++i) m_fraInstructions[i]->hide();
+  m_fraInstructions[index]->show();
+}
+
+bool frmInvoice::Shows(const QWidget* control) const {
+  return control->isVisibleTo(this);
+}
+
+/// Way forward and view buttons follow the view.
+void frmInvoice::ShowViewButtons() {
+  const bool setup = Shows(ui->fraSetup);
+  const bool printReady = Shows(ui->fraPrintReady);
+  m_cmdInvoice[0]->setVisible(setup);
+  for (QWidget* button : {m_cmdInvoice[9], ui->cmdInvoiceContinue, ui->cmdCancelPrint}) button->setVisible(printReady);
+  // The button that stands out is the way forward of the view.
+  ui->cmdPrint->setVisible(!setup);
+  ui->cmdPrint->setPalette(printReady ? ui->cmdSave->palette() : ui->cmdInvoiceContinue->palette());
+  bool none = true;
+  for (const auto& [entry, frame] : {std::pair<QAction*, QWidget*>(ui->mnuSetup, ui->fraSetup),
+                                     {ui->mnuPrint, ui->fraPrintReady},
+                                     {ui->mnuServices, ui->fraServices},
+                                     {ui->mnuItems, ui->fraItems},
+                                     {ui->mnuCItems, ui->fraCItems},
+                                     {ui->mnuManual, ui->fraManual},
+                                     {ui->mnuLabor, ui->fraLabor},
+                                     {ui->mnuMemo, ui->fraMemo},
+                                     {ui->mnuNarrative, ui->fraNarrative}}) {
+    entry->setChecked(Shows(frame));
+    none = none && !Shows(frame);
+  }
+  ui->mnuCreate->setChecked(none);
+}
+
+void frmInvoice::mnuSetup() {
+  HideFrames();
+  ShowInstructions(0);
+  ui->fraSetup->show();
+}
+
+void frmInvoice::mnuCreate() {
+  HideFrames();
+  ShowInstructions(1);
+}
+
+void frmInvoice::mnuPrint() {
+  HideFrames();
+  ShowInstructions(2);
+  ui->fraPrintReady->show();
+  ComputeTotals(m_invoice, m_desk.Settings.Tax);
+}
+
+void frmInvoice::mnuServices() {
+  HideFrames();
+  ShowInstructions(9);
+  ClearSelection(m_invoice, 0);
+  ui->fraServices->show();
+  m_invoice.Controls.Focus = u"cboDescription_0"_s;
+}
+
+void frmInvoice::mnuItems() {
+  HideFrames();
+  ShowInstructions(6);
+  ui->lstCategories->setCurrentRow(-1);
+  ClearSelection(m_invoice, 1);
+  m_invoice.Entry.txtUnits.clear();
+  ui->fraItems->show();
+  m_invoice.Controls.Focus = u"cboDescription_1"_s;
+}
+
+void frmInvoice::mnuCItems() {
+  HideFrames();
+  ShowInstructions(11);
+  ClearSelection(m_invoice, 2);
+  m_invoice.Entry.txtCUnits.clear();
+  ui->fraCItems->show();
+  m_invoice.Controls.Focus = u"cboDescription_2"_s;
+}
+
+void frmInvoice::mnuManual() {
+  HideFrames();
+  ShowInstructions(7);
+  m_invoice.Entry.txtManual[1] = ZeroCurrencyText();
+  m_invoice.Entry.txtManual[2].clear();
+  ui->fraManual->show();
+  m_invoice.Controls.Focus = u"txtManual_0"_s;
+}
+
+void frmInvoice::mnuLabor() {
+  HideFrames();
+  ShowInstructions(8);
+  LoadLaborRates(m_invoice, m_desk.Prices.Labor);
+  ClearLabor(m_invoice);
+  ui->fraLabor->show();
+  for (size_t i = 0; i < m_invoice.Entry.LaborShows.size(); ++i) {
+    if (m_invoice.Entry.LaborShows[i]) m_invoice.Controls.Focus = u"txtHours_%1"_s.arg(i);
+  }
+}
+
+void frmInvoice::mnuMemo() {
+  HideFrames();
+  OpenMemo(m_invoice);
+  ui->fraMemo->show();
+  m_invoice.Controls.Focus = u"txtMemo"_s;
+}
+
+void frmInvoice::mnuNarrative() {
+  HideFrames();
+  ShowInstructions(10);
+  ui->fraNarrative->show();
+  m_invoice.Controls.Focus = u"txtNarrative"_s;
+}
