@@ -62,8 +62,12 @@ double RecordView::Double(qsizetype offset) const {
   return std::bit_cast<double>(Number<quint64>(m_bytes, offset));
 }
 
+QByteArrayView RecordView::TextBytes(qsizetype offset, qsizetype width) const {
+  return Trimmed(Slice(m_bytes, offset, width));
+}
+
 bool RecordView::TextEquals(qsizetype offset, qsizetype width, QByteArrayView codePageText) const {
-  return Trimmed(Slice(m_bytes, offset, width)) == codePageText;
+  return TextBytes(offset, width) == codePageText;
 }
 
 RecordBuilder& RecordBuilder::Text(qsizetype offset, qsizetype width, QStringView text) {

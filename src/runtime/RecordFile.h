@@ -17,6 +17,8 @@ class RecordView {
   qint32 Int32(qsizetype offset) const;
   Currency Amount(qsizetype offset) const;
   double Double(qsizetype offset) const;
+  /// The trimmed text as the bytes of the files' code page: what a scan compares without decoding.
+  QByteArrayView TextBytes(qsizetype offset, qsizetype width) const;
   /// Whether the text field, trimmed, equals `codePageText` (already converted and trimmed): no decoding.
   bool TextEquals(qsizetype offset, qsizetype width, QByteArrayView codePageText) const;
 

@@ -1,0 +1,43 @@
+/// The customer file, /CustomerData.txt: records numbered from 1 in file order, no index, no sort on the disk. Single
+/// records are read and written in place; a scan is one pass over the file, and a delete rewrites it.
+#pragma once
+
+#include <QList>
+#include <QStringList>
+
+#include "customers/CustomerRecord.h"
+
+class CommonDiskRoutines;
+
+/// What the pull-down lists of the customer screen hold.
+struct CustomerLists {
+  QStringList Accounts;  ///< Alphabetical, ignoring case; equal names in file order.
+  QList<int> Records;    ///< The data words: the record that each account stands at.
+  QStringList Cities;    ///< Each city once, in the order it first occurs; the empty text included.
+};
+
+class CustomerFile {
+ public:
+  explicit CustomerFile(CommonDiskRoutines& disk) : m_disk(disk) {}
+
+  /// The one buffer of the program: every read and write goes through it, and a scan leaves its last record in it.
+  CustomerRecord Buffer;
+
+  bool Exists();  ///< After the restore from /Backup.
+  /// Throws RuntimeError 6 above 32,767 records.
+  int Count();
+  /// Blank past the end of the file.
+  void Read(int number);
+  /// Extends the file where needed. Throws RuntimeError 61, 70 or 75.
+  void Write(int number);
+
+  /// Whether one of the first `count` records but `skip` has the account number, exactly; the scan stops there.
+  bool HasAccount(const QString& number, int count, int skip);
+  CustomerLists ReadLists(int count);
+  /// Takes one of `count` records out, and the ledger of `account` with it, live and copied. On a failure the file is
+  /// as it was.
+  void Remove(int number, int count, const QString& account);
+
+ private:
+  CommonDiskRoutines& m_disk;
+};
