@@ -49,10 +49,7 @@ void ListCombo::TakeOverLine() {
 }
 
 bool ListCombo::event(QEvent* event) {
-  // The form makes the box editable after its construction; nothing is typed before one of these.
-  if (event->type() == QEvent::Polish || event->type() == QEvent::Show || event->type() == QEvent::FocusIn) {
-    TakeOverLine();
-  }
+  TakeOverLine();
   return QComboBox::event(event);
 }
 

@@ -61,9 +61,10 @@ void SumLabor(WorkingInvoice& invoice) {
 
 void PostLabor(WorkingInvoice& invoice, const LaborRates& rates, const TaxConfiguration& tax) {
   TextMatrix& grid = invoice.fgInvoice;
-  // The limit of 100 lines isn't tested here, which is meant: the grid itself refuses a row too many.
+  // The limit of 100 lines isn't tested here, which is meant: only the grid refuses a row too many.
   for (size_t i = 0; i < Slots; ++i) {
     if (invoice.LaborAmount[i] == Currency()) continue;
+    RequireRoom(invoice);
     const int row = invoice.LineCount + 1;
     grid.SetText(row, LineColumn::Quantity, invoice.Entry.txtHours[i] + u" Hrs"_s);
     grid.SetText(row, LineColumn::Description, rates.txtLabor[i]);

@@ -10,6 +10,7 @@
 #include "runtime/Dates.h"
 #include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
 #include "setup/TaxConfiguration.h"
 
 using namespace Qt::StringLiterals;
@@ -105,6 +106,7 @@ std::optional<DraftLine> DraftManual(const LineEntryDesk& desk) {
 
 /// Into the row after the last line. A service has no quantity and leaves that cell as it is.
 void WriteRow(WorkingInvoice& invoice, int kind, const DraftLine& line) {
+  RequireRoom(invoice);
   TextMatrix& grid = invoice.fgInvoice;
   const int row = invoice.LineCount + 1;
   grid.SetText(row, LineColumn::Description, line.Description);
@@ -133,6 +135,12 @@ void PostLine(const LineEntryDesk& desk, int kind, bool descriptionShows) {
   }
   ClearLineEntry(invoice, kind);
   if (kind != LineKind::Manual && descriptionShows) SelectDescription(invoice, desk.Lists, ElementOf(kind), 0);
+}
+
+void RequireRoom(const WorkingInvoice& invoice) {
+  if (invoice.LineCount + 1 < invoice.fgInvoice.Rows()) return;
+  throw RuntimeError(ErrorNumber::OutOfRange, u"fgInvoice"_s,
+                     u"The Invoice is full: it has room for %1 lines."_s.arg(MaximumLines));
 }
 
 void SetApplyTax(WorkingInvoice& invoice, int kind, const TaxConfiguration& tax) {

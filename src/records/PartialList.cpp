@@ -13,7 +13,7 @@ const QString Folder = u"/KarvexInvoicer/IncompleteInvoices"_s;
 
 PartialList::PartialList()
     : fgIncomplete(
-          u"^Invoice No     |^Account Number| <Account Name                             |^Last Modified Date       "_s,
+          u"^Invoice No     |^Account Number|<Account Name                             |^Last Modified Date       "_s,
           2) {}
 
 QString PartialList::SelectedInvoiceNo() const {
