@@ -91,6 +91,7 @@ void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts) 
   const auto failed = [] { return RuntimeError(ErrorNumber::PrinterError, {}); };
   QPainter painter;
   if (!painter.begin(&device)) throw failed();
+  painter.setRenderHint(QPainter::LosslessImageRendering);  // A logo of few colours stays crisp.
   MarkPainter marks(painter, fonts);
   bool first = true;
   for (const PaperPage& page : job.Pages) {

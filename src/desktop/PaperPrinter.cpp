@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <utility>
@@ -30,12 +31,16 @@ bool PaperPrinter::IsPdf() {
 void PaperPrinter::ShowPrinter() {
   QPrinter& device = Device();
   PrepareSheet(device, true);
-  if (IsPdf()) device.setOutputFileName(NewPdfName());
+  MakeDocumentsFolder();
+  const QString newName = NewPdfName();
+  if (IsPdf()) device.setOutputFileName(newName);
   // The dialog writes into the device as the user looks around; a cancel takes that back.
   const QString printerBefore = device.printerName();
   const QString fileBefore = device.outputFileName();
   QPrintDialog dialog(&device, QApplication::activeWindow());
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
+  // Where a printer is chosen, the dialog would offer a file of its own making to those who then pick the PDF.
+  if (auto* fileName = dialog.findChild<QLineEdit*>(u"filename"_s)) fileName->setText(newName);
   if (dialog.exec() != QDialog::Accepted) {
     device.setPrinterName(printerBefore);
     device.setOutputFileName(fileBefore);
@@ -60,9 +65,18 @@ void PaperPrinter::SendJob(const PaperJob& job) {
   } else if (m_fileChosen) {
     SendToPdf(job, QFileInfo(Device().outputFileName()).absoluteFilePath());
   } else {
+    MakeDocumentsFolder();
     const QString path = NewPdfName();
     SendToPdf(job, path);
     m_dialogs.ShowMessage(u"The page was saved as a PDF file:\n"_s + path);
+  }
+}
+
+void PaperPrinter::MakeDocumentsFolder() {
+  try {
+    if (!m_store.IsFolder(m_documentsFolder)) m_store.MakeFolder(m_documentsFolder);
+  } catch (const RuntimeError&) {
+    // The user may choose another; a write that needs this one will say what is wrong.
   }
 }
 
@@ -77,7 +91,6 @@ QString PaperPrinter::NewPdfName() const {
 void PaperPrinter::SendToPdf(const PaperJob& job, const QString& path) {
   const QByteArray content = PdfOf(job, Orientation == 1, Fonts());
   try {
-    if (!m_store.IsFolder(m_documentsFolder)) m_store.MakeFolder(m_documentsFolder);
     m_store.ReplaceWhole(path, content);
   } catch (const RuntimeError& error) {
     throw RuntimeError(ErrorNumber::PrinterError, path, error.Text());

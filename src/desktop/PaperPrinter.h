@@ -28,6 +28,7 @@ class PaperPrinter final : public PaperSurface {
  private:
   QPrinter& Device();
   bool IsPdf();
+  void MakeDocumentsFolder();
   /// A file of the documents folder that isn't there yet.
   QString NewPdfName() const;
   void SendToPdf(const PaperJob& job, const QString& path);
