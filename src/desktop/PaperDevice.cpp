@@ -8,6 +8,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 
+#include "desktop/PackedColor.h"
 #include "desktop/PaperFonts.h"
 #include "runtime/RuntimeError.h"
 
@@ -21,11 +22,6 @@ void PrepareLayout(QPagedPaintDevice& device, bool portrait) {
   QPageLayout layout(QPageSize(QPageSize::Letter), orientation, {});
   layout.setMode(QPageLayout::FullPageMode);
   device.setPageLayout(layout);
-}
-
-QColor ColorOf(quint32 packedBgr) {
-  return QColor(static_cast<int>(packedBgr & 0xFF), static_cast<int>((packedBgr >> 8) & 0xFF),
-                static_cast<int>((packedBgr >> 16) & 0xFF));
 }
 
 /// Puts marks on a begun page; a pen or font that is set already isn't set again.
@@ -61,7 +57,7 @@ class MarkPainter {
  private:
   void SetPen(quint32 color, int width) {
     if (m_penColor == color && m_penWidth == width) return;
-    m_painter.setPen(QPen(ColorOf(color), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    m_painter.setPen(QPen(ColorFromPacked(color), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     m_penColor = color;
     m_penWidth = width;
   }

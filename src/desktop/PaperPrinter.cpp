@@ -1,12 +1,12 @@
 #include "desktop/PaperPrinter.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <utility>
 
+#include "desktop/DialogOwner.h"
 #include "desktop/PaperDevice.h"
 #include "runtime/Dialogs.h"
 #include "runtime/FileStore.h"
@@ -37,7 +37,8 @@ void PaperPrinter::ShowPrinter() {
   // The dialog writes into the device as the user looks around; a cancel takes that back.
   const QString printerBefore = device.printerName();
   const QString fileBefore = device.outputFileName();
-  QPrintDialog dialog(&device, QApplication::activeWindow());
+  const DialogOwner owner;
+  QPrintDialog dialog(&device, owner.Window());
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
   // Where a printer is chosen, the dialog would offer a file of its own making to those who then pick the PDF.
   if (auto* fileName = dialog.findChild<QLineEdit*>(u"filename"_s)) fileName->setText(newName);

@@ -6,51 +6,21 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
-#include <QMainWindow>
 #include <QMessageBox>
-#include <QPointer>
 #include <QUrl>
 
+#include "desktop/DialogOwner.h"
+#include "desktop/PackedColor.h"
 #include "runtime/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The window that a box belongs to, and that is active again once the box has closed. After one has closed no window
-/// may be active for a while; then it is the screen in sight.
-QWidget* Owner() {
-  if (QWidget* active = QApplication::activeWindow()) {
-    return active;
-  }
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && qobject_cast<QMainWindow*>(window) != nullptr) {
-      return window;
-    }
-  }
-  return nullptr;
-}
-
-class OwnerAgain {
- public:
-  explicit OwnerAgain(QWidget* owner) : m_owner(owner) {}
-  ~OwnerAgain() {
-    if (m_owner != nullptr && m_owner->isVisible()) {
-      m_owner->activateWindow();
-    }
-  }
-  OwnerAgain(const OwnerAgain&) = delete;
-  OwnerAgain& operator=(const OwnerAgain&) = delete;
-
- private:
-  QPointer<QWidget> m_owner;
-};
-
 int ShowBox(const QString& text, const QString& title, QMessageBox::StandardButtons buttons,
             QMessageBox::StandardButton escape) {
-  QWidget* owner = Owner();
-  const OwnerAgain again(owner);
-  QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? u"Karvex Invoicer"_s : title, text, buttons, owner);
+  const DialogOwner owner;
+  QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? u"Karvex Invoicer"_s : title, text, buttons, owner.Window());
   box.setTextFormat(Qt::PlainText);
   box.setEscapeButton(escape);
   return box.exec();
@@ -72,16 +42,6 @@ QString ToolkitFilter(const QString& filter) {
   return filters.join(";;"_L1);
 }
 
-QColor FromPacked(quint32 packed) {
-  return QColor(static_cast<int>(packed & 0xFF), static_cast<int>((packed >> 8) & 0xFF),
-                static_cast<int>((packed >> 16) & 0xFF));
-}
-
-quint32 ToPacked(const QColor& color) {
-  return static_cast<quint32>(color.red()) | static_cast<quint32>(color.green()) << 8 |
-         static_cast<quint32>(color.blue()) << 16;
-}
-
 }  // namespace
 
 void QtDialogs::ShowMessage(const QString& text, const QString& title) {
@@ -97,9 +57,8 @@ void QtDialogs::Beep() {
 }
 
 QString QtDialogs::ChooseFile(const QString& title, const QString& filter) {
-  QWidget* owner = Owner();
-  const OwnerAgain again(owner);
-  const QString chosen = QFileDialog::getOpenFileName(owner, title, QDir::homePath(), ToolkitFilter(filter));
+  const DialogOwner owner;
+  const QString chosen = QFileDialog::getOpenFileName(owner.Window(), title, QDir::homePath(), ToolkitFilter(filter));
   if (chosen.isEmpty()) {
     ThrowCancelled(title);
   }
@@ -107,21 +66,20 @@ QString QtDialogs::ChooseFile(const QString& title, const QString& filter) {
 }
 
 quint32 QtDialogs::ChooseColor(quint32 current) {
-  QWidget* owner = Owner();
-  const OwnerAgain again(owner);
-  const QColor chosen = QColorDialog::getColor(FromPacked(current), owner);
+  const DialogOwner owner;
+  const QColor chosen = QColorDialog::getColor(ColorFromPacked(current), owner.Window());
   if (!chosen.isValid()) {
     ThrowCancelled(u"Color"_s);
   }
-  return ToPacked(chosen);
+  return PackedFromColor(chosen);
 }
 
 QString QtDialogs::ChooseFont(const QString& current) {
-  QWidget* owner = Owner();
-  const OwnerAgain again(owner);
+  const DialogOwner owner;
   bool accepted = false;
   // Only scalable fonts come out on paper as they look on the screen.
-  const QFont chosen = QFontDialog::getFont(&accepted, QFont(current), owner, QString(), QFontDialog::ScalableFonts);
+  const QFont chosen =
+      QFontDialog::getFont(&accepted, QFont(current), owner.Window(), QString(), QFontDialog::ScalableFonts);
   if (!accepted) {
     ThrowCancelled(u"Font"_s);
   }

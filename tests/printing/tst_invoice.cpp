@@ -9,6 +9,7 @@ class TestInvoice : public QObject {
 
  private Q_SLOTS:
   void theWholePageInItsOrder();
+  void theNarrativeIsBlackSinceSoldToLeavesBlack();
   void shipToNeedsItsTick();
   void theDetachLineNeedsPerforatedPaper();
   void aDraftHasItsTitleAndNoTotals();
@@ -108,6 +109,16 @@ void TestInvoice::theWholePageInItsOrder() {
                         u"11020 13752.0 10b 204080 $1.00"_s,
                         u"10786 14112.0 12b ff0000 $77.33"_s,
                         u"1872 13824.0 12b 00ff00 Net 30"_s}));
+}
+
+void TestInvoice::theNarrativeIsBlackSinceSoldToLeavesBlack() {
+  PageFixture f;
+  f.FillLines(1);
+  f.Write(u"/KarvexInvoicer/Narratives/2500.txt"_s, "Work done\r\n");
+  PrintInvoice(f);
+  const QStringList texts = Described(f.Paper.Texts(1));
+  const qsizetype details = texts.indexOf(u"360 5328.0 10bu 000000 Details"_s);
+  QCOMPARE(texts.mid(details + 1, 2), QStringList({u"360 5551.0 10 000000 Work done"_s, u"1113 8496.0 10 204080 1"_s}));
 }
 
 void TestInvoice::shipToNeedsItsTick() {
