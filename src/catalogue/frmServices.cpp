@@ -22,10 +22,10 @@ frmServices::frmServices(ScreenHost& host, Screens& screens, Catalogue& catalogu
   m_txtLaborRate = std::make_unique<ControlArray<QLineEdit, 3>>(this, u"txtLaborRate"_s);
   for (const CatalogueList list : {CatalogueList::Services, CatalogueList::Items, CatalogueList::Custom}) {
     View(list)->SetMatrix(&m_catalogue.Grid(list));
-    View(list)->Click = [this, list] { Run([&] { RowClick(list); }); };
+    View(list)->Click = [this, list] { RowClick(list); };
     // Enter and the space bar click the row that the arrow keys reached.
     View(list)->KeyPress = [this, list](int key) {
-      if (key == 13 || key == ' ') Run([&] { RowClick(list); });
+      if (key == 13 || key == ' ') RowClick(list);
     };
   }
   ShowCatalogue();
@@ -73,10 +73,13 @@ void frmServices::ListenToCatalogue() {
 
 void frmServices::ConnectTabs() {
   On(m_ui->tabServices, &QTabWidget::currentChanged, [this](int tab) { FocusOnTab(tab); });
-  On(m_ui->Image1, &QAbstractButton::clicked, [this] {
-    QTabWidget* tabs = m_ui->tabServices;
-    tabs->setCurrentIndex((tabs->currentIndex() + 1) % tabs->count());
-  });
+  OnClick(
+      m_ui->Image1,
+      [this] {
+        QTabWidget* tabs = m_ui->tabServices;
+        tabs->setCurrentIndex((tabs->currentIndex() + 1) % tabs->count());
+      },
+      WhenLeaveRefused::Always);
 }
 
 void frmServices::FocusOnTab(int tab) {

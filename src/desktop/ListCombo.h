@@ -60,8 +60,8 @@ class ListCombo : public QComboBox {
   void Complete(const QString& typed);
   void Place(int index, const QString& text);
 
+  QPointer<QLineEdit> m_line;  ///< Before the entries: making them is an event of this box already.
   EntryModel* m_entries;
-  QPointer<QLineEdit> m_line;
   bool m_sorted = false;
   bool m_autoComplete = false;
   bool m_skipAutoComplete = false;
