@@ -68,6 +68,7 @@ class frmServices final : public Screen {
   void SaveCustomItem();
   bool RefusesEmpty(QLineEdit* box);
   bool RefusesLetters(QLineEdit* box);
+  bool MissesLine(CatalogueList list);
 
   // frmServicesBoxes.cpp: keys, entering and leaving
   void ConnectBoxes();

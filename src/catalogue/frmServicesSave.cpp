@@ -32,10 +32,18 @@ bool frmServices::RefusesLetters(QLineEdit* box) {
   return true;
 }
 
+/// The mode is one for all tabs: a Save may follow it to a list where no line was picked.
+bool frmServices::MissesLine(CatalogueList list) {
+  if (!m_modifyMode || m_catalogue.Grid(list).Row() > 0) return false;
+  m_dialogs.ShowMessage(u"Select the line to modify, or click Add New"_s);
+  return true;
+}
+
 void frmServices::SaveService() {
   if (RefusesEmpty((*m_txtDescription)[0]) || RefusesEmpty((*m_txtCharge)[0])) return;
   const QString charge = CurrencyTextOf((*m_txtCharge)[0]);
   m_ui->fgServices->setEnabled(true);
+  if (MissesLine(CatalogueList::Services)) return;
   const QListWidgetItem* time = m_ui->lstTime->currentItem();
   m_catalogue.PutRow(CatalogueList::Services, m_modifyMode,
                      {(*m_txtDescription)[0]->text(), charge, time == nullptr ? QString() : time->text()});
@@ -71,6 +79,7 @@ void frmServices::SaveItem() {
   whole16(m_ui->txtReorderAt);
 
   m_ui->fgItems->setEnabled(true);
+  if (MissesLine(CatalogueList::Items)) return;
   m_catalogue.PutRow(
       CatalogueList::Items, m_modifyMode,
       {(*m_txtDescription)[1]->text(), m_ui->cboCategory->Text(), m_ui->txtCost->text(), price, onHand, discountPrice,
@@ -93,6 +102,7 @@ void frmServices::SaveCustomItem() {
   ToInt32(quantity->text(), quantity->accessibleName());
 
   m_ui->fgCustom->setEnabled(true);
+  if (MissesLine(CatalogueList::Custom)) return;
   m_catalogue.PutRow(CatalogueList::Custom, m_modifyMode,
                      {(*m_txtDescription)[2]->text(), price, discountPrice, quantity->text()});
   ClearEntry(3);
