@@ -3,6 +3,7 @@
 #include "catalogue/frmServices.h"
 #include "ProgramObjects.h"
 #include "records/PartialList.h"
+#include "setup/frmSetup.h"
 #include "shell/ErrorText.h"
 #include "shell/frmSplash.h"
 #include "shell/frmStartup.h"
@@ -42,6 +43,9 @@ std::unique_ptr<Screen> Program::Build(ScreenName screen) {
       return std::make_unique<frmSplash>(*this, *this, m_objects->Disk, m_platform.Version);
     case ScreenName::frmStartup:
       return std::make_unique<frmStartup>(*this, *this, MenuContext());
+    case ScreenName::frmSetup:
+      return std::make_unique<frmSetup>(
+          *this, *this, SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live, m_platform.ProgramFolder});
     case ScreenName::frmServices:
       return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
     default:
@@ -89,6 +93,9 @@ void Program::Unload(ScreenName screen) {
 }
 
 void Program::ShowSetupAtFirstTab() {
+  std::unique_ptr<Screen>& setup = m_screens[ScreenName::frmSetup];
+  if (!setup) setup = Build(ScreenName::frmSetup);
+  static_cast<frmSetup&>(*setup).ShowFirstTab();
   Show(ScreenName::frmSetup);
 }
 

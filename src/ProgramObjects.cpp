@@ -1,16 +1,7 @@
 #include "ProgramObjects.h"
 
-#include <QImage>
-
 #include "invoice/InvoiceMemo.h"
-
-namespace {
-
-bool IsPicture(const QByteArray& content) {
-  return !QImage::fromData(content).isNull();
-}
-
-}  // namespace
+#include "setup/frmSetupPictures.h"
 
 Program::Objects::Objects(const Platform& platform)
     : On(platform),

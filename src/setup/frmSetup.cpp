@@ -1,0 +1,133 @@
+#include "setup/frmSetup.h"
+
+#include "desktop/ListCombo.h"
+#include "desktop/PictureButton.h"
+#include "runtime/Dialogs.h"
+#include "setup/frmSetupPictures.h"
+#include "shell/CommonDiskRoutines.h"
+#include "shell/DataTree.h"
+#include "shell/frmOrderMenu.h"
+#include "shell/Screens.h"
+#include "shell/VerifyDataRoutines.h"
+#include "ui_frmSetup.h"
+
+using namespace Qt::StringLiterals;
+
+frmSetup::frmSetup(ScreenHost& host, Screens& screens, SetupContext context)
+    : Screen(u"frmSetup"_s, host),
+      m_ui(std::make_unique<Ui::frmSetup>()),
+      m_screens(screens),
+      m_context(std::move(context)) {
+  m_ui->setupUi(this);
+  m_business = std::make_unique<ControlArray<QLineEdit, 9>>(this, u"txtBusiness"_s);
+  m_address = std::make_unique<ControlArray<QLabel, 9>>(this, u"lblAddress"_s);
+  m_graduated = std::make_unique<ControlArray<QLineEdit, 2>>(this, u"txtGradulated"_s);
+  BuildMenu();
+  ConnectTabs();
+  ConnectBusiness();
+  ConnectTaxes();
+  ConnectPrinting();
+  ConnectLogo();
+  ShowLiveSettings();
+  BuildBusiness();
+  ShowAddressStyle();
+}
+
+frmSetup::~frmSetup() = default;
+
+void frmSetup::BuildMenu() {
+  for (const auto& [action, entry] : BuildOrderMenu(m_ui->mnuForms)) {
+    On(action, &QAction::triggered,
+       [this, chosen = entry] { RunOrderEntry(chosen, m_context.ProgramFolder, m_context.Disk, m_context.Boxes); });
+  }
+}
+
+void frmSetup::ConnectTabs() {
+  for (PictureButton* next : {m_ui->Image1_0, m_ui->Image1_1}) next->SetPicture(SetupPicture(Picture::Next, palette()));
+  // The sub-tabs' stepper makes sense only where they show.
+  const auto showStepper = [this](int tab) {
+    const bool options = m_ui->tabInfo->widget(tab) == m_ui->pageOptions;
+    m_ui->lblNextSubTab->setVisible(options);
+    m_ui->Image1_1->setVisible(options);
+  };
+  showStepper(m_ui->tabInfo->currentIndex());
+  On(m_ui->tabInfo, &QTabWidget::currentChanged, showStepper);
+  const auto step = [](QTabWidget* tabs) { tabs->setCurrentIndex((tabs->currentIndex() + 1) % tabs->count()); };
+  OnClick(
+      m_ui->Image1_0, [this, step] { step(m_ui->tabInfo); }, WhenLeaveRefused::Always);
+  OnClick(
+      m_ui->Image1_1, [this, step] { step(m_ui->SSTab2); }, WhenLeaveRefused::Always);
+  OnClick(
+      m_ui->cmdQuit, [this] { SaveAndReturn(); }, WhenLeaveRefused::Always);
+
+  PhoneSettings& phone = m_context.Live.Phone;
+  WriteBack(m_ui->ckCallerID, phone.ckCallerID);
+  WriteBack(m_ui->ckPhone, phone.ckPhone);
+  On(m_ui->ckCallerID, &QCheckBox::toggled, [this](bool ticked) { m_ui->lblCallid->setVisible(ticked); });
+  On(m_ui->txtModemPort, &QLineEdit::textChanged, [&phone](const QString& text) { phone.txtModemPort = text; });
+}
+
+/// Copies the live settings to their controls. They differ only where the invoice, on its way out, re-read the settings
+/// file, and when the screen is built.
+void frmSetup::ShowLiveSettings() {
+  const PhoneSettings phone = m_context.Live.Phone;
+  m_ui->ckCallerID->setChecked(phone.ckCallerID);
+  m_ui->lblCallid->setVisible(phone.ckCallerID);
+  m_ui->txtModemPort->setText(phone.txtModemPort);
+  m_ui->ckPhone->setChecked(phone.ckPhone);
+  ShowTaxes();
+  ShowPrinting();
+  ShowLogo();
+}
+
+void frmSetup::Activate() {
+  ShowLiveSettings();
+  // The tax number's box isn't refreshed: it keeps what it holds, which is meant.
+  for (const int index : {0, 1, 3, 4, 2, 6, 7, 5}) CopyBusiness(index);
+  SetAddressStyle(m_context.Live.Business);
+  ShowAddressStyle();
+  m_ui->SSTab2->setCurrentIndex(0);
+  SetFocusTo((*m_business)[0]);
+}
+
+void frmSetup::ShowFirstTab() {
+  m_ui->tabInfo->setCurrentIndex(0);
+}
+
+void frmSetup::SaveAndReturn() {
+  if ((*m_business)[0]->text().isEmpty() || (*m_business)[6]->text().isEmpty()) {
+    m_context.Boxes.ShowMessage(u"Name and Telephone are Required"_s, u"Missing Name or Telphone"_s);
+    ShowFirstTab();  // The name's box can't have the focus on another tab.
+    SetFocusTo((*m_business)[0]);
+    return;
+  }
+  std::array<QString, 9> boxes;
+  for (int i = 0; i < 9; ++i) boxes[static_cast<std::size_t>(i)] = (*m_business)[i]->text();
+  LiveSettings& live = m_context.Live;
+  SaveBusinessData(m_context.Disk, live.Business, boxes);
+  SaveSettings(m_context.Disk, live);
+  ShowLiveSettings();
+  SavePrintColors(m_context.Disk, live.Print);
+  SaveLogoSettings(m_context.Disk, live.Print);
+  SavePhoneSettings(m_context.Disk, live.Phone);
+  SaveTaxSettings(m_context.Disk, live.Tax);
+  m_screens.Hide(ScreenName::frmSetup);
+  m_screens.Show(RequiredFilesPresent(m_context.Disk) ? ScreenName::frmStartup : ScreenName::frmSplash);
+}
+
+/// What feeds a line text file can't hold a double quote: the format has no way to write one.
+void frmSetup::RefuseQuotes(QWidget* box) {
+  FilterKeys(
+      box, [this](int key) { return VerifyQuoteKey(key, m_context.Boxes); },
+      [](int key) { return key == u'"' ? 0 : key; });
+}
+
+void frmSetup::WriteBack(QCheckBox* box, bool& value) {
+  On(box, &QCheckBox::toggled, [&value](bool ticked) { value = ticked; });
+}
+
+void frmSetup::WriteBack(ListCombo* box, QString& value) {
+  const auto write = [box, &value] { value = box->Text(); };
+  box->Click = write;
+  box->Change = write;
+}
