@@ -82,6 +82,10 @@ int FileDevice::MakeFolder(const QString& path) {
   return Attempt([&] { return ::mkdir(name.constData(), 0777); });
 }
 
+int FileDevice::MakeFolderIn(int folder, const char* name) {
+  return Attempt([&] { return ::mkdirat(folder, name, 0777); });
+}
+
 int FileDevice::FlushFolder(const QString& path) {
   const QByteArray name = QFile::encodeName(path);
   const int descriptor = Attempt([&] { return ::open(name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });

@@ -28,5 +28,7 @@ class FileDevice {
   virtual int Rename(const QString& from, const QString& to);
   virtual int Remove(const QString& path);
   virtual int MakeFolder(const QString& path);
+  /// `name` is relative to an open folder, in the file system's own characters.
+  virtual int MakeFolderIn(int folder, const char* name);
   virtual int FlushFolder(const QString& path);
 };

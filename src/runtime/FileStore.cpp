@@ -10,54 +10,17 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include "runtime/FileErrors.h"
 #include "runtime/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-bool IsKind(const QString& path, mode_t kind) {
-  struct stat status;
-  return ::stat(QFile::encodeName(path).constData(), &status) == 0 && (status.st_mode & S_IFMT) == kind;
-}
-
-QString FolderOf(const QString& path) {
-  return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
-}
-
 /// Beside the target, so that the rename stays on one disk; one fixed name, so that what a kill leaves behind is gone
 /// after the next save. No wildcard that the program lists by matches it.
 QString TemporaryNameOf(const QString& path) {
   return path + u".new"_s;
-}
-
-int NumberOf(int error, const QString& path) {
-  switch (error) {
-    case ENOENT:
-      return IsKind(FolderOf(path), S_IFDIR) ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
-    case ENOTDIR:
-      return ErrorNumber::PathNotFound;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return ErrorNumber::DiskFull;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      return ErrorNumber::PermissionDenied;
-    case ENAMETOOLONG:
-      return ErrorNumber::BadFileName;
-    default:
-      return ErrorNumber::PathFileAccess;
-  }
-}
-
-[[noreturn]] void Raise(qint64 result, const QString& path) {
-  throw RuntimeError(NumberOf(static_cast<int>(-result), path), path);
-}
-
-void Check(qint64 result, const QString& path) {
-  if (result < 0) Raise(result, path);
 }
 
 /// An open file that is closed whatever happens.
@@ -94,7 +57,7 @@ QByteArray ReadUpTo(FileDevice& device, int descriptor, qint64 size, qint64 offs
   qint64 filled = 0;
   while (filled < size) {
     const qint64 got = device.Read(descriptor, bytes.data() + filled, size - filled, offset + filled);
-    Check(got, path);
+    CheckFile(got, path);
     if (got == 0) break;
     filled += got;
   }
@@ -113,7 +76,7 @@ void EachMatch(const QString& folder, const QString& wildcard, const std::functi
     if (entry->d_type == DT_DIR) continue;
     const QString name = QFile::decodeName(entry->d_name);
     if (!pattern.match(name).hasMatch()) continue;
-    if (entry->d_type != DT_REG && !IsKind(folder + u'/' + name, S_IFREG)) continue;
+    if (entry->d_type != DT_REG && !IsFileAt(folder + u'/' + name)) continue;
     if (!found(name)) return;
   }
 }
@@ -121,16 +84,16 @@ void EachMatch(const QString& folder, const QString& wildcard, const std::functi
 }  // namespace
 
 bool FileStore::IsFile(const QString& path) const {
-  return IsKind(path, S_IFREG);
+  return IsFileAt(path);
 }
 
 bool FileStore::IsFolder(const QString& path) const {
-  return IsKind(path, S_IFDIR);
+  return IsFolderAt(path);
 }
 
 qint64 FileStore::Size(const QString& path) const {
   struct stat status;
-  if (::stat(QFile::encodeName(path).constData(), &status) < 0) Raise(-errno, path);
+  if (::stat(QFile::encodeName(path).constData(), &status) < 0) RaiseFileError(-errno, path);
   return status.st_size;
 }
 
@@ -162,36 +125,36 @@ QByteArray FileStore::ReadWhole(const QString& path) const {
 
 QByteArray FileStore::ReadPart(const QString& path, qint64 offset, qint64 size) const {
   const int descriptor = m_device.Open(path, FileDevice::OpenMode::Read);
-  Check(descriptor, path);
+  CheckFile(descriptor, path);
   const OpenFile file(m_device, descriptor);
   return ReadUpTo(m_device, descriptor, size, offset, path);
 }
 
 void FileStore::WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content) {
   const int descriptor = m_device.Open(temporary, FileDevice::OpenMode::WriteNew);
-  Check(descriptor, path);
+  CheckFile(descriptor, path);
   OpenFile file(m_device, descriptor);
-  if (IsFile(path)) Check(m_device.CopyPermissions(path, descriptor), path);
-  Check(WriteAll(m_device, descriptor, content, 0), path);
-  Check(m_device.Flush(descriptor), path);
-  Check(file.Close(), path);
+  if (IsFile(path)) CheckFile(m_device.CopyPermissions(path, descriptor), path);
+  CheckFile(WriteAll(m_device, descriptor, content, 0), path);
+  CheckFile(m_device.Flush(descriptor), path);
+  CheckFile(file.Close(), path);
 }
 
 void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
   // A rename would replace a write-protected file as well; the protection is somebody's wish.
   const QByteArray name = QFile::encodeName(path);
-  if (::access(name.constData(), W_OK) < 0 && errno != ENOENT) Raise(-errno, path);
+  if (::access(name.constData(), W_OK) < 0 && errno != ENOENT) RaiseFileError(-errno, path);
 
   const QString temporary = TemporaryNameOf(path);
   m_device.Remove(temporary);
   try {
     WriteTemporary(temporary, path, content);
-    Check(m_device.Rename(temporary, path), path);
+    CheckFile(m_device.Rename(temporary, path), path);
   } catch (const RuntimeError&) {
     m_device.Remove(temporary);
     throw;
   }
-  Check(m_device.FlushFolder(FolderOf(path)), path);
+  CheckFile(m_device.FlushFolder(FolderOf(path)), path);
 }
 
 void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArray& bytes) {
@@ -201,7 +164,7 @@ void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArra
     ReplaceWhole(path, ReadWhole(path));
     descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
   }
-  Check(descriptor, path);
+  CheckFile(descriptor, path);
   const OpenFile file(m_device, descriptor);
   const qint64 lengthBefore = Size(path);
   QByteArray before;
@@ -211,7 +174,7 @@ void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArra
   if (written == 0) return;
   WriteAll(m_device, descriptor, before, offset);
   if (offset + bytes.size() > lengthBefore) m_device.Truncate(descriptor, lengthBefore);
-  Raise(written, path);
+  RaiseFileError(written, path);
 }
 
 void FileStore::Copy(const QString& from, const QString& to) {
@@ -219,18 +182,17 @@ void FileStore::Copy(const QString& from, const QString& to) {
 }
 
 void FileStore::Rename(const QString& from, const QString& to) {
-  Check(m_device.Rename(from, to), from);
-  Check(m_device.FlushFolder(FolderOf(to)), to);
+  CheckFile(m_device.Rename(from, to), from);
+  CheckFile(m_device.FlushFolder(FolderOf(to)), to);
 }
 
 void FileStore::Remove(const QString& path) {
   const int result = m_device.Remove(path);
-  if (result < 0 && result != -ENOENT && result != -ENOTDIR) Raise(result, path);
+  if (result < 0 && result != -ENOENT && result != -ENOTDIR) RaiseFileError(result, path);
 }
 
 void FileStore::MakeFolder(const QString& path) {
-  const int result = m_device.MakeFolder(path);
-  if (result == 0 || (result == -EEXIST && IsFolder(path))) return;
-  if (result == -ENOENT) throw RuntimeError(ErrorNumber::PathNotFound, path);
-  Raise(result, path);
+  // Nearly always it is there: one look is cheaper than an attempt, which would have to look afterwards as well.
+  if (IsFolder(path)) return;
+  CheckFolder(m_device.MakeFolder(path), path);
 }

@@ -15,6 +15,7 @@ class FileStore {
  public:
   explicit FileStore(FileDevice& device) : m_device(device) {}
 
+  FileDevice& Device() const { return m_device; }
   bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one.
   bool IsFolder(const QString& path) const;
   qint64 Size(const QString& path) const;  ///< In bytes; error 53 if absent.

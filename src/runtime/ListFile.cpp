@@ -1,5 +1,7 @@
 #include "runtime/ListFile.h"
 
+#include <QLocale>
+
 #include "runtime/CodePage.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"

@@ -1,6 +1,9 @@
 #include "shell/DataTree.h"
 
+#include <QFile>
+
 #include "runtime/Clock.h"
+#include "runtime/FolderMaker.h"
 #include "runtime/RecordFile.h"
 #include "shell/CommonDiskRoutines.h"
 
@@ -13,12 +16,13 @@ void MakeCustomerFolders(CommonDiskRoutines& disk) {
   const int count = disk.RecordCount(u"/CustomerData.txt"_s, CustomerLength);
   if (count == 0) return;
   const RecordBuffer customers = disk.OpenCustomerFile().ReadAll();
+  FolderMaker folders(disk.Store().Device(), disk.PathOf(u"/AuxFiles"_s));
   for (int number = 1; number <= count; ++number) {
     const QString account = customers.Record(number).Text(0, 20);
     if (!CanNameAFile(account)) continue;
-    const QString folder = u"/AuxFiles/"_s + account;
-    disk.MakeDataFolder(folder);
-    for (int i = 0; i <= 5; ++i) disk.MakeDataFolder(folder + u"/AuxFile"_s + QString::number(i));
+    const QByteArray folder = QFile::encodeName(account) + '/';
+    folders.Make(folder);
+    for (char digit = '0'; digit <= '5'; ++digit) folders.Make(folder + "AuxFile" + digit + '/');
   }
   disk.CloseAllFiles();
 }

@@ -91,6 +91,11 @@ int FailingDevice::MakeFolder(const QString& path) {
   return failed < 0 ? failed : FileDevice::MakeFolder(path);
 }
 
+int FailingDevice::MakeFolderIn(int folder, const char* name) {
+  const int failed = Enter(Call::MakeFolder);
+  return failed < 0 ? failed : FileDevice::MakeFolderIn(folder, name);
+}
+
 int FailingDevice::FlushFolder(const QString& path) {
   const int failed = Enter(Call::FlushFolder);
   return failed < 0 ? failed : FileDevice::FlushFolder(path);

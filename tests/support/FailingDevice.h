@@ -47,6 +47,7 @@ class FailingDevice : public FileDevice {
   int Rename(const QString& from, const QString& to) override;
   int Remove(const QString& path) override;
   int MakeFolder(const QString& path) override;
+  int MakeFolderIn(int folder, const char* name) override;
   int FlushFolder(const QString& path) override;
 
  private:

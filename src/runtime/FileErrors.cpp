@@ -1,0 +1,63 @@
+#include "runtime/FileErrors.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <QFile>
+
+#include "runtime/RuntimeError.h"
+
+namespace {
+
+bool IsKind(const QString& path, mode_t kind) {
+  struct stat status;
+  return ::stat(QFile::encodeName(path).constData(), &status) == 0 && (status.st_mode & S_IFMT) == kind;
+}
+
+int NumberOf(int error, const QString& path) {
+  switch (error) {
+    case ENOENT:
+      return IsFolderAt(FolderOf(path)) ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
+    case ENOTDIR:
+      return ErrorNumber::PathNotFound;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return ErrorNumber::DiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return ErrorNumber::PermissionDenied;
+    case ENAMETOOLONG:
+      return ErrorNumber::BadFileName;
+    default:
+      return ErrorNumber::PathFileAccess;
+  }
+}
+
+}  // namespace
+
+bool IsFileAt(const QString& path) {
+  return IsKind(path, S_IFREG);
+}
+
+bool IsFolderAt(const QString& path) {
+  return IsKind(path, S_IFDIR);
+}
+
+QString FolderOf(const QString& path) {
+  return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 1));
+}
+
+void RaiseFileError(qint64 result, const QString& path) {
+  throw RuntimeError(NumberOf(static_cast<int>(-result), path), path);
+}
+
+void CheckFile(qint64 result, const QString& path) {
+  if (result < 0) RaiseFileError(result, path);
+}
+
+void CheckFolder(qint64 result, const QString& path) {
+  if (result == -ENOENT) throw RuntimeError(ErrorNumber::PathNotFound, path);
+  CheckFile(result, path);
+}

@@ -1,0 +1,24 @@
+/// Makes many folders under one parent, quicker than one by one: names are found from the parent, not from the root.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+class FileDevice;
+
+class FolderMaker {
+ public:
+  /// `parent` exists, else RuntimeError 76.
+  FolderMaker(FileDevice& device, QString parent);
+  ~FolderMaker();
+  Q_DISABLE_COPY_MOVE(FolderMaker)
+
+  /// Nothing if the folder is there. `name` is relative to the parent, in the file system's own characters, and ends
+  /// in a separator. Throws RuntimeError 61, 70, 75 or 76.
+  void Make(const QByteArray& name);
+
+ private:
+  FileDevice& m_device;
+  QString m_parent;
+  int m_folder;
+};
