@@ -34,6 +34,11 @@ int FlagsOf(FileDevice::OpenMode mode) {
 
 }  // namespace
 
+int FileDevice::MayWrite(const QString& path) {
+  const QByteArray name = QFile::encodeName(path);
+  return Attempt([&] { return ::access(name.constData(), W_OK); });
+}
+
 int FileDevice::Open(const QString& path, OpenMode mode) {
   const QByteArray name = QFile::encodeName(path);
   return Attempt([&] { return ::open(name.constData(), FlagsOf(mode) | O_CLOEXEC, 0666); });

@@ -17,6 +17,7 @@ class FileDevice {
   };  ///< WriteNew refuses a file that is there; Update is in place, creating.
 
   virtual ~FileDevice() = default;
+  virtual int MayWrite(const QString& path);             ///< 0 if the file or folder there can be written to.
   virtual int Open(const QString& path, OpenMode mode);  ///< A descriptor, or a negative errno.
   virtual qint64 Read(int descriptor, char* data, qint64 size, qint64 offset);
   virtual qint64 Write(int descriptor, const char* data, qint64 size, qint64 offset);  ///< May write less.

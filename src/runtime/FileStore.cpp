@@ -142,8 +142,8 @@ void FileStore::WriteTemporary(const QString& temporary, const QString& path, co
 
 void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
   // A rename would replace a write-protected file as well; the protection is somebody's wish.
-  const QByteArray name = QFile::encodeName(path);
-  if (::access(name.constData(), W_OK) < 0 && errno != ENOENT) RaiseFileError(-errno, path);
+  const int mayWrite = m_device.MayWrite(path);
+  if (mayWrite != -ENOENT) CheckFile(mayWrite, path);
 
   const QString temporary = TemporaryNameOf(path);
   m_device.Remove(temporary);

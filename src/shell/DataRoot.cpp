@@ -19,7 +19,7 @@ void MakeFolders(FileStore& store, const QString& folder) {
 }  // namespace
 
 QString ChooseDataRoot(FileDevice& files, const QString& programFolder, const QString& userDataFolder) {
-  if (QFileInfo(programFolder).isWritable()) return programFolder;
+  if (files.MayWrite(programFolder) == 0) return programFolder;
   const QString root = userDataFolder + u"/KarvexInvoicer"_s;
   FileStore store(files);
   MakeFolders(store, root);

@@ -38,6 +38,11 @@ int FailingDevice::Enter(Call call) {
   return failure == m_failures.end() ? 0 : -failure->second;
 }
 
+int FailingDevice::MayWrite(const QString& path) {
+  const int failed = Enter(Call::MayWrite);
+  return failed < 0 ? failed : FileDevice::MayWrite(path);
+}
+
 int FailingDevice::Open(const QString& path, OpenMode mode) {
   const int failed = Enter(Call::Open);
   return failed < 0 ? failed : FileDevice::Open(path, mode);

@@ -9,6 +9,7 @@
 class FailingDevice : public FileDevice {
  public:
   enum class Call {
+    MayWrite,
     Open,
     Read,
     Write,
@@ -37,6 +38,7 @@ class FailingDevice : public FileDevice {
   /// Nothing fails any more; the counts begin anew.
   void Reset();
 
+  int MayWrite(const QString& path) override;
   int Open(const QString& path, OpenMode mode) override;
   qint64 Read(int descriptor, char* data, qint64 size, qint64 offset) override;
   qint64 Write(int descriptor, const char* data, qint64 size, qint64 offset) override;
