@@ -49,7 +49,10 @@ void ListCombo::TakeOverLine() {
 }
 
 bool ListCombo::event(QEvent* event) {
-  TakeOverLine();
+  // The form makes the box editable after its construction; nothing is typed before one of these.
+  if (event->type() == QEvent::Polish || event->type() == QEvent::Show || event->type() == QEvent::FocusIn) {
+    TakeOverLine();
+  }
   return QComboBox::event(event);
 }
 
