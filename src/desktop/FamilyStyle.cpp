@@ -1,6 +1,7 @@
 #include "desktop/FamilyStyle.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,7 +23,8 @@ bool IsWindowGround(const QWidget* widget) {
 }
 
 void LookOfLabel(QLabel* label, QStringView look) {
-  QFont font = label->font();
+  // From the program's own font, so that a second polish changes nothing.
+  QFont font = QApplication::font(label);
   if (look == "title"_L1) {
     font.setPointSizeF(font.pointSizeF() * 1.5);
     font.setWeight(QFont::DemiBold);

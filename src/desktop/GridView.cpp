@@ -17,6 +17,8 @@ namespace {
 // One notch of a plain wheel, in eighths of a degree.
 constexpr int Notch = 120;
 
+constexpr int MeasuredTexts = 2000;
+
 int ReleasedCode(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_Return:
@@ -74,7 +76,10 @@ void GridView::SetMatrix(TextMatrix* matrix) {
     }
   };
   for (auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
-    connect(matrix, signal, this, [this] { FitSoon(); });
+    connect(matrix, signal, this, [this] {
+      ShowRow();
+      FitSoon();
+    });
   }
   connect(matrix, &QAbstractItemModel::dataChanged, this, [this] { FitSoon(); });
   connect(matrix, &QAbstractItemModel::modelReset, this, [this] {
@@ -253,10 +258,29 @@ void GridView::FitSoon() {
   }
 }
 
+int GridView::TextsWidth(int col) const {
+  qsizetype longest = 0;
+  for (int row = 1; row < m_matrix->Rows(); ++row) {
+    longest = std::max(longest, m_matrix->Text(row, col).size());
+  }
+  // Of a long list only the longest texts can be the widest, and enough of them tell.
+  int width = 0;
+  int measured = 0;
+  for (int row = 1; row < m_matrix->Rows() && measured < MeasuredTexts; ++row) {
+    const QString& text = m_matrix->Text(row, col);
+    if (!text.isEmpty() && text.size() * 2 >= longest) {
+      width = std::max(width, fontMetrics().horizontalAdvance(text));
+      ++measured;
+    }
+  }
+  return width;
+}
+
 int GridView::NeededWidth(int col) const {
-  const int format = fontMetrics().averageCharWidth() * m_matrix->FormatWidth(col) + Spacing::Small;
+  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + Spacing::Small;
+  const int format = fontMetrics().averageCharWidth() * m_matrix->FormatWidth(col);
   const int header = horizontalHeader()->sectionSizeHint(col);
-  return std::max({format, header, sizeHintForColumn(col)});
+  return std::max(std::max(format, TextsWidth(col)) + margins, header);
 }
 
 void GridView::FitColumns() {

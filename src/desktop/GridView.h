@@ -49,6 +49,7 @@ class GridView : public QTableView {
   void TakeRow();  ///< The matrix follows the view.
   void FitSoon();
   void FitColumns();
+  int TextsWidth(int col) const;
   int NeededWidth(int col) const;
 
   TextMatrix* m_matrix = nullptr;

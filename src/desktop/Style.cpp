@@ -51,9 +51,9 @@ QPalette LightPalette() {
                     .ButtonText = 0xFF22262B,
                     .Highlight = 0xFF1F6F66,
                     .HighlightedText = 0xFFFFFFFF,
-                    .Disabled = 0xFF6A6E73,
+                    .Disabled = 0xFF5F6368,
                     .Link = 0xFF0B5C8A,
-                    .Placeholder = 0xFF6A6E73});
+                    .Placeholder = 0xFF5F6368});
 }
 
 QPalette DarkPalette() {

@@ -1,0 +1,193 @@
+// What every screen brings: the guard, the close box, the place on the display, control arrays and picture buttons.
+#include "desktop/ControlArray.h"
+#include "desktop/PictureButton.h"
+#include "support/BenchScreen.h"
+#include "support/ScreenDriver.h"
+
+using namespace Qt::StringLiterals;
+
+class ScreensShare : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void aScreenBearsItsName() {
+    RecordingHost host;
+    BenchScreen screen(host, u"frmInvoice"_s);
+    QCOMPARE(screen.objectName(), u"frmInvoice"_s);
+  }
+
+  void anErrorGoesToTheHostAndEndsTheHandler() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    bool went = false;
+    const bool whole = screen.Run([&] {
+      if (!went) throw RuntimeError(ErrorNumber::DiskFull, u"/SoldItems.txt"_s);
+      went = true;
+    });
+    QVERIFY(!whole);
+    QVERIFY(!went);
+    QCOMPARE(host.Errors, QList<int>{ErrorNumber::DiskFull});
+    QVERIFY(screen.Run([&] { went = true; }));
+    QVERIFY(went);
+  }
+
+  void anErrorOfAnyKindStopsAtTheGuard() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    QVERIFY(!screen.Run([] { throw std::out_of_range("beyond"); }));
+    QCOMPARE(host.Errors.size(), 1);
+  }
+
+  void clicksAndSignalsRunUnderTheGuard() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    auto* button = screen.Add<QPushButton>(u"button"_s);
+    auto* box = screen.Add<QLineEdit>(u"box"_s);
+    screen.OnClick(button, [] { throw RuntimeError(ErrorNumber::FileNotFound, u"a"_s); });
+    QString seen;
+    screen.On(box, &QLineEdit::textChanged, [&](const QString& text) {
+      seen = text;
+      throw RuntimeError(ErrorNumber::Overflow, u"box"_s);
+    });
+    int plain = 0;
+    screen.On(box, &QLineEdit::textChanged, [&] { ++plain; });
+    screen.show();
+    ScreenDriver driver(&screen);
+    driver.Click(u"button"_s);
+    driver.Fill(u"box"_s, u"7"_s);
+    QCOMPARE(seen, u"7"_s);
+    QCOMPARE(plain, 1);
+    QCOMPARE(host.Errors, (QList<int>{ErrorNumber::FileNotFound, ErrorNumber::Overflow}));
+  }
+
+  void theUsersCloseBoxEndsTheProgramAfterTheScreensOwnSaving() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    QStringList log;
+    screen.Closing = [&] { log.append(u"saved, told %1"_s.arg(host.Closes)); };
+    screen.show();
+    ScreenDriver(&screen).CloseByUser();
+    QCOMPARE(log, QStringList{u"saved, told 0"_s});
+    QCOMPARE(host.Closes, 1);
+  }
+
+  void aCloseWhoseSavingFailsKeepsTheProgramRunning() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    screen.Closing = [] { throw RuntimeError(ErrorNumber::DiskFull, u"/Services.txt"_s); };
+    screen.show();
+    ScreenDriver(&screen).CloseByUser();
+    QCOMPARE(host.Errors, QList<int>{ErrorNumber::DiskFull});
+    QCOMPARE(host.Closes, 0);
+    QVERIFY(screen.isVisible());
+  }
+
+  void aCloseFromCodeSavesNothingAndEndsNothing() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    screen.Closing = [] { QFAIL("a close from code saves nothing"); };
+    screen.show();
+    screen.close();
+    QVERIFY(!screen.isVisible());
+    QCOMPARE(host.Closes, 0);
+  }
+
+  void theFirstScreenHasTheDefaultSizeAsFarAsTheDisplayHasRoom() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    screen.show();
+    ScreenDriver::ProcessEvents();
+    QCOMPARE(screen.size(), QSize(1180, 760).boundedTo(screen.screen()->availableSize()));
+  }
+
+  void aScreenOpensWhereTheLastOneStood() {
+    RecordingHost host;
+    BenchScreen first(host);
+    BenchScreen second(host);
+    first.show();
+    ScreenDriver::ProcessEvents();
+    first.move(37, 21);
+    first.resize(640, 480);
+    ScreenDriver::ProcessEvents();
+    first.hide();
+    second.show();
+    ScreenDriver::ProcessEvents();
+    QCOMPARE(second.pos(), QPoint(37, 21));
+    QCOMPARE(second.size(), QSize(640, 480));
+    // The other way round, without hiding in between; a screen that is shown already stays.
+    second.resize(700, 500);
+    ScreenDriver::ProcessEvents();
+    first.show();
+    ScreenDriver::ProcessEvents();
+    QCOMPARE(first.size(), QSize(700, 500));
+    second.resize(650, 450);
+    ScreenDriver::ProcessEvents();
+    first.show();
+    QCOMPARE(first.size(), QSize(700, 500));
+  }
+
+  void aMaximizedScreenIsFollowedByAMaximizedOne() {
+    RecordingHost host;
+    BenchScreen first(host);
+    BenchScreen second(host);
+    first.show();
+    first.resize(640, 480);
+    ScreenDriver::ProcessEvents();
+    first.showMaximized();
+    ScreenDriver::ProcessEvents();
+    first.hide();
+    second.show();
+    ScreenDriver::ProcessEvents();
+    QVERIFY(second.isMaximized());
+    second.showNormal();
+    ScreenDriver::ProcessEvents();
+    second.hide();
+    first.show();
+    ScreenDriver::ProcessEvents();
+    QVERIFY(!first.isMaximized());
+  }
+
+  void aControlArrayIsIndexedByTheNumbersOfItsNames() {
+    QWidget form;
+    auto* zero = new QLineEdit(&form);
+    zero->setObjectName(u"txtBox_0"_s);
+    auto* frame = new QWidget(&form);
+    auto* twelve = new QLineEdit(frame);
+    twelve->setObjectName(u"txtBox_12"_s);
+    auto* other = new QPushButton(&form);
+    other->setObjectName(u"txtBox_1"_s);
+    auto* longer = new QLineEdit(&form);
+    longer->setObjectName(u"txtBox_2_x"_s);
+    const ControlArray<QLineEdit, 13> boxes(&form, u"txtBox"_s);
+    QCOMPARE(boxes[0], zero);
+    QCOMPARE(boxes[12], twelve);
+    QVERIFY(!boxes.Has(1));
+    QVERIFY(!boxes.Has(2));
+    QVERIFY(!boxes.Has(13));
+    QVERIFY(!boxes.Has(-1));
+    QCOMPARE(boxes.Size(), 13);
+  }
+
+  void aPictureIsClickedByMouseAndKeys() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    auto* picture = screen.Add<PictureButton>(u"Image1"_s);
+    QPixmap orange(40, 30);
+    orange.fill(QColor(255, 140, 0));
+    picture->SetPicture(orange);
+    int clicks = 0;
+    screen.OnClick(picture, [&] { ++clicks; });
+    screen.show();
+    ScreenDriver driver(&screen);
+    driver.Click(u"Image1"_s);
+    driver.PressKey(Qt::Key_Space);
+    driver.PressKey(Qt::Key_Return);
+    QCOMPARE(clicks, 3);
+    QVERIFY(picture->sizeHint().width() >= 40);
+    const QImage drawn = picture->grab().toImage();
+    QCOMPARE(drawn.pixelColor(drawn.rect().center()).rgb(), qRgb(255, 140, 0));
+  }
+};
+
+QTEST_MAIN(ScreensShare)
+#include "tst_screens.moc"

@@ -1,0 +1,140 @@
+// The look of the family: contrast on a light and on a dark palette, one spacing grid, the named looks.
+#include <cmath>
+#include <QtWidgets>
+
+#include "desktop/FamilyStyle.h"
+#include "desktop/Style.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+double Linear(double channel) {
+  return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(const QColor& color) {
+  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) + 0.0722 * Linear(color.blueF());
+}
+
+/// The ratio of the accessibility guidelines: 1 for equal colours, 21 for black on white.
+double Contrast(const QColor& a, const QColor& b) {
+  const double lighter = std::max(Luminance(a), Luminance(b));
+  const double darker = std::min(Luminance(a), Luminance(b));
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+}  // namespace
+
+class Styles : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void everyTextIsReadableOnItsGround_data() {
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("light") << LightPalette();
+    QTest::newRow("dark") << DarkPalette();
+  }
+  void everyTextIsReadableOnItsGround() {
+    QFETCH(QPalette, palette);
+    using P = QPalette;
+    const QList<std::pair<P::ColorRole, P::ColorRole>> pairs{{P::WindowText, P::Window},
+                                                             {P::WindowText, P::AlternateBase},
+                                                             {P::Text, P::Base},
+                                                             {P::Text, P::AlternateBase},
+                                                             {P::ButtonText, P::Button},
+                                                             {P::HighlightedText, P::Highlight},
+                                                             {P::ToolTipText, P::ToolTipBase},
+                                                             {P::Link, P::Window},
+                                                             {P::Link, P::Base},
+                                                             {P::PlaceholderText, P::Base}};
+    for (const P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
+      for (const auto& [text, ground] : pairs) {
+        const double contrast = Contrast(palette.color(group, text), palette.color(group, ground));
+        const QString what = u"group %1, %2 on %3: %4"_s.arg(group).arg(text).arg(ground).arg(contrast);
+        QVERIFY2(contrast >= 4.5, qPrintable(what));
+      }
+    }
+    QVERIFY(Contrast(HintText(palette), palette.color(P::Window)) >= 4.5);
+    QVERIFY(Contrast(HintText(palette), palette.color(P::AlternateBase)) >= 4.5);
+    QVERIFY(Contrast(Qt::white, PrimaryGround()) >= 4.5);
+    QVERIFY(Contrast(Qt::white, DestructiveGround()) >= 4.5);
+  }
+
+  void thePlatformsDarknessDecidesThePalette() {
+    const QPalette before = qApp->palette();
+    ApplyStyle(*qApp);
+    QCOMPARE(qApp->style()->inherits("QProxyStyle"), true);
+    const bool dark = before.color(QPalette::Window).lightness() < before.color(QPalette::WindowText).lightness();
+    const QPalette expected = dark ? DarkPalette() : LightPalette();
+    QCOMPARE(qApp->palette().color(QPalette::Window), expected.color(QPalette::Window));
+    QVERIFY(LightPalette().color(QPalette::Window).lightness() > DarkPalette().color(QPalette::Window).lightness());
+  }
+
+  void windowsHaveWideMarginsAndTheirInsideNarrowOnes() {
+    ApplyStyle(*qApp);
+    QMainWindow window;
+    auto* central = new QWidget;
+    window.setCentralWidget(central);
+    auto* outer = new QVBoxLayout(central);
+    auto* frame = new QGroupBox;
+    auto* inner = new QHBoxLayout(frame);
+    outer->addWidget(frame);
+    QCOMPARE(outer->contentsMargins(), QMargins(16, 16, 16, 16));
+    QCOMPARE(outer->spacing(), 8);
+    QCOMPARE(inner->contentsMargins(), QMargins(8, 8, 8, 8));
+    QCOMPARE(inner->spacing(), 8);
+  }
+
+  void controlsTakeTheLookTheyName() {
+    ApplyStyle(*qApp);
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    const auto named = [&](QWidget* control, const QString& look) {
+      control->setProperty("look", look);
+      layout->addWidget(control);
+    };
+    auto* plain = new QLabel;
+    auto* title = new QLabel;
+    auto* amount = new QLineEdit;
+    auto* primary = new QPushButton;
+    auto* destructive = new QPushButton;
+    auto* other = new QPushButton;
+    auto* panel = new QFrame;
+    layout->addWidget(plain);
+    layout->addWidget(other);
+    named(title, u"title"_s);
+    named(amount, u"amount"_s);
+    named(primary, u"primary"_s);
+    named(destructive, u"destructive"_s);
+    named(panel, u"panel"_s);
+    window.show();
+    QVERIFY(title->font().pointSizeF() > plain->font().pointSizeF());
+    QVERIFY(amount->alignment().testFlag(Qt::AlignRight));
+    QCOMPARE(primary->palette().color(QPalette::Button), PrimaryGround());
+    QCOMPARE(destructive->palette().color(QPalette::Button), DestructiveGround());
+    QCOMPARE(other->palette().color(QPalette::Button), qApp->palette().color(QPalette::Button));
+    QCOMPARE(panel->backgroundRole(), QPalette::AlternateBase);
+    // The look says so in words as well as in colour: a disabled primary button is grey like the others.
+    QCOMPARE(primary->palette().color(QPalette::Disabled, QPalette::Button),
+             other->palette().color(QPalette::Disabled, QPalette::Button));
+  }
+
+  void aLookPolishedTwiceStaysTheSame() {
+    ApplyStyle(*qApp);
+    QLabel title;
+    title.setProperty("look", u"title"_s);
+    title.show();
+    const qreal size = title.font().pointSizeF();
+    title.style()->polish(&title);
+    QCOMPARE(title.font().pointSizeF(), size);
+  }
+
+  void accessKeysAreUnderlined() {
+    ApplyStyle(*qApp);
+    QCOMPARE(qApp->style()->styleHint(QStyle::SH_UnderlineShortcut), 1);
+  }
+};
+
+QTEST_MAIN(Styles)
+#include "tst_style.moc"
