@@ -52,7 +52,7 @@ void PaperPrinter::ShowPrinter() {
 
 void PaperPrinter::EndDoc() {
   PaperSurface::EndDoc();
-  m_fileChosen = false;
+  m_fileChosen = false;  // Also where there was nothing to send.
 }
 
 void PaperPrinter::KillDoc() {
@@ -61,9 +61,10 @@ void PaperPrinter::KillDoc() {
 }
 
 void PaperPrinter::SendJob(const PaperJob& job) {
+  const bool fileChosen = std::exchange(m_fileChosen, false);
   if (!IsPdf()) {
     SendToPrinter(job);
-  } else if (m_fileChosen) {
+  } else if (fileChosen) {
     SendToPdf(job, QFileInfo(Device().outputFileName()).absoluteFilePath());
   } else {
     MakeDocumentsFolder();

@@ -173,6 +173,9 @@ void TestDialog::aFullDiskLeavesAnEarlierFileWhole() {
   desk.Paper.PrintLine(u"a"_s);
   QCOMPARE(ErrorOf([&] { desk.Paper.EndDoc(); }), 482);
   QCOMPARE(desk.Folder.Bytes(u"/mine.pdf"_s), QByteArray("an earlier invoice"));
+  // The choice was for that job only.
+  desk.Print(u"next"_s);
+  QCOMPARE(desk.Folder.Bytes(u"/mine.pdf"_s), QByteArray("an earlier invoice"));
 }
 
 void TestDialog::anUnreadableLogoIsAPrinterErrorAndLeavesNoFile() {
