@@ -1,6 +1,6 @@
 // The upper half of the page on the recording surface: heading, memo, column headings, detach line, addresses. A line
 // of 10 points is 223.453125 twips high, a digit 111.21875 wide.
-#include "runtime/RuntimeError.h"
+#include "support/ErrorOf.h"
 #include "support/PageFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -19,6 +19,7 @@ class TestHeading : public QObject {
   void theMemoStaysWhereItIsBelowANarrative();
   void memoPiecesBelowTheLimitAreDropped();
   void aPieceAtTheLimitStillPrintsWhole();
+  void theEndOfTheMemoClosesAllFilesAndItsLimitDoesNot();
   void theMemoComesBackFromTheBackup();
   void anEmptyMemoFilePrintsNothing();
   void theDetachLineLeavesPlainTenPoints();
@@ -168,6 +169,18 @@ void TestHeading::aPieceAtTheLimitStillPrintsWhole() {
   QVERIFY(texts.contains(u"1872 13722.0 10b 0000ff 1234567890 1234567890 1234567890 1234567890 1234567890 "_s));
   QVERIFY(texts.contains(u"1872 14168.9 10b 0000ff 1234567890 1234567890 "_s));
   QCOMPARE(f.Paper.Find(u"last"_s).size(), 0U);
+}
+
+void TestHeading::theEndOfTheMemoClosesAllFilesAndItsLimitDoesNot() {
+  PageFixture f;
+  f.Write(u"/ShipVia.txt"_s, "UPS\r\nRail\r\n");
+  ListReader reader = f.Disk.OpenInputFile(u"/ShipVia.txt"_s);
+  f.Write(u"/InvoiceMemo.txt"_s, MemoOf(9));
+  f.Pages.PrintInvoiceHeading(f.Page.Heading);
+  QCOMPARE(reader.ReadLine(), u"UPS"_s);
+  f.Write(u"/InvoiceMemo.txt"_s, MemoOf(7));
+  f.Pages.PrintInvoiceHeading(f.Page.Heading);
+  QCOMPARE(ErrorOf([&] { reader.ReadLine(); }), 52);
 }
 
 void TestHeading::theMemoComesBackFromTheBackup() {
