@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "catalogue/frmServices.h"
+#include "invoice/frmInvoice.h"
 #include "ProgramObjects.h"
 #include "records/PartialList.h"
 #include "setup/frmSetup.h"
@@ -48,9 +49,20 @@ std::unique_ptr<Screen> Program::Build(ScreenName screen) {
           *this, *this, SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live, m_platform.ProgramFolder});
     case ScreenName::frmServices:
       return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
+    case ScreenName::frmInvoice:
+      return BuildInvoice();
     default:
       return nullptr;
   }
+}
+
+std::unique_ptr<Screen> Program::BuildInvoice() {
+  Objects& our = *m_objects;
+  return std::make_unique<frmInvoice>(
+      *this, InvoiceDesk{our.Invoice, our.Prices, our.Lists, our.Live, our.Disk, *m_platform.Boxes,
+                         *m_platform.Calendar, *this, our.Customer, our.SalesItems, our.Routines, our.Pages,
+                         [&our] { return our.Partials.SelectedInvoiceNo(); },
+                         [&our] { LoadPartialList(our.Partials, our.Disk); }});
 }
 
 MainMenuContext Program::MenuContext() {

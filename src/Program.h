@@ -66,6 +66,7 @@ class Program final : public Screens, public ScreenHost {
 
   MainMenuContext MenuContext();
   std::unique_ptr<Screen> Build(ScreenName screen);
+  std::unique_ptr<Screen> BuildInvoice();
   void Open(Screen& screen);
   void EndProcess();
 

@@ -1,6 +1,8 @@
 #include "ProgramObjects.h"
 
+#include "invoice/InvoiceHeaderData.h"
 #include "invoice/InvoiceMemo.h"
+#include "invoice/InvoiceTerms.h"
 #include "setup/frmSetupPictures.h"
 
 Program::Objects::Objects(const Platform& platform)
@@ -17,8 +19,8 @@ Program::Objects::Objects(const Platform& platform)
 void Program::Objects::LoadSettings() {
   LoadSetup(Disk, Live, &IsPicture, [this] {
     // What the invoice screen sets at its own load; the settings file then has the last word.
-    Live.Invoicer.cboDiscount = QStringLiteral("2.0");
-    Live.Invoicer.cboDays = QStringLiteral("10");
+    LoadInvoiceLists(Live.Invoicer);
+    LoadShipVia(Invoice, Disk);
     LoadInvoiceMemo(Invoice, Disk);
   });
 }

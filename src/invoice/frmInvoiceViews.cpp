@@ -80,6 +80,11 @@ void frmInvoice::ShowViewButtons() {
     none = none && !Shows(frame);
   }
   ui->mnuCreate->setChecked(none);
+  for (auto* button : ui->fraViews->findChildren<QToolButton*>()) {
+    QPalette look = ui->cmdSave->palette();
+    if (button->isChecked()) look = ui->cmdInvoiceContinue->palette();
+    button->setPalette(look);
+  }
 }
 
 void frmInvoice::mnuSetup() {
