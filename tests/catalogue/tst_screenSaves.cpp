@@ -1,0 +1,448 @@
+// The Save buttons of the catalogue screen: what they refuse, what they put into the grid, and where it goes.
+
+#include "support/CatalogueScreen.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A new item with all boxes filled but those that the test fills itself.
+void BeginItem(const CatalogueScreen& screen) {
+  screen.Click(8);
+  screen.Fill("txtDescription_1", "Hose");
+  screen.Fill("txtCharge_1", "5");
+  screen.Fill("txtCharge_2", "4.5");
+  screen.Fill("txtOnHand", "7");
+}
+
+void AddService(const CatalogueScreen& screen, const char* description) {
+  screen.Click(1);
+  screen.Fill("txtDescription_0", description);
+  screen.Fill("txtCharge_0", "1");
+  screen.PickTime("0:15");
+  screen.Click(4);
+}
+
+}  // namespace
+
+class ScreenSaves : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void aServiceWithoutDescriptionIsRefused();
+  void aServiceWithoutChargeGoesBackToTheCharge();
+  void aNewServiceStandsLastAndTheBoxesShut();
+  void aModifiedServiceReplacesItsRow();
+  void savingAServiceShutsModifyUntilTheNextLoad();
+  void anItemWithoutDescriptionIsRefused();
+  void anItemWithoutADiscountPriceIsRefused();
+  void anOnHandThatIsNoNumberBecomesZeroAndStops();
+  void anOnHandWithDecimalsEntersTheGridRounded();
+  void anOnHandBeyondSixteenBitsIsToldAndNothingIsAdded();
+  void lettersInTheQuantityBoxesAreRefusedWithTheFocus();
+  void aDiscountQuantityBeyondThirtyTwoBitsIsTold();
+  void emptyBoxesOfAnItemEnterTheGridAsZeros();
+  void aNewItemIsAddedAndItsCategoryOffered();
+  void aModifiedItemReplacesItsRow();
+  void savingAnItemShutsClear();
+  void aCustomItemIsAddedAndItsClearShut();
+  void aCustomItemWithoutPricesIsRefused();
+  void aCustomPriceOfAPointAloneIsToldAndNothingIsAdded();
+  void lettersInTheCustomQuantityAreRefused();
+  void modifyModeFollowsToAnotherTab();
+  void modifyModeWithoutALineThereAsksForOne();
+  void aSaveThatStopsLeavesBoxesAndMode();
+  void enterInABoxSaves();
+  void theTwoHundredFiftySixthRecordIsToldAndTheScreenStays();
+};
+
+void ScreenSaves::aServiceWithoutDescriptionIsRefused() {
+  CatalogueScreen screen;
+  screen.Open();
+  screen.Click(1);
+  screen.Fill("txtCharge_0", "5");
+  screen.Click(4);
+  QCOMPARE(screen.Focus(), u"txtDescription_0"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgServices"), 0);
+}
+
+void ScreenSaves::aServiceWithoutChargeGoesBackToTheCharge() {
+  CatalogueScreen screen;
+  screen.Open();
+  screen.Click(1);
+  screen.Fill("txtDescription_0", "Advice");
+  screen.Click(4);
+  QCOMPARE(screen.Focus(), u"txtCharge_0"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgServices"), 0);
+}
+
+void ScreenSaves::aNewServiceStandsLastAndTheBoxesShut() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("b"));
+  screen.Open();
+  screen.Click(1);
+  screen.Fill("txtDescription_0", "Advice");
+  screen.Fill("txtCharge_0", "1234.5");
+  screen.PickTime("1:30");
+  screen.Click(4);
+  QCOMPARE(screen.Row("fgServices", 2), u"Advice|$1,234.50|1:30"_s);
+  QCOMPARE(screen.Text("txtDescription_0"), QString());
+  QCOMPARE(screen.Text("txtCharge_0"), QString());
+  QCOMPARE(screen.Time(), u"0:00"_s);
+  for (const char* box : {"txtDescription_0", "txtCharge_0", "cmdServices_4"}) QVERIFY2(!screen.Open(box), box);
+  // Nothing is on the disk before the screen is left.
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), CatalogueScreen::Service("b"));
+  screen.Click(0);
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s),
+           CatalogueScreen::Service("b") + Padded("Advice", 60) + Padded("$1,234.50", 10) + Hex("06 00"));
+}
+
+void ScreenSaves::aModifiedServiceReplacesItsRow() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("a") + CatalogueScreen::Service("b"));
+  screen.Open();
+  screen.SelectRow("fgServices", 2);
+  screen.Click(3);
+  screen.Fill("txtDescription_0", "c");
+  screen.Click(4);
+  QCOMPARE(screen.Rows("fgServices"), 2);
+  QCOMPARE(screen.Row("fgServices", 2), u"c|$1.00|0:15"_s);
+  QVERIFY(screen.Open("fgServices"));
+}
+
+void ScreenSaves::savingAServiceShutsModifyUntilTheNextLoad() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("a"));
+  screen.Open();
+  AddService(screen, "b");
+  QVERIFY(!screen.Live(3));
+  screen.SelectRow("fgServices", 1);
+  QVERIFY(!screen.Live(3));
+  screen.Click(0);
+  screen.GoFromMenu();
+  QVERIFY(screen.Live(3));
+}
+
+void ScreenSaves::anItemWithoutDescriptionIsRefused() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  screen.Click(8);
+  screen.Click(13);
+  QCOMPARE(screen.Focus(), u"txtDescription_1"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgItems"), 0);
+}
+
+void ScreenSaves::anItemWithoutADiscountPriceIsRefused() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  screen.Click(8);
+  screen.Fill("txtDescription_1", "Hose");
+  screen.Click(13);
+  QCOMPARE(screen.Focus(), u"txtCharge_1"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  screen.Fill("txtCharge_1", "5");
+  screen.Click(13);
+  QCOMPARE(screen.Focus(), u"txtCharge_2"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgItems"), 0);
+}
+
+void ScreenSaves::anOnHandThatIsNoNumberBecomesZeroAndStops() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  BeginItem(screen);
+  for (const char* text : {"", "a few"}) {
+    screen.Fill("txtOnHand", text);
+    screen.Click(13);
+    QCOMPARE(screen.TakeBeeps(), 1);
+    QCOMPARE(screen.Text("txtOnHand"), u"0"_s);
+    QCOMPARE(screen.Rows("fgItems"), 0);
+  }
+  screen.Click(13);
+  QCOMPARE(screen.Row("fgItems", 1), u"Hose||$0.00|$5.00|0|$4.50|0|0|0"_s);
+}
+
+void ScreenSaves::anOnHandWithDecimalsEntersTheGridRounded() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  const QList<std::pair<const char*, QString>> cases{
+      {"12.4", u"12"_s}, {"12.5", u"12"_s}, {"13.5", u"14"_s}, {"-3", u"-3"_s}, {"1,200", u"1200"_s}};
+  for (int i = 0; i < cases.size(); ++i) {
+    BeginItem(screen);
+    screen.Fill("txtOnHand", cases.at(i).first);
+    screen.Click(13);
+    QCOMPARE(screen.Row("fgItems", i + 1), u"Hose||$0.00|$5.00|"_s + cases.at(i).second + u"|$4.50|0|0|0"_s);
+  }
+}
+
+void ScreenSaves::anOnHandBeyondSixteenBitsIsToldAndNothingIsAdded() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  BeginItem(screen);
+  screen.Fill("txtOnHand", "32768");
+  screen.Program.Answers.Ok();
+  screen.Click(13);
+  QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"On hand: "_s));
+  QCOMPARE(screen.Rows("fgItems"), 0);
+  QCOMPARE(screen.Text("txtDescription_1"), u"Hose"_s);
+  screen.Fill("txtOnHand", "32767");
+  screen.Click(13);
+  QCOMPARE(screen.Rows("fgItems"), 1);
+}
+
+void ScreenSaves::lettersInTheQuantityBoxesAreRefusedWithTheFocus() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  BeginItem(screen);
+  for (const char* box : {"txtDiscountQty", "txtReorderAmount", "txtReorderAt"}) {
+    screen.Fill(box, "six");
+    screen.Click(13);
+    QCOMPARE(screen.Focus(), QString::fromLatin1(box));
+    QCOMPARE(screen.TakeBeeps(), 1);
+    QCOMPARE(screen.Text(box), u"six"_s);
+    QCOMPARE(screen.Rows("fgItems"), 0);
+    screen.Fill(box, "6");
+  }
+  screen.Click(13);
+  QCOMPARE(screen.Row("fgItems", 1), u"Hose||$0.00|$5.00|7|$4.50|6|6|6"_s);
+}
+
+void ScreenSaves::aDiscountQuantityBeyondThirtyTwoBitsIsTold() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  BeginItem(screen);
+  screen.Fill("txtDiscountQty", "2147483648");
+  screen.Program.Answers.Ok();
+  screen.Click(13);
+  QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"Discount quantity: "_s));
+  QCOMPARE(screen.Rows("fgItems"), 0);
+}
+
+void ScreenSaves::emptyBoxesOfAnItemEnterTheGridAsZeros() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  BeginItem(screen);
+  screen.Click(13);
+  QCOMPARE(screen.Row("fgItems", 1), u"Hose||$0.00|$5.00|7|$4.50|0|0|0"_s);
+  QCOMPARE(screen.Text("txtCost"), u"$0.00"_s);
+}
+
+void ScreenSaves::aNewItemIsAddedAndItsCategoryOffered() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/KVInventoriedItems.txt"_s, CatalogueScreen::Item("Filter", "Oil"));
+  screen.Open(1);
+  for (const char* category : {"oil", "oil", "Oil"}) {
+    BeginItem(screen);
+    screen.Fill("cboCategory", category);
+    screen.Fill("txtCost", "2");
+    screen.Fill("txtDiscountQty", "6");
+    screen.Fill("txtReorderAmount", "24");
+    screen.Fill("txtReorderAt", "4");
+    screen.Click(13);
+  }
+  QCOMPARE(screen.Row("fgItems", 2), u"Hose|oil|$2.00|$5.00|7|$4.50|6|24|4"_s);
+  const auto* category = screen.Driver().Control<QComboBox>(u"cboCategory"_s);
+  QCOMPARE(category->count(), 2);
+  QCOMPARE(category->itemText(1), u"oil"_s);
+  // The category stays for the next item, a reload empties the box.
+  QCOMPARE(category->currentText(), u"Oil"_s);
+  screen.Click(0);
+  QCOMPARE(screen.Program.Tree.Size(u"/KVInventoriedItems.txt"_s), 4 * 104);
+  screen.GoFromMenu();
+  QCOMPARE(screen.Text("cboCategory"), QString());
+}
+
+void ScreenSaves::aModifiedItemReplacesItsRow() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/KVInventoriedItems.txt"_s,
+                            CatalogueScreen::Item("Hose", "Air") + CatalogueScreen::Item("Filter", "Oil"));
+  screen.Open(1);
+  screen.SelectRow("fgItems", 2);
+  screen.Click(9);
+  screen.Fill("txtOnHand", "99");
+  screen.Click(13);
+  QCOMPARE(screen.Rows("fgItems"), 2);
+  QCOMPARE(screen.Row("fgItems", 2), u"Filter|Oil|$1.25|$12.50|99|$11.00|6|24|4"_s);
+  QVERIFY(screen.Open("fgItems"));
+  for (const char* box : {"txtDescription_1", "txtCharge_1", "txtCharge_2", "cmdServices_13"}) {
+    QVERIFY2(!screen.Open(box), box);
+  }
+}
+
+void ScreenSaves::savingAnItemShutsClear() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/KVInventoriedItems.txt"_s, CatalogueScreen::Item("Hose", "Air"));
+  screen.Open(1);
+  screen.SelectRow("fgItems", 1);
+  screen.Click(9);
+  QVERIFY(screen.Live(11));
+  screen.Click(13);
+  QVERIFY(!screen.Live(11));
+}
+
+void ScreenSaves::aCustomItemIsAddedAndItsClearShut() {
+  CatalogueScreen screen;
+  screen.Open(3);
+  QVERIFY(screen.Live(21));
+  screen.Click(18);
+  screen.Fill("txtDescription_2", "Engraving");
+  screen.Fill("txtCharge_3", "100");
+  screen.Fill("txtCharge_4", "90.5");
+  screen.Click(22);
+  QCOMPARE(screen.Row("fgCustom", 1), u"Engraving|$100.00|$90.50|0"_s);
+  QVERIFY(!screen.Live(21));
+  for (const char* box : {"txtDescription_2", "txtCharge_3", "txtCharge_4", "cmdServices_22"}) {
+    QVERIFY2(!screen.Open(box), box);
+    if (QByteArray(box).startsWith("txt")) QCOMPARE(screen.Text(box), QString());
+  }
+  QCOMPARE(screen.Text("txtCustomDiscItems"), QString());
+}
+
+void ScreenSaves::aCustomItemWithoutPricesIsRefused() {
+  CatalogueScreen screen;
+  screen.Open(3);
+  screen.Click(18);
+  const QList<std::pair<const char*, const char*>> steps{
+      {"txtDescription_2", "Engraving"}, {"txtCharge_3", "100"}, {"txtCharge_4", "90"}};
+  for (const auto& [box, text] : steps) {
+    screen.Click(22);
+    QCOMPARE(screen.Focus(), QString::fromLatin1(box));
+    QCOMPARE(screen.TakeBeeps(), 1);
+    QCOMPARE(screen.Rows("fgCustom"), 0);
+    screen.Fill(box, text);
+  }
+  screen.Click(22);
+  QCOMPARE(screen.Rows("fgCustom"), 1);
+}
+
+void ScreenSaves::aCustomPriceOfAPointAloneIsToldAndNothingIsAdded() {
+  CatalogueScreen screen;
+  screen.Open(3);
+  screen.Click(18);
+  screen.Fill("txtDescription_2", "Engraving");
+  screen.Fill("txtCharge_3", ".");
+  screen.Fill("txtCharge_4", "90");
+  screen.Program.Answers.Ok();
+  screen.Click(22);
+  QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"Custom item price: "_s));
+  QCOMPARE(screen.Rows("fgCustom"), 0);
+}
+
+void ScreenSaves::lettersInTheCustomQuantityAreRefused() {
+  CatalogueScreen screen;
+  screen.Open(3);
+  screen.Click(18);
+  screen.Fill("txtDescription_2", "Engraving");
+  screen.Fill("txtCharge_3", "5");
+  screen.Fill("txtCharge_4", "4");
+  screen.Fill("txtCustomDiscItems", "six");
+  screen.Click(22);
+  QCOMPARE(screen.Focus(), u"txtCustomDiscItems"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgCustom"), 0);
+}
+
+void ScreenSaves::modifyModeFollowsToAnotherTab() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("a"));
+  screen.Program.Tree.Write(u"/CustomItems.txt"_s, CatalogueScreen::CustomItem("Engraving"));
+  screen.Open(3);
+  screen.SelectRow("fgCustom", 1);
+  screen.Click(18);
+  screen.Fill("txtDescription_2", "Welding");
+  screen.Fill("txtCharge_3", "5");
+  screen.Fill("txtCharge_4", "4");
+  screen.ShowTab(0);
+  screen.SelectRow("fgServices", 1);
+  screen.Click(3);
+  screen.ShowTab(3);
+  screen.Click(22);
+  QCOMPARE(screen.Rows("fgCustom"), 1);
+  QCOMPARE(screen.Row("fgCustom", 1), u"Welding|$5.00|$4.00|0"_s);
+}
+
+void ScreenSaves::modifyModeWithoutALineThereAsksForOne() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("a"));
+  screen.Open(3);
+  screen.Click(18);
+  screen.Fill("txtDescription_2", "Welding");
+  screen.Fill("txtCharge_3", "5");
+  screen.Fill("txtCharge_4", "4");
+  screen.ShowTab(0);
+  screen.SelectRow("fgServices", 1);
+  screen.Click(3);
+  screen.ShowTab(3);
+  screen.Program.Answers.Ok(u"Select the line to modify, or click Add New"_s, u"Karvex Invoicer"_s);
+  screen.Click(22);
+  QCOMPARE(screen.Rows("fgCustom"), 0);
+  QCOMPARE(screen.Text("txtDescription_2"), u"Welding"_s);
+  QVERIFY(screen.Live(22));
+}
+
+void ScreenSaves::aSaveThatStopsLeavesBoxesAndMode() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("a"));
+  screen.Open();
+  screen.SelectRow("fgServices", 1);
+  screen.Click(3);
+  screen.Fill("txtDescription_0", "");
+  screen.Click(4);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Text("txtCharge_0"), u"$1.00"_s);
+  QVERIFY(!screen.Open("fgServices"));
+  screen.Fill("txtDescription_0", "b");
+  screen.Click(4);
+  QCOMPARE(screen.Rows("fgServices"), 1);
+  QCOMPARE(screen.Row("fgServices", 1), u"b|$1.00|0:15"_s);
+}
+
+void ScreenSaves::enterInABoxSaves() {
+  CatalogueScreen screen;
+  screen.Open();
+  screen.Click(1);
+  screen.Fill("txtDescription_0", "Advice");
+  screen.Fill("txtCharge_0", "5");
+  screen.Driver().PressKey(Qt::Key_Return);
+  QCOMPARE(screen.Row("fgServices", 1), u"Advice|$5.00|0:00"_s);
+  QCOMPARE(screen.Focus(), u"cmdServices_1"_s);
+  // Where the box's own check keeps the focus, Enter saves nothing.
+  screen.Driver().PressKey(Qt::Key_Return);
+  screen.Fill("txtDescription_0", "More");
+  screen.Fill("txtCharge_0", ".");
+  screen.Driver().PressKey(Qt::Key_Return);
+  QCOMPARE(screen.Rows("fgServices"), 1);
+  QCOMPARE(screen.Focus(), u"txtCharge_0"_s);
+}
+
+void ScreenSaves::theTwoHundredFiftySixthRecordIsToldAndTheScreenStays() {
+  CatalogueScreen screen;
+  const QByteArray full = CatalogueScreen::Service("a").repeated(255);
+  screen.Program.Tree.Write(u"/Services.txt"_s, full);
+  screen.Open();
+  QCOMPARE(screen.Rows("fgServices"), 255);
+  AddService(screen, "b");
+  screen.Program.Answers.Ok();
+  screen.Click(0);
+  QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"/Services.txt: The list holds 256 entries"_s));
+  QVERIFY(ScreenDriver::IsShown(u"frmServices"_s));
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), full);
+  // The window's close box doesn't lose it either.
+  screen.Program.Answers.Ok();
+  screen.Driver().CloseByUser();
+  QVERIFY(!screen.Program.Running().HasEnded());
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), full);
+  screen.SelectRow("fgServices", 1);
+  screen.Program.Answers.Yes();
+  screen.Click(2);
+  screen.Click(0);
+  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s),
+           CatalogueScreen::Service("a").repeated(254) + CatalogueScreen::Service("b"));
+}
+
+QTEST_MAIN(ScreenSaves)
+#include "tst_screenSaves.moc"
