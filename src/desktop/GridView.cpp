@@ -211,10 +211,12 @@ void GridView::focusInEvent(QFocusEvent* event) {
   }
 }
 
-void GridView::focusOutEvent(QFocusEvent* event) {
+bool GridView::event(QEvent* event) {
   // A key that opened a box, or that closed one, isn't a key pressed and released here.
-  m_pressedKey = 0;
-  QTableView::focusOutEvent(event);
+  if (event->type() == QEvent::FocusOut || event->type() == QEvent::WindowBlocked) {
+    m_pressedKey = 0;
+  }
+  return QTableView::event(event);
 }
 
 void GridView::wheelEvent(QWheelEvent* event) {

@@ -91,6 +91,8 @@ void Screen::ApplyPendingFocus() {
 void Screen::setVisible(bool visible) {
   if (visible && !isVisible()) {
     m_host.Placement().Apply(*this);
+  } else if (!visible) {
+    m_host.Placement().Remember(*this);
   }
   QMainWindow::setVisible(visible);
   if (visible) {

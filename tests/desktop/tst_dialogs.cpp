@@ -96,7 +96,7 @@ class UserDialogs : public QObject {
     m_dialogs.ShowMessage(u"x"_s);
     ScreenDriver::ProcessEvents();
     QCOMPARE(parent, m_screen.get());
-    QVERIFY(m_screen->isActiveWindow());
+    QTRY_VERIFY(m_screen->isActiveWindow());
   }
 
   void twoBoxesInARowHaveTheSameOwner() {

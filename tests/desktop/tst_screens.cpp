@@ -134,17 +134,17 @@ class ScreensShare : public QObject {
     first.resize(640, 480);
     ScreenDriver::ProcessEvents();
     first.showMaximized();
-    ScreenDriver::ProcessEvents();
+    QTRY_VERIFY(first.isMaximized());
     first.hide();
     second.show();
     ScreenDriver::ProcessEvents();
-    QVERIFY(second.isMaximized());
+    QTRY_VERIFY(second.isMaximized());
     second.showNormal();
-    ScreenDriver::ProcessEvents();
+    QTRY_VERIFY(!second.isMaximized());
     second.hide();
     first.show();
     ScreenDriver::ProcessEvents();
-    QVERIFY(!first.isMaximized());
+    QTRY_VERIFY(!first.isMaximized());
   }
 
   void aControlArrayIsIndexedByTheNumbersOfItsNames() {

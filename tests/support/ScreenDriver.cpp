@@ -39,11 +39,11 @@ ScreenDriver::ScreenDriver(const QString& windowName) : m_window(FindWindow(wind
   if (m_window == nullptr) {
     qFatal("no window named %s is shown", qPrintable(windowName));
   }
-  ProcessEvents();
+  Activate();
 }
 
 ScreenDriver::ScreenDriver(QWidget* window) : m_window(window) {
-  ProcessEvents();
+  Activate();
 }
 
 QWidget* ScreenDriver::FindWindow(const QString& windowName) {
@@ -108,10 +108,14 @@ void ScreenDriver::Activate() const {
   if (!m_window->isVisible()) {
     qFatal("%s isn't shown", qPrintable(m_window->objectName()));
   }
-  if (!m_window->isActiveWindow()) {
+  // A window manager takes its time; behind a box no window is active.
+  if (!m_window->isActiveWindow() && QApplication::activeModalWidget() == nullptr) {
     m_window->activateWindow();
-    ProcessEvents();
+    if (!QTest::qWaitForWindowActive(m_window)) {
+      Fail(u"%1 doesn't become active"_s.arg(m_window->objectName()));
+    }
   }
+  ProcessEvents();
 }
 
 QPoint ScreenDriver::Reach(QWidget* control, const QPoint& position) const {
