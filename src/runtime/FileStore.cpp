@@ -158,10 +158,11 @@ void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
 }
 
 void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArray& bytes) {
+  const bool isNew = !IsFile(path);
   int descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
   if (descriptor == -ELOOP) {
     // Nothing is written through a link: the tree gets a file of its own in the link's place.
-    ReplaceWhole(path, ReadWhole(path));
+    ReplaceWhole(path, isNew ? QByteArray() : ReadWhole(path));
     descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
   }
   CheckFile(descriptor, path);
@@ -174,6 +175,7 @@ void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArra
   if (written == 0) return;
   WriteAll(m_device, descriptor, before, offset);
   if (offset + bytes.size() > lengthBefore) m_device.Truncate(descriptor, lengthBefore);
+  if (isNew) m_device.Remove(path);
   RaiseFileError(written, path);
 }
 

@@ -3,13 +3,14 @@
 
 #include "shell/CommonDiskRoutines.h"
 #include "support/ErrorOf.h"
+#include "support/FailingDevice.h"
 
 using namespace Qt::StringLiterals;
 
 class DiskRoutinesTest : public QObject {
   Q_OBJECT
 
-  FileDevice m_device;
+  FailingDevice m_device;
   FileStore m_store{m_device};
   std::unique_ptr<QTemporaryDir> m_root;
   std::unique_ptr<CommonDiskRoutines> m_disk;
@@ -27,6 +28,7 @@ class DiskRoutinesTest : public QObject {
 
  private Q_SLOTS:
   void init() {
+    m_device.Reset();
     m_root = std::make_unique<QTemporaryDir>();
     m_disk = std::make_unique<CommonDiskRoutines>(m_store, m_root->path(), u"KarvexInvoicer"_s);
     QVERIFY(QDir(m_root->path()).mkdir(u"Backup"_s));
@@ -111,6 +113,83 @@ class DiskRoutinesTest : public QObject {
     QCOMPARE(Bytes(u"/Backup/Phone.txt"_s), "older");
   }
 
+  void aKillAtAnyStepOfASaveLeavesTheFileOldOrNewAndTheCopyWithTheOldOne() {
+    bool finished = false;
+    for (int step = 1; !finished; ++step) {
+      Put(u"/PrintColors.txt"_s, "old");
+      Put(u"/Backup/PrintColors.txt"_s, "older");
+      m_device.KillAt(step);
+      try {
+        m_disk->SaveFile(u"/PrintColors.txt"_s, "new", BackupCopy::Dropped);
+        finished = true;
+      } catch (const FailingDevice::Killed&) {
+      }
+      const QByteArray content = Bytes(u"/PrintColors.txt"_s);
+      QVERIFY2(content == "old" || content == "new", content.constData());
+      // The copy goes only once the new file stands.
+      if (content == "old") QCOMPARE(Bytes(u"/Backup/PrintColors.txt"_s), "older");
+      if (finished) QVERIFY(Absent(u"/Backup/PrintColors.txt"_s));
+    }
+  }
+
+  void aSaveThatFailsKeepsTheFileAndItsCopy() {
+    Put(u"/PrintColors.txt"_s, "old");
+    Put(u"/Backup/PrintColors.txt"_s, "older");
+    m_device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+    QCOMPARE(ErrorOf([&] { m_disk->SaveFile(u"/PrintColors.txt"_s, "new", BackupCopy::Dropped); }), 61);
+    QCOMPARE(Bytes(u"/PrintColors.txt"_s), "old");
+    QCOMPARE(Bytes(u"/Backup/PrintColors.txt"_s), "older");
+  }
+
+  void aRestoreThatFailsLeavesNoHalfFile() {
+    Put(u"/Backup/Phone.txt"_s, "copy");
+    m_device.WriteShortAt(1, 2, ENOSPC);
+    QCOMPARE(ErrorOf([&] { m_disk->FileExists(u"/Phone.txt"_s); }), 61);
+    QVERIFY(Absent(u"/Phone.txt"_s));
+    QVERIFY(m_disk->FileExists(u"/Phone.txt"_s));
+    QCOMPARE(Bytes(u"/Phone.txt"_s), "copy");
+  }
+
+  void aFileInASubfolderComesBackFromTheSameSubfolderOfTheBackup() {
+    QVERIFY(QDir(m_root->path()).mkpath(u"Backup/CompletedInvoices"_s));
+    QVERIFY(QDir(m_root->path()).mkpath(u"CompletedInvoices"_s));
+    Put(u"/Backup/CompletedInvoices/1001.txt"_s, "image");
+    QVERIFY(m_disk->FileExists(u"\\CompletedInvoices\\1001.txt"_s));
+    QCOMPARE(Bytes(u"/CompletedInvoices/1001.txt"_s), "image");
+  }
+
+  void filesAreKilledAloneOrWithTheirCopy() {
+    Put(u"/Phone.txt"_s, "p");
+    Put(u"/Backup/Phone.txt"_s, "c");
+    m_disk->KillDataFile(u"\\Phone.txt"_s);
+    QVERIFY(Absent(u"/Phone.txt"_s));
+    QCOMPARE(Bytes(u"/Backup/Phone.txt"_s), "c");
+    Put(u"/Phone.txt"_s, "p");
+    m_disk->KillWithBackup(u"\\Phone.txt"_s);
+    QVERIFY(Absent(u"/Phone.txt"_s));
+    QVERIFY(Absent(u"/Backup/Phone.txt"_s));
+    m_disk->KillWithBackup(u"/Phone.txt"_s);
+  }
+
+  void aRenamedFileTakesThePlaceOfTheOther() {
+    Put(u"/TemporaryFile.txt"_s, "new");
+    Put(u"/SoldItems.txt"_s, "old");
+    m_disk->RenameDataFile(u"/TemporaryFile.txt"_s, u"\\SoldItems.txt"_s);
+    QCOMPARE(Bytes(u"/SoldItems.txt"_s), "new");
+    QVERIFY(Absent(u"/TemporaryFile.txt"_s));
+    m_disk->CopyDataFile(u"\\SoldItems.txt"_s, u"/Backup/SoldItems.txt"_s);
+    QCOMPARE(Bytes(u"/Backup/SoldItems.txt"_s), "new");
+  }
+
+  void filesOfAFolderAreFoundByWildcard() {
+    QVERIFY(QDir(m_root->path()).mkpath(u"KarvexProposals/ProposalBody"_s));
+    QVERIFY(!m_disk->AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s));
+    Put(u"/KarvexProposals/B.txt"_s, "");
+    Put(u"/KarvexProposals/a.txt"_s, "");
+    QVERIFY(m_disk->AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s));
+    QCOMPARE(m_disk->ListFiles(u"/KarvexProposals"_s, u"*.txt"_s), (QStringList{u"a.txt"_s, u"B.txt"_s}));
+  }
+
   void aTextIsReplacedByOnePlainLine() {
     Put(u"/Backup/InvoiceMemo.txt"_s, "older");
     m_disk->ReplaceTextFile(u"/InvoiceMemo.txt"_s, u"Thanks, \u20ac 5"_s);
@@ -193,6 +272,37 @@ class DiskRoutinesTest : public QObject {
     m_disk->BackupDataFiles();
     QCOMPARE(Bytes(u"/Backup/TaxRecords.txt"_s), "t");
     QCOMPARE(QDir(m_root->path() + u"/Backup"_s).entryList(QDir::Files), QStringList{u"TaxRecords.txt"_s});
+  }
+
+  void aKillAtAnyStepOfTheExitBackupLeavesEachCopyOldOrNew() {
+    bool finished = false;
+    for (int step = 1; !finished; ++step) {
+      for (const QString& name : {u"Labor"_s, u"TaxRecords"_s}) {
+        Put(u'/' + name + u".txt"_s, "new");
+        Put(u"/Backup/"_s + name + u".txt"_s, "old");
+      }
+      m_device.KillAt(step);
+      try {
+        m_disk->BackupDataFiles();
+        finished = true;
+      } catch (const FailingDevice::Killed&) {
+      }
+      for (const QString& name : {u"Labor"_s, u"TaxRecords"_s}) {
+        const QByteArray copy = Bytes(u"/Backup/"_s + name + u".txt"_s);
+        QVERIFY2(copy == "new" || (copy == "old" && !finished), copy.constData());
+        QCOMPARE(Bytes(u'/' + name + u".txt"_s), "new");
+      }
+    }
+  }
+
+  void aFullDiskAtExitKeepsTheOlderCopies() {
+    Put(u"/Labor.txt"_s, "new");
+    Put(u"/Backup/Labor.txt"_s, "old");
+    Put(u"/TaxRecords.txt"_s, "new");
+    m_device.WriteShortAt(1, 1, ENOSPC);
+    m_disk->BackupDataFiles();
+    QCOMPARE(Bytes(u"/Backup/Labor.txt"_s), "old");
+    QCOMPARE(Bytes(u"/Backup/TaxRecords.txt"_s), "new");
   }
 
   void whatCanNameAFile() {

@@ -1,0 +1,139 @@
+// Looking for files and reading them.
+#include <unistd.h>
+#include <QtTest>
+
+#include "runtime/FileStore.h"
+#include "runtime/FolderMaker.h"
+#include "support/ErrorOf.h"
+#include "support/FailingDevice.h"
+#include "support/TemporaryTree.h"
+
+using namespace Qt::StringLiterals;
+using Call = FailingDevice::Call;
+
+class FileStoreTest : public QObject {
+  Q_OBJECT
+
+  std::unique_ptr<TemporaryTree> m_tree;
+  FailingDevice m_device;
+  FileStore m_store{m_device};
+
+  QString Path(const QString& name) const { return m_tree->Path(name); }
+
+ private Q_SLOTS:
+  void init() {
+    m_tree = std::make_unique<TemporaryTree>();
+    m_device.Reset();
+  }
+
+  void aFileIsAFileOfAnyLengthAndAFolderIsNone() {
+    m_tree->Write(u"/empty.txt"_s, "");
+    m_tree->MakeFolder(u"/folder"_s);
+    QVERIFY(QFile::link(Path(u"/empty.txt"_s), Path(u"/link.txt"_s)));
+    QVERIFY(QFile::link(Path(u"/none.txt"_s), Path(u"/dangling.txt"_s)));
+    QVERIFY(m_store.IsFile(Path(u"/empty.txt"_s)));
+    QVERIFY(m_store.IsFile(Path(u"/link.txt"_s)));
+    QVERIFY(!m_store.IsFile(Path(u"/dangling.txt"_s)));
+    QVERIFY(!m_store.IsFile(Path(u"/folder"_s)));
+    QVERIFY(!m_store.IsFile(Path(u"/none.txt"_s)));
+    QVERIFY(m_store.IsFolder(Path(u"/folder"_s)));
+    QVERIFY(!m_store.IsFolder(Path(u"/empty.txt"_s)));
+  }
+
+  void aFileIsReadWholeOrInPart() {
+    m_tree->Write(u"/a.txt"_s, "0123456789");
+    QCOMPARE(m_store.Size(Path(u"/a.txt"_s)), qint64{10});
+    QCOMPARE(m_store.ReadWhole(Path(u"/a.txt"_s)), "0123456789");
+    QCOMPARE(m_device.Count(Call::Read), 1);
+    QCOMPARE(m_store.ReadPart(Path(u"/a.txt"_s), 3, 4), "3456");
+    QCOMPARE(m_store.ReadPart(Path(u"/a.txt"_s), 8, 4), "89");
+    QCOMPARE(m_store.ReadPart(Path(u"/a.txt"_s), 20, 4), "");
+  }
+
+  void whatCannotBeReadIsToldWithItsPath() {
+    m_tree->Write(u"/a.txt"_s, "x");
+    const RuntimeError missing = CaughtFrom([&] { m_store.ReadWhole(Path(u"/none.txt"_s)); });
+    QCOMPARE(missing.Number(), 53);
+    QCOMPARE(missing.Subject(), Path(u"/none.txt"_s));
+    QCOMPARE(ErrorOf([&] { m_store.ReadWhole(Path(u"/none/a.txt"_s)); }), 76);
+    QCOMPARE(ErrorOf([&] { m_store.Size(Path(u"/none.txt"_s)); }), 53);
+    QCOMPARE(ErrorOf([&] { m_store.ReadWhole(Path(u""_s)); }), 75);  // a folder
+    m_device.FailAt(Call::Open, 1, EACCES);
+    QCOMPARE(ErrorOf([&] { m_store.ReadWhole(Path(u"/a.txt"_s)); }), 70);
+    m_device.FailAt(Call::Read, 1, EIO);
+    QCOMPARE(ErrorOf([&] { m_store.ReadWhole(Path(u"/a.txt"_s)); }), 75);
+    QCOMPARE(m_device.Count(Call::Close), 1);
+  }
+
+  void filesAreListedByNameWithoutFolders() {
+    for (const QString& name : {u"/1002.txt"_s, u"/1001.txt"_s, u"/b.txt"_s, u"/A.txt"_s, u"/c.TXT"_s, u"/d.txt.new"_s,
+                                u"/e.tmp"_s, u"/f[1].txt"_s}) {
+      m_tree->Write(name, "");
+    }
+    m_tree->MakeFolder(u"/folder.txt"_s);
+    QVERIFY(QFile::link(Path(u"/A.txt"_s), Path(u"/link.txt"_s)));
+    QVERIFY(QFile::link(Path(u"/folder.txt"_s), Path(u"/link to a folder.txt"_s)));
+    QCOMPARE(m_store.List(Path(u""_s), u"*.txt"_s),
+             (QStringList{u"1001.txt"_s, u"1002.txt"_s, u"A.txt"_s, u"b.txt"_s, u"f[1].txt"_s, u"link.txt"_s}));
+    QCOMPARE(m_store.List(Path(u""_s), u"100?.txt"_s), (QStringList{u"1001.txt"_s, u"1002.txt"_s}));
+    QCOMPARE(m_store.List(Path(u"/none"_s), u"*.txt"_s), QStringList{});
+  }
+
+  void anyMatchIsEnough() {
+    m_tree->MakeFolder(u"/folder.txt"_s);
+    m_tree->Write(u"/a.tmp"_s, "");
+    QVERIFY(!m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+    m_tree->Write(u"/a.txt"_s, "");
+    QVERIFY(m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+    QVERIFY(!m_store.AnyMatch(Path(u"/none"_s), u"*.txt"_s));
+  }
+
+  void namesOutsideAsciiAreFoundAgain() {
+    m_store.ReplaceWhole(Path(u"/M\u00fcller \u20ac.txt"_s), "x");
+    QCOMPARE(m_store.List(Path(u""_s), u"*.txt"_s), QStringList{u"M\u00fcller \u20ac.txt"_s});
+    QCOMPARE(m_store.ReadWhole(Path(u"/M\u00fcller \u20ac.txt"_s)), "x");
+  }
+
+  void aFolderIsMadeOnce() {
+    m_store.MakeFolder(Path(u"/f"_s));
+    m_store.MakeFolder(Path(u"/f"_s));
+    QCOMPARE(m_tree->List(), QStringList{u"f/"_s});
+    QCOMPARE(ErrorOf([&] { m_store.MakeFolder(Path(u"/none/f"_s)); }), 76);
+    m_tree->Write(u"/file"_s, "");
+    QCOMPARE(ErrorOf([&] { m_store.MakeFolder(Path(u"/file"_s)); }), 75);
+    m_device.FailAt(Call::MakeFolder, 1, EROFS);
+    QCOMPARE(CaughtFrom([&] { m_store.MakeFolder(Path(u"/g"_s)); }).Number(), 70);
+  }
+
+  void manyFoldersAreMadeUnderOneParent() {
+    FolderMaker maker(m_device, m_tree->Root());
+    maker.Make("a/");
+    maker.Make("a/b/");
+    maker.Make("a/b/");
+    QCOMPARE(m_device.Count(Call::MakeFolder), 2);
+    QCOMPARE(m_tree->List(u"/a"_s), QStringList{u"b/"_s});
+    QCOMPARE(ErrorOf([&] { maker.Make("none/c/"); }), 76);
+    m_tree->Write(u"/file"_s, "");
+    QCOMPARE(ErrorOf([&] { maker.Make("file/"); }), 75);
+    m_device.FailAt(Call::MakeFolder, 1, ENOSPC);
+    const RuntimeError full = CaughtFrom([&] { maker.Make("d/"); });
+    QCOMPARE(full.Number(), 61);
+    QCOMPARE(full.Subject(), Path(u"/d/"_s));
+    QCOMPARE(ErrorOf([&] { const FolderMaker none(m_device, Path(u"/none"_s)); }), 76);
+  }
+
+  void everyFileIsClosedAgain() {
+    m_tree->Write(u"/a.txt"_s, "x");
+    m_store.ReadWhole(Path(u"/a.txt"_s));
+    m_store.ReplaceWhole(Path(u"/a.txt"_s), "y");
+    m_store.WriteInPlace(Path(u"/a.txt"_s), 0, "z");
+    m_store.Copy(Path(u"/a.txt"_s), Path(u"/b.txt"_s));
+    QCOMPARE(m_device.Count(Call::Close), m_device.Count(Call::Open));
+    m_device.FailAt(Call::Write, 1, EIO);
+    QCOMPARE(ErrorOf([&] { m_store.ReplaceWhole(Path(u"/a.txt"_s), "y"); }), 75);
+    QCOMPARE(m_device.Count(Call::Close), m_device.Count(Call::Open));
+  }
+};
+
+QTEST_GUILESS_MAIN(FileStoreTest)
+#include "tst_fileStore.moc"
