@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "catalogue/frmServices.h"
+#include "customers/frmNewCustomer.h"
 #include "invoice/frmInvoice.h"
 #include "ProgramObjects.h"
 #include "records/PartialList.h"
@@ -10,7 +11,14 @@
 #include "shell/frmStartup.h"
 #include "shell/KarvexMasterModule.h"
 
-Program::Program(const Platform& platform) : m_platform(platform), m_objects(std::make_unique<Objects>(m_platform)) {}
+Program::Program(const Platform& platform) : m_platform(platform), m_objects(std::make_unique<Objects>(m_platform)) {
+  // The customer screen takes over the address style at once, also while it isn't built yet.
+  m_objects->Live.Business.UseAddressStyle = [this](bool usaStyle) {
+    m_objects->Customer.UsaAddress = usaStyle;
+    if (Screen* built = Built(ScreenName::frmNewCustomer))
+      static_cast<frmNewCustomer*>(built)->UseAddressStyle(usaStyle);
+  };
+}
 
 Program::~Program() {
   m_screens.clear();
@@ -51,6 +59,9 @@ std::unique_ptr<Screen> Program::Build(ScreenName screen) {
       return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
     case ScreenName::frmInvoice:
       return BuildInvoice();
+    case ScreenName::frmNewCustomer:
+      return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
+                                              m_objects->Live.Business, m_objects->Customer);
     default:
       return nullptr;
   }

@@ -12,9 +12,7 @@ Program::Objects::Objects(const Platform& platform)
       Instance(platform.LockFolder, platform.DataRoot),
       Prices(Disk, Lists, SalesItems),
       Routines(*platform.Paper, Live.Print),
-      Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}) {
-  Live.Business.UseAddressStyle = [this](bool usaStyle) { Customer.UsaAddress = usaStyle; };
-}
+      Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}) {}
 
 void Program::Objects::LoadSettings() {
   LoadSetup(Disk, Live, &IsPicture, [this] {

@@ -1,5 +1,7 @@
 #include "customers/CustomerEditor.h"
 
+#include <algorithm>
+
 #include "customers/CommonAccountRoutines.h"
 #include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
@@ -53,8 +55,12 @@ void CustomerEditor::Open() {
 }
 
 void CustomerEditor::DecideAddressStyle() {
-  m_onScreen.UsaAddress = m_profile.IsUsaStyle();
-  m_view.ShowAddressBoxes(m_onScreen.UsaAddress);
+  UseAddressStyle(m_profile.IsUsaStyle());
+}
+
+void CustomerEditor::UseAddressStyle(bool usa) {
+  m_onScreen.UsaAddress = usa;
+  m_view.ShowAddressBoxes(usa);
 }
 
 /// A file that is there but empty counts as one record, the blank one on the screen.
@@ -178,6 +184,13 @@ void CustomerEditor::FillBuffer() {
   record.SetAcctFlag(m_acctFlagValue);
 }
 
+void CustomerEditor::RequireRoom() const {
+  if (m_customerCount >= MaximumCustomers) {
+    throw RuntimeError(ErrorNumber::Overflow, u"/CustomerData.txt"_s,
+                       u"The customer file holds 32,767 customers and takes no more."_s);
+  }
+}
+
 void CustomerEditor::AddNewCustomer(const QString& telephone) {
   if (Text(CustomerBox::txtCustomer0).isEmpty()) {
     if (BeepOnError) {
@@ -188,10 +201,7 @@ void CustomerEditor::AddNewCustomer(const QString& telephone) {
     }
     return;
   }
-  if (m_customerCount >= MaximumCustomers) {
-    throw RuntimeError(ErrorNumber::Overflow, u"/CustomerData.txt"_s,
-                       u"The customer file holds 32,767 customers and takes no more."_s);
-  }
+  RequireRoom();
   SaveCustomer();  // Whatever comes of it.
   ++m_customerCount;
   SetPointer(m_customerCount);
@@ -239,6 +249,7 @@ bool CustomerEditor::IsDuplicateAcctNo(const QString& number) {
 void CustomerEditor::BuildAccountList() {
   const CustomerLists lists = m_file.ReadLists(m_customerCount);
   m_cities = QSet<QString>(lists.Cities.begin(), lists.Cities.end());
+  m_accounts = lists.Accounts;
   m_view.SetAccounts(lists.Accounts, lists.Records);
   m_view.SetCities(lists.Cities);
 }
@@ -248,6 +259,16 @@ void CustomerEditor::AddCityToList(const QString& city) {
     m_cities.insert(city);
     m_view.AddCity(city);
   }
+}
+
+int CustomerEditor::FindAccount(const QString& typed) const {
+  if (typed.isEmpty()) {
+    return -1;
+  }
+  const QString wanted = TrimBlanks(typed).toUpper();
+  const auto found = std::find_if(m_accounts.begin(), m_accounts.end(),
+                                  [&](const QString& account) { return TrimBlanks(account).toUpper() == wanted; });
+  return found == m_accounts.end() ? -1 : static_cast<int>(found - m_accounts.begin());
 }
 
 void CustomerEditor::ShowCaption() {

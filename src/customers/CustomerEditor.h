@@ -23,6 +23,7 @@ class CustomerEditor {
   void Open();
   /// The address style is Setup's, taken over at each showing and whenever it is toggled there.
   void DecideAddressStyle();
+  void UseAddressStyle(bool usa);
 
   void CountCustomers();
   void BlankBoxes();
@@ -30,7 +31,10 @@ class CustomerEditor {
   /// Checks the boxes and writes the record; `SaveAccepted` tells of it. Throws RuntimeError 61, 70 or 75, with the
   /// record as it was and the boxes as typed.
   void SaveCustomer();
-  /// Throws RuntimeError 6 before anything is done where the file is full.
+  /// Throws RuntimeError 6 where the file is full.
+  void RequireRoom() const;
+  /// Saves, then starts the record after the last one. Throws RuntimeError 6 before anything is done where the file is
+  /// full.
   void AddNewCustomer(const QString& telephone);
   /// Takes the count back and drops what was typed for the new record.
   void CancelAddNew();
@@ -38,6 +42,9 @@ class CustomerEditor {
   bool IsDuplicateAcctNo(const QString& number);
   void BuildAccountList();
   void AddCityToList(const QString& city);
+
+  /// The entry of the name list that a typed text is, ignoring case and blanks around; -1 if none.
+  int FindAccount(const QString& typed) const;
 
   /// `cmdNav`: saves, whatever comes of it, moves, and loads.
   void Navigate(int index);
@@ -83,6 +90,7 @@ class CustomerEditor {
   CustomerView& m_view;
   CustomerFile m_file;
   QSet<QString> m_cities;
+  QStringList m_accounts;
 
   qint32 m_customerPointer = 1;
   qint32 m_customerCount = 0;

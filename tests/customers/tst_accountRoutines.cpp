@@ -1,7 +1,10 @@
 // The ledgers of the accounts and the file of payments, byte by byte.
+#include <QtTest>
+
 #include "customers/CommonAccountRoutines.h"
 #include "customers/CustomerFixture.h"
 #include "support/ErrorOf.h"
+#include "support/FixedClock.h"
 
 using namespace Qt::StringLiterals;
 
@@ -127,8 +130,8 @@ class AccountRoutinesTest : public QObject {
     QCOMPARE(ErrorOf([&] { m_accounts->PostLedgerEntry(account, u"A"_s, u"1"_s, u"x"_s, QDate(2026, 3, 7)); }), 64);
     QCOMPARE(ErrorOf([&] { m_accounts->CreateLedger(account, u"A"_s); }), 64);
     QCOMPARE(ErrorOf([&] { m_accounts->BackupLedger(account); }), 64);
-    QVERIFY(QDir(m_tree->Root.path()).entryList(QDir::Files).isEmpty());
-    QVERIFY(QDir(m_tree->Root.path() + u"/KVActiveAccounts"_s).isEmpty());
+    QVERIFY(m_tree->Files().isEmpty());
+    QVERIFY(m_tree->Files(u"/KVActiveAccounts"_s).isEmpty());
   }
 
   void aFullDiskLeavesTheLedgerAsItWas() {

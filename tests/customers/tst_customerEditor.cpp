@@ -1,6 +1,12 @@
 // The rules of the customer screen: load, save, add, delete, move, and every message.
+#include <QtTest>
+
+#include "customers/CustomerEditor.h"
 #include "customers/CustomerFixture.h"
+#include "customers/CustomerRecords.h"
+#include "setup/BusinessProfile.h"
 #include "support/ErrorOf.h"
+#include "support/ScriptedDialogs.h"
 
 using namespace Qt::StringLiterals;
 using Box = CustomerBox;
@@ -9,11 +15,11 @@ class CustomerEditorTest : public QObject {
   Q_OBJECT
 
   struct Desk : CustomerTree {
-    NotedDialogs Dialogs;
+    ScriptedDialogs Boxes;
     BusinessProfile Profile;
     CustomerOnScreen OnScreen;
     PlainView View;
-    CustomerEditor Editor{Disk, Dialogs, Profile, OnScreen, View};
+    CustomerEditor Editor{Disk, Boxes, Profile, OnScreen, View};
   };
   std::unique_ptr<Desk> m_desk;
 
@@ -22,7 +28,7 @@ class CustomerEditorTest : public QObject {
   void Type(Box box, const QString& text) { m_desk->View.SetText(box, text); }
   QString Text(Box box) { return m_desk->View.Text(box); }
   CustomerEditor& Editor() { return m_desk->Editor; }
-  QStringList Shown() { return std::exchange(m_desk->Dialogs.Shown, {}); }
+  QStringList Shown() { return m_desk->Boxes.TakeSeen(); }
   void Activate() {
     Editor().DecideAddressStyle();
     Editor().ApplyAccountType(u"Business"_s);
@@ -377,14 +383,12 @@ class CustomerEditorTest : public QObject {
     Type(Box::txtCustomer0, {});
     Editor().AddNewCustomer({});
     QCOMPARE(Shown(), QStringList());
-    QCOMPARE(m_desk->Dialogs.Beeps, 0);
     QCOMPARE(Editor().CustomerCount(), 1);
     QCOMPARE(Text(Box::txtCustomer1), u"One"_s);
     Editor().BeepOnError = true;
     Editor().PromptOnError = true;
     Editor().AddNewCustomer({});
-    QCOMPARE(Shown(), QStringList{u"|Enter an Account Number"_s});
-    QCOMPARE(m_desk->Dialogs.Beeps, 1);
+    QCOMPARE(Shown(), (QStringList{u"beep"_s, u"|Enter an Account Number"_s}));
   }
 
   void aFullFileTakesNoMoreCustomers() {
@@ -501,7 +505,7 @@ class CustomerEditorTest : public QObject {
   void aDeleteIsAskedOnce() {
     const QByteArray before = Many(2);
     OpenWith(before);
-    m_desk->Dialogs.Answers = {false};
+    m_desk->Boxes.Answers = {false};
     Editor().DeleteCustomer();
     QCOMPARE(Shown(), QStringList{u"|Delete this Customer"_s});
     QCOMPARE(Customers(), before);
@@ -511,7 +515,7 @@ class CustomerEditorTest : public QObject {
   void aDeleteShowsTheRecordThatTakesThePlace() {
     OpenWith(Many(3));
     Editor().ShowRecord(2);
-    m_desk->Dialogs.Answers = {true};
+    m_desk->Boxes.Answers = {true};
     Editor().DeleteCustomer();
     QCOMPARE(Editor().CustomerCount(), 2);
     QCOMPARE(Editor().CustomerPointer(), 2);
@@ -524,7 +528,7 @@ class CustomerEditorTest : public QObject {
   void deletingTheLastRecordMovesToTheNewLastOne() {
     OpenWith(Many(3));
     Editor().ShowRecord(3);
-    m_desk->Dialogs.Answers = {true};
+    m_desk->Boxes.Answers = {true};
     Editor().DeleteCustomer();
     QCOMPARE(Editor().CustomerPointer(), 2);
     QCOMPARE(Text(Box::txtCustomer0), u"2"_s);
@@ -533,7 +537,7 @@ class CustomerEditorTest : public QObject {
 
   void deletingTheOnlyRecordLeavesAnEmptyFileAndABlankRecord() {
     OpenWith(BusinessRecord("1", "One"));
-    m_desk->Dialogs.Answers = {true};
+    m_desk->Boxes.Answers = {true};
     Editor().DeleteCustomer();
     QCOMPARE(Customers(), QByteArray());
     QCOMPARE(Editor().CustomerCount(), 1);
@@ -548,7 +552,7 @@ class CustomerEditorTest : public QObject {
     m_desk->Put(u"/KVActiveAccounts/77.txt"_s, "ledger");
     m_desk->Put(u"/Backup/KVActiveAccounts/77.txt"_s, "ledger");
     Type(Box::txtCustomer0, u"77 "_s);
-    m_desk->Dialogs.Answers = {true};
+    m_desk->Boxes.Answers = {true};
     Editor().DeleteCustomer();
     QVERIFY(m_desk->Has(u"/KVActiveAccounts/1.txt"_s));
     QVERIFY(!m_desk->Has(u"/KVActiveAccounts/77.txt"_s));
@@ -558,12 +562,12 @@ class CustomerEditorTest : public QObject {
   void aDuplicateNumberIsReplacedOrKept() {
     OpenWith(Many(2));
     Type(Box::txtCustomer0, u"2"_s);
-    m_desk->Dialogs.Answers = {false};
+    m_desk->Boxes.Answers = {false};
     Editor().LeaveAccountNo();
     QCOMPARE(Shown(), QStringList{u"Duplicate Account Number|The Account Number is a duplicate\n"
                                   "Click Yes to Replace it\nEnter a different Number"_s});
     QCOMPARE(Text(Box::txtCustomer0), u"2"_s);
-    m_desk->Dialogs.Answers = {true};
+    m_desk->Boxes.Answers = {true};
     Editor().LeaveAccountNo();
     QCOMPARE(Text(Box::txtCustomer0), QString());
     QCOMPARE(m_desk->View.Focus, u"box 0"_s);
@@ -667,7 +671,7 @@ class CustomerEditorTest : public QObject {
     record.CellPhone = cell;
     OpenWith(record.Bytes());
     const bool both = !phone.isEmpty() && !cell.isEmpty();
-    if (both) m_desk->Dialogs.Answers = {yes};
+    if (both) m_desk->Boxes.Answers = {yes};
     QTEST(Editor().NumberToDial(), "number");
     QCOMPARE(Shown(), both ? QStringList{u"Select Phone or Cell|Click YES to dial Phone,\nClick NO to dial Cell"_s}
                            : QStringList());
@@ -676,9 +680,8 @@ class CustomerEditorTest : public QObject {
   void aStepDoesNotDependOnTheNumberOfCustomers() {
     OpenWith(Many(2000));
     m_desk->Device.Reset();
-    m_desk->Device.BytesRead = 0;
     Editor().Navigate(2);
-    QCOMPARE(m_desk->Device.BytesRead, 328 * 2);  // The record before it is overwritten, and the next one.
+    QCOMPARE(m_desk->Device.BytesRead(), 328 * 2);  // The record before it is overwritten, and the next one.
     QCOMPARE(m_desk->Device.Count(FailingDevice::Call::Write), 1);
   }
 };

@@ -1,5 +1,9 @@
 // The customer file: its bytes, scans, lists and the delete's rewrite.
+#include <QtTest>
+
+#include "customers/CustomerFile.h"
 #include "customers/CustomerFixture.h"
+#include "customers/CustomerRecords.h"
 #include "support/ErrorOf.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,7 @@
 #include "support/FailingDevice.h"
 
+#include <algorithm>
+
 void FailingDevice::FailAt(Call call, int nth, int error) {
   Reset();
   m_failures[{call, nth}] = error;
@@ -24,6 +26,7 @@ int FailingDevice::Count(Call call) const {
 void FailingDevice::Reset() {
   m_counts.clear();
   m_all = 0;
+  m_bytesRead = 0;
   m_failures.clear();
   m_killAt = 0;
   m_shortAt = 0;
@@ -50,7 +53,10 @@ int FailingDevice::Open(const QString& path, OpenMode mode) {
 
 qint64 FailingDevice::Read(int descriptor, char* data, qint64 size, qint64 offset) {
   const int failed = Enter(Call::Read);
-  return failed < 0 ? failed : FileDevice::Read(descriptor, data, size, offset);
+  if (failed < 0) return failed;
+  const qint64 read = FileDevice::Read(descriptor, data, size, offset);
+  m_bytesRead += std::max<qint64>(read, 0);
+  return read;
 }
 
 qint64 FailingDevice::Write(int descriptor, const char* data, qint64 size, qint64 offset) {

@@ -35,6 +35,8 @@ class FailingDevice : public FileDevice {
   /// All calls of a kind, or of any kind, since the last setting.
   int Count(Call call) const;
   int CountAll() const { return m_all; }
+  /// What was read since the last setting: a scan shows where a single record would do.
+  qint64 BytesRead() const { return m_bytesRead; }
   /// Nothing fails any more; the counts begin anew.
   void Reset();
 
@@ -58,6 +60,7 @@ class FailingDevice : public FileDevice {
 
   std::map<Call, int> m_counts;
   int m_all = 0;
+  qint64 m_bytesRead = 0;
   std::map<std::pair<Call, int>, int> m_failures;
   int m_killAt = 0;
   int m_shortAt = 0;

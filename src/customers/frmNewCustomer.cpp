@@ -1,0 +1,177 @@
+#include "customers/frmNewCustomer.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "customers/StatesList.h"
+#include "shell/CommonDiskRoutines.h"
+#include "ui_frmNewCustomer.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<Ui::frmNewCustomer> BuildForm(QMainWindow* window) {
+  auto form = std::make_unique<Ui::frmNewCustomer>();
+  form->setupUi(window);
+  return form;
+}
+
+}  // namespace
+
+frmNewCustomer::frmNewCustomer(ScreenHost& host, Screens& screens, CommonDiskRoutines& disk, Dialogs& dialogs,
+                               const BusinessProfile& profile, CustomerOnScreen& onScreen)
+    : Screen(u"frmNewCustomer"_s, host),
+      m_ui(BuildForm(this)),
+      m_txtCustomer(this, u"txtCustomer"_s),
+      m_cmdCustomer(this, u"cmdCustomer"_s),
+      m_cmdNav(this, u"cmdNav"_s),
+      m_command1(this, u"Command1"_s),
+      m_screens(screens),
+      m_disk(disk),
+      m_dialogs(dialogs),
+      m_onScreen(onScreen),
+      m_editor(disk, dialogs, profile, onScreen, *this) {
+  ConnectBoxes();
+  ConnectKeys();
+  ConnectNameList();
+  ConnectButtons();
+  ConnectMenu();
+  DrawTelephone();
+  FillLists();
+}
+
+frmNewCustomer::~frmNewCustomer() = default;
+
+void frmNewCustomer::FillLists() {
+  for (const QString& title : {u"Mr/Mrs"_s, u"Mr."_s, u"Mrs"_s, u"Ms"_s, u"Miss"_s}) {
+    m_ui->cboTitle->AddEntry(title);
+  }
+  for (const QString& state : LoadStatesList(m_disk)) {
+    m_ui->cboStates->AddEntry(state);
+  }
+}
+
+void frmNewCustomer::Activate() {
+  m_editor.DecideAddressStyle();
+  SetNameListVisible(false);
+  m_editor.ApplyAccountType(u"Business"_s);
+  m_editor.BlankBoxes();
+  m_ui->mnuCust->menuAction()->setVisible(false);
+  m_cmdCustomer[13]->hide();
+  setWindowTitle(u"Managing Account Data"_s);
+  m_ui->mnuCust->menuAction()->setVisible(true);
+  setWindowTitle(u"Select Customer for "_s + windowTitle());
+  m_editor.Open();
+}
+
+void frmNewCustomer::ConnectButtons() {
+  for (int i = 0; i < m_cmdNav.Size(); ++i) {
+    OnClick(m_cmdNav[i], [this, i] { m_editor.Navigate(i); });
+  }
+  OnClick(
+      m_cmdCustomer[0], [this] { LeaveScreen(false); }, WhenLeaveRefused::Always);
+  OnClick(m_cmdCustomer[1], [this] { LeaveScreen(true); });
+  OnClick(
+      m_cmdCustomer[13], [this] { CancelAddNew(); }, WhenLeaveRefused::Always);
+  OnClick(m_command1[0], [this] { m_editor.SaveCustomer(); });
+  OnClick(m_command1[1], [this] { ToggleNameList(); });
+  OnClick(m_ui->cmdAcctType, [this] { m_editor.ToggleAccountType(); });
+}
+
+void frmNewCustomer::ConnectMenu() {
+  // A form holds no menu but the bar's: the popup of the customers found is made here.
+  auto* popup = new QMenu(this);
+  popup->setObjectName(u"mnupopup"_s);
+  popup->addAction(m_ui->mnuSelect);
+  On(m_ui->mnuAdd, &QAction::triggered, [this] {
+    m_editor.RequireRoom();
+    m_cmdCustomer[13]->show();
+    m_editor.AddNewCustomer({});
+    HideSearchFrames();
+  });
+  On(m_ui->mnuDelete, &QAction::triggered, [this] { m_editor.DeleteCustomer(); });
+  On(m_ui->mnuAux, &QAction::triggered, [this] { ToggleAux(); });
+}
+
+/// The two ways off the screen. A record that is being added is dropped by both, which is meant.
+void frmNewCustomer::LeaveScreen(bool forInvoice) {
+  m_disk.CloseAllFiles();
+  if (m_cmdCustomer[13]->isVisible()) {
+    CancelAddNew();
+  }
+  m_editor.SaveCustomer();
+  if (!m_editor.SaveAccepted()) {
+    return;
+  }
+  // The next screen stands before this one goes: were it to fail, the user would be left without a window.
+  if (forInvoice) {
+    m_screens.StartInvoiceFor(m_editor.CustomerForInvoice());
+  } else {
+    m_screens.Show(ScreenName::frmStartup);
+  }
+  m_screens.Hide(ScreenName::frmNewCustomer);
+}
+
+void frmNewCustomer::CancelAddNew() {
+  m_cmdCustomer[13]->hide();
+  m_editor.CancelAddNew();
+}
+
+void frmNewCustomer::ToggleAux() {
+  m_ui->fraAux->setVisible(m_ui->fraAux->isHidden());
+  if (!m_ui->fraAux->isHidden()) {
+    m_ui->lblAccount->setText(m_editor.AccountText());
+  }
+}
+
+/// Enter goes on to the next control, and in the name list shows the customer typed. Escape closes the list, else goes
+/// back to the menu, but not while a customer is being added: he would be lost.
+void frmNewCustomer::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && focusWidget() == m_ui->cboAccounts) {
+    Run([this] { SettleNameList(); });
+  } else if (enter) {
+    focusNextChild();
+  } else if (event->key() != Qt::Key_Escape) {
+    Screen::keyPressEvent(event);
+  } else if (m_ui->nameList->isVisible()) {
+    Run([this] { ToggleNameList(); });
+  } else if (m_cmdCustomer[13]->isHidden()) {
+    SetFocusTo(m_cmdCustomer[0]);
+    m_cmdCustomer[0]->click();
+  }
+}
+
+void frmNewCustomer::changeEvent(QEvent* event) {
+  Screen::changeEvent(event);
+  // The base class changes the window before the form is set up.
+  if (event->type() == QEvent::PaletteChange && m_ui && m_ui->Image1_1 != nullptr) {
+    DrawTelephone();
+  }
+}
+
+/// A receiver, in the text colour of the palette in use.
+void frmNewCustomer::DrawTelephone() {
+  const int size = 22;
+  QPixmap picture(size * 2, size * 2);
+  picture.setDevicePixelRatio(2);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(size / 2, size / 2);
+  painter.rotate(-45);
+  const QColor color = palette().color(QPalette::WindowText);
+  QPainterPath handle(QPointF(-7.5, 1));
+  handle.cubicTo(-6, -5.5, 6, -5.5, 7.5, 1);
+  painter.setPen(QPen(color, 3.5, Qt::SolidLine, Qt::RoundCap));
+  painter.drawPath(handle);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(color);
+  painter.drawRoundedRect(QRectF(-10.5, 0.5, 6, 4.5), 1.5, 1.5);
+  painter.drawRoundedRect(QRectF(4.5, 0.5, 6, 4.5), 1.5, 1.5);
+  painter.end();
+  m_ui->Image1_1->SetPicture(picture);
+}
