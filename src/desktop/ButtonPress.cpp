@@ -84,7 +84,7 @@ bool ButtonPress::MousePress(QAbstractButton* button, const QPoint& position) {
   return verdict.Swallow;
 }
 
-bool ButtonPress::AccessKey(QAbstractButton* button) {
+bool ButtonPress::Press(QAbstractButton* button) {
   if (!button->isEnabled()) {
     return false;
   }
@@ -109,10 +109,10 @@ bool ButtonPress::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::Shortcut:
       // A letter that two buttons share only moves the focus between them.
-      return !static_cast<QShortcutEvent*>(event)->isAmbiguous() && AccessKey(button);
+      return !static_cast<QShortcutEvent*>(event)->isAmbiguous() && Press(button);
     case QEvent::KeyPress:
       if (!button->isCheckable() && IsEnter(*static_cast<QKeyEvent*>(event))) {
-        return AccessKey(button);
+        return Press(button);
       }
       return false;
     default:

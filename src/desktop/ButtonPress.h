@@ -17,6 +17,9 @@ class ButtonPress : public QObject {
   /// `dropWhenRefused`: no click where the box that was left takes the focus back, or where its leaving fails.
   void Watch(QAbstractButton* button, bool dropWhenRefused);
 
+  /// Runs the button as its access key does. Answers whether it could be run at all.
+  bool Press(QAbstractButton* button);
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -27,7 +30,6 @@ class ButtonPress : public QObject {
   };
   Verdict TakeFocus(QAbstractButton* button, Qt::FocusReason reason);
   bool MousePress(QAbstractButton* button, const QPoint& position);
-  bool AccessKey(QAbstractButton* button);
 
   FocusTracker& m_focus;
   std::set<const QObject*> m_dropping;

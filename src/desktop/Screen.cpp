@@ -3,6 +3,8 @@
 #include <map>
 #include <QAbstractButton>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPlainTextEdit>
 #include <vector>
 
 #include "desktop/ButtonPress.h"
@@ -17,6 +19,8 @@ struct Screen::State {
   ButtonPress press;
   std::map<QWidget*, QPointer<TypedText>> typed;
   std::vector<QPointer<QWidget>> pendingFocus;
+  QPointer<QAbstractButton> enterButton;
+  QPointer<QAbstractButton> escapeButton;
 };
 
 Screen::Screen(const QString& name, ScreenHost& host) : m_state(std::make_unique<State>(this)), m_host(host) {
@@ -41,6 +45,39 @@ bool Screen::Run(const std::function<void()>& handler) {
 void Screen::OnClick(QAbstractButton* button, std::function<void()> handler, WhenLeaveRefused rule) {
   m_state->press.Watch(button, rule == WhenLeaveRefused::Dropped);
   connect(button, &QAbstractButton::clicked, this, [this, handler = std::move(handler)] { Run(handler); });
+}
+
+void Screen::SetEnterButton(QAbstractButton* button) {
+  m_state->enterButton = button;
+}
+
+void Screen::SetEscapeButton(QAbstractButton* button) {
+  m_state->escapeButton = button;
+}
+
+void Screen::keyPressEvent(QKeyEvent* event) {
+  QAbstractButton* button = nullptr;
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    button = m_state->enterButton;
+  } else if (event->key() == Qt::Key_Escape) {
+    button = m_state->escapeButton;
+  }
+  const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && !event->isAutoRepeat();
+  if (button != nullptr && plain && button->isVisible()) {
+    m_state->press.Press(button);
+    return;
+  }
+  QMainWindow::keyPressEvent(event);
+}
+
+bool Screen::event(QEvent* event) {
+  if (event->type() == QEvent::Polish) {
+    // The Tab key goes from box to box, also out of boxes of several lines.
+    for (QPlainTextEdit* lines : findChildren<QPlainTextEdit*>()) {
+      lines->setTabChangesFocus(true);
+    }
+  }
+  return QMainWindow::event(event);
 }
 
 void Screen::OnEnter(QWidget* control, std::function<void()> handler) {

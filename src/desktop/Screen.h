@@ -53,9 +53,15 @@ class Screen : public QMainWindow {
   /// Finalize), or `Always` run (Menu, Cancel, Clear, Continue).
   enum class WhenLeaveRefused { Dropped, Always };
   /// The button takes the focus first, so that the box that is left settles before the handler runs; the same for the
-  /// access key, the space bar, and Enter on the button.
+  /// access key, the space bar, and Enter on the button. Handlers call each other's routines, never `click()`: an error
+  /// behind a click ends that click alone, and the caller would go on.
   void OnClick(QAbstractButton* button, std::function<void()> handler,
                WhenLeaveRefused rule = WhenLeaveRefused::Dropped);
+
+  /// The button that Enter runs where no control has a use for that key, and the one that Escape runs: the obvious
+  /// next thing, and the way back where it loses nothing. Null for none. They are run as by their access keys.
+  void SetEnterButton(QAbstractButton* button);
+  void SetEscapeButton(QAbstractButton* button);
 
   /// Any other signal, under the guard.
   template <typename Sender, typename Signal, typename Handler>
@@ -90,7 +96,9 @@ class Screen : public QMainWindow {
   /// request is kept until it does; of several the last that can be granted then is.
   void SetFocusTo(QWidget* control);
 
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 

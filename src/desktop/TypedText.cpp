@@ -141,7 +141,7 @@ void TypedText::Paste(const QString& text) {
   }
 }
 
-bool TypedText::KeyPress(const QKeyEvent& event) {
+bool TypedText::KeyPress(QKeyEvent& event) {
   if (IsClosed()) {
     return false;
   }
@@ -157,6 +157,8 @@ bool TypedText::KeyPress(const QKeyEvent& event) {
   const QPointer<TypedText> alive(this);
   const int answer = Pass(m_key, *code);
   if (alive == nullptr || answer == 0) {
+    // Enter that the box has no use for is the window's.
+    event.setAccepted(*code != 13);
     return true;
   }
   const bool adds = answer >= 32 || (answer == 13 && Lines() != nullptr);

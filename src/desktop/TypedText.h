@@ -37,7 +37,7 @@ class TypedText : public QObject {
   /// Adds what passes, each character before the next is asked about: filters look at the text so far.
   void Feed(const QString& text, const Filter& filter);
 
-  bool KeyPress(const QKeyEvent& event);
+  bool KeyPress(QKeyEvent& event);
   bool InputMethod(QInputMethodEvent& event);
   bool ContextMenu(const QContextMenuEvent& event);
   void Paste(const QString& text);

@@ -60,6 +60,60 @@ class ScreensShare : public QObject {
     QCOMPARE(host.Errors, (QList<int>{ErrorNumber::FileNotFound, ErrorNumber::Overflow}));
   }
 
+  void enterAndEscapeRunTheirButtonsAfterSettlingTheBox() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    QStringList log;
+    auto* box = screen.Add<QLineEdit>(u"box"_s);
+    auto* filtered = screen.Add<QLineEdit>(u"filtered"_s);
+    auto* lines = screen.Add<QPlainTextEdit>(u"lines"_s);
+    auto* next = screen.Add<QPushButton>(u"next"_s);
+    auto* back = screen.Add<QPushButton>(u"back"_s);
+    auto* other = screen.Add<QPushButton>(u"other"_s);
+    screen.OnLeave(box, [&] { log.append(u"leave"_s); });
+    screen.FilterKeys(filtered, [](int) { return 0; });
+    screen.OnClick(next, [&] { log.append(u"next"_s); });
+    screen.OnClick(back, [&] { log.append(u"back"_s); });
+    screen.OnClick(other, [&] { log.append(u"other"_s); });
+    screen.SetEnterButton(next);
+    screen.SetEscapeButton(back);
+    screen.show();
+    ScreenDriver driver(&screen);
+    driver.Click(u"box"_s);
+    driver.PressKey(Qt::Key_Return);
+    driver.Click(u"box"_s);
+    driver.PressKey(Qt::Key_Escape);
+    QCOMPARE(log, (QStringList{u"leave"_s, u"next"_s, u"leave"_s, u"back"_s}));
+    log.clear();
+    // A box whose filter has no use for Enter hands it on; one of several lines keeps it; a button runs itself.
+    driver.Click(u"filtered"_s);
+    driver.PressKey(Qt::Key_Enter);
+    driver.Click(u"lines"_s);
+    driver.PressKey(Qt::Key_Return);
+    QCOMPARE(lines->toPlainText(), u"\n"_s);
+    other->setFocus();
+    driver.PressKey(Qt::Key_Return);
+    next->setEnabled(false);
+    driver.Click(u"box"_s);
+    driver.PressKey(Qt::Key_Return);
+    back->hide();
+    driver.PressKey(Qt::Key_Escape);
+    QCOMPARE(log, (QStringList{u"next"_s, u"other"_s}));
+  }
+
+  void theTabKeyLeavesABoxOfSeveralLines() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    auto* lines = screen.Add<QPlainTextEdit>(u"lines"_s);
+    screen.Add<QLineEdit>(u"box"_s);
+    screen.show();
+    ScreenDriver driver(&screen);
+    driver.Click(u"lines"_s);
+    driver.PressKey(Qt::Key_Tab);
+    QCOMPARE(driver.FocusName(), u"box"_s);
+    QCOMPARE(lines->toPlainText(), QString());
+  }
+
   void theUsersCloseBoxEndsTheProgramAfterTheScreensOwnSaving() {
     RecordingHost host;
     BenchScreen screen(host);

@@ -40,6 +40,8 @@ class BenchScreen : public Screen {
   using Screen::OnClick;
   using Screen::OnEnter;
   using Screen::OnLeave;
+  using Screen::SetEnterButton;
+  using Screen::SetEscapeButton;
   using Screen::SetFocusTo;
   using Screen::SetTypingLimit;
   using Screen::WhenLeaveRefused;
