@@ -3,6 +3,7 @@
 #include "catalogue/frmServices.h"
 #include "customers/frmNewCustomer.h"
 #include "invoice/frmInvoice.h"
+#include "invoice/InvoiceHeaderData.h"
 #include "ProgramObjects.h"
 #include "records/PartialList.h"
 #include "setup/frmSetup.h"
@@ -122,7 +123,8 @@ void Program::ShowSetupAtFirstTab() {
   Show(ScreenName::frmSetup);
 }
 
-void Program::StartInvoiceFor(const SoldTo&) {
+void Program::StartInvoiceFor(const SoldTo& customer) {
+  TakeSoldTo(m_objects->Invoice, customer);
   Show(ScreenName::frmInvoice);
 }
 
