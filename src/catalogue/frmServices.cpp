@@ -1,8 +1,8 @@
 #include "catalogue/frmServices.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 
+#include "desktop/Pictures.h"
 #include "shell/Screens.h"
 #include "ui_frmServices.h"
 
@@ -36,7 +36,7 @@ frmServices::frmServices(ScreenHost& host, Screens& screens, Catalogue& catalogu
   ConnectLaborCommands();
   ConnectCustomCommands();
   ConnectBoxes();
-  DrawToggle();
+  m_ui->Image1->SetPicture(DrawnPicture(Picture::Next, palette()));
 }
 
 frmServices::~frmServices() {
@@ -97,24 +97,12 @@ void frmServices::FocusOnTab(int tab) {
   }
 }
 
-/// The arrow that steps to the next tab, in the text colour of the palette in use.
-void frmServices::DrawToggle() {
-  const int size = 24;
-  QPixmap arrow(size * 2, size * 2);
-  arrow.setDevicePixelRatio(2);
-  arrow.fill(Qt::transparent);
-  QPainter painter(&arrow);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(palette().color(QPalette::WindowText), 2.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.drawPolyline(QPolygonF({{9, 5}, {16, 12}, {9, 19}}));
-  painter.end();
-  m_ui->Image1->SetPicture(arrow);
-}
-
 void frmServices::changeEvent(QEvent* event) {
   Screen::changeEvent(event);
   // The base class changes the window before the form is set up.
-  if (event->type() == QEvent::PaletteChange && m_ui && m_ui->Image1 != nullptr) DrawToggle();
+  if (event->type() == QEvent::PaletteChange && m_ui && m_ui->Image1 != nullptr) {
+    m_ui->Image1->SetPicture(DrawnPicture(Picture::Next, palette()));
+  }
 }
 
 void frmServices::Activate() {

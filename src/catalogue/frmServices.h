@@ -38,7 +38,6 @@ class frmServices final : public Screen {
   void ListenToCatalogue();
   void ConnectTabs();
   void FocusOnTab(int tab);
-  void DrawToggle();
   void RowClick(CatalogueList list);
   GridView* View(CatalogueList list) const;
   void Enable(int command, bool enabled);

@@ -14,6 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// As high as a button or a box is at least.
+constexpr int Control = 28;
+
 bool IsWindowGround(const QWidget* widget) {
   if (widget == nullptr || widget->isWindow()) {
     return true;
@@ -54,6 +57,24 @@ void LookOfButton(QAbstractButton* button, QStringView look) {
   button->setPalette(palette);
 }
 
+void ApplyLook(QWidget* widget, QStringView look) {
+  if (auto* label = qobject_cast<QLabel*>(widget)) {
+    LookOfLabel(label, look);
+  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+    LookOfButton(button, look);
+  } else if (auto* line = qobject_cast<QLineEdit*>(widget); line != nullptr && look == "amount"_L1) {
+    line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  } else if (auto* frame = qobject_cast<QFrame*>(widget); frame != nullptr && look == "panel"_L1) {
+    frame->setFrameShape(QFrame::StyledPanel);
+    frame->setAutoFillBackground(true);
+    frame->setBackgroundRole(QPalette::AlternateBase);
+  }
+}
+
+QString LookOf(const QObject* control) {
+  return control->property("look").toString();
+}
+
 }  // namespace
 
 FamilyStyle::FamilyStyle() : QProxyStyle(u"Fusion"_s) {}
@@ -79,21 +100,45 @@ int FamilyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
   return hint == SH_UnderlineShortcut ? 1 : QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
+QSize FamilyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                    const QWidget* widget) const {
+  QSize wanted = QProxyStyle::sizeFromContents(type, option, size, widget);
+  switch (type) {
+    case CT_PushButton:
+      // The toolkit lets a long caption touch the edges.
+      if (option != nullptr && wanted.width() < size.width() + 2 * Spacing::Small) {
+        wanted.setWidth(size.width() + 2 * Spacing::Small);
+      }
+      [[fallthrough]];
+    case CT_LineEdit:
+    case CT_ComboBox:
+    case CT_SpinBox:
+      return wanted.expandedTo(QSize(0, Control));
+    default:
+      return wanted;
+  }
+}
+
 void FamilyStyle::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
-  const QString look = widget->property("look").toString();
-  if (look.isEmpty()) {
-    return;
+  const QString look = LookOf(widget);
+  if (!look.isEmpty()) {
+    ApplyLook(widget, look);
+  } else if (!widget->isWindow()) {
+    widget->installEventFilter(this);
   }
-  if (auto* label = qobject_cast<QLabel*>(widget)) {
-    LookOfLabel(label, look);
-  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-    LookOfButton(button, look);
-  } else if (auto* line = qobject_cast<QLineEdit*>(widget); line != nullptr && look == "amount"_L1) {
-    line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  } else if (auto* frame = qobject_cast<QFrame*>(widget); frame != nullptr && look == "panel"_L1) {
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setAutoFillBackground(true);
-    frame->setBackgroundRole(QPalette::AlternateBase);
+}
+
+bool FamilyStyle::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::DynamicPropertyChange || event->type() == QEvent::Show) {
+    auto* widget = qobject_cast<QWidget*>(watched);
+    const QString look = LookOf(watched);
+    if (widget != nullptr && !look.isEmpty()) {
+      ApplyLook(widget, look);
+    }
+    if (!look.isEmpty() || event->type() == QEvent::Show) {
+      watched->removeEventFilter(this);
+    }
   }
+  return QProxyStyle::eventFilter(watched, event);
 }

@@ -9,6 +9,12 @@ class FamilyStyle : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returnData) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override;
   using QProxyStyle::polish;
   void polish(QWidget* widget) override;
+
+ protected:
+  /// A look that is named after its control was polished: a form names it late, and a tab's first page is early.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 };

@@ -1,6 +1,13 @@
-/// The program's own drawing, shipped inside the program file.
+/// The program's own drawing, shipped inside the program file, and the signs on its clickable pictures.
 #pragma once
 
 #include <QPixmap>
 
+class QPalette;
+
 QPixmap LogoPicture();
+
+enum class Picture { Next, Clear, Reload };
+
+/// Drawn in the palette's own colours, so that it reads on a light and on a dark one.
+QPixmap DrawnPicture(Picture picture, const QPalette& palette);

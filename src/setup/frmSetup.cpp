@@ -2,8 +2,8 @@
 
 #include "desktop/ListCombo.h"
 #include "desktop/PictureButton.h"
+#include "desktop/Pictures.h"
 #include "runtime/Dialogs.h"
-#include "setup/frmSetupPictures.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/DataTree.h"
 #include "shell/frmOrderMenu.h"
@@ -43,7 +43,7 @@ void frmSetup::BuildMenu() {
 }
 
 void frmSetup::ConnectTabs() {
-  for (PictureButton* next : {m_ui->Image1_0, m_ui->Image1_1}) next->SetPicture(SetupPicture(Picture::Next, palette()));
+  for (PictureButton* next : {m_ui->Image1_0, m_ui->Image1_1}) next->SetPicture(DrawnPicture(Picture::Next, palette()));
   // The sub-tabs' stepper makes sense only where they show.
   const auto showStepper = [this](int tab) {
     const bool options = m_ui->tabInfo->widget(tab) == m_ui->pageOptions;

@@ -1,7 +1,7 @@
 #include "desktop/PictureButton.h"
+#include "desktop/Pictures.h"
 #include "runtime/Dialogs.h"
 #include "setup/frmSetup.h"
-#include "setup/frmSetupPictures.h"
 #include "ui_frmSetup.h"
 
 using namespace Qt::StringLiterals;
@@ -17,8 +17,8 @@ constexpr int FullLimit = 55;
 void frmSetup::ConnectBusiness() {
   for (int i = 0; i < 9; ++i) RefuseQuotes((*m_business)[i]);
   SetTypingLimit((*m_business)[4], FullLimit);
-  m_ui->Image4->SetPicture(SetupPicture(Picture::Clear, palette()));
-  m_ui->Image5->SetPicture(SetupPicture(Picture::Reload, palette()));
+  m_ui->Image4->SetPicture(DrawnPicture(Picture::Clear, palette()));
+  m_ui->Image5->SetPicture(DrawnPicture(Picture::Reload, palette()));
   OnClick(m_ui->cmdAddress, [this] {
     ToggleAddressStyle(m_context.Live.Business);
     ShowAddressStyle();
