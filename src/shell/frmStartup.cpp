@@ -49,6 +49,9 @@ void frmStartup::Activate() {
     (*m_options)[i]->setVisible(visible);
     if (!visible && (*m_options)[i]->isChecked()) ClearSelection(i);
   }
+  // A heading without a routine under it would only take room.
+  m_ui->group_0->setVisible(state.Visible[0] || state.Visible[1] || state.Visible[2]);
+  m_ui->group_3->setVisible(state.Visible[4] || state.Visible[5] || state.Visible[6]);
   m_ui->fraInstructions->setVisible(state.Instructions);
   if (!state.Incomplete.isNull()) m_ui->lblIncomplete->setText(state.Incomplete);
   (*m_options)[state.Selected]->setChecked(true);
