@@ -1,0 +1,98 @@
+#include <algorithm>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include "benchmarks/Measure.h"
+#include "benchmarks/Operations.h"
+#include "benchmarks/Trees.h"
+#include "desktop/PaperPrinter.h"
+#include "desktop/QtDialogs.h"
+#include "desktop/Style.h"
+#include "Program.h"
+#include "runtime/Clock.h"
+#include "runtime/CodePage.h"
+#include "runtime/FileStore.h"
+#include "shell/CommonDiskRoutines.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A started program on a tree of so many customers.
+class Running {
+ public:
+  explicit Running(int customers)
+      : m_store(m_files), m_paper(m_store, m_dialogs, m_tree.path()), m_program(OnTree(customers)) {
+    m_program.Start();
+  }
+  Program& operator*() { return m_program; }
+  QString Root() const { return m_tree.path(); }
+
+ private:
+  Platform OnTree(int customers) {
+    FillTree(m_tree.path(), customers, Limit::Catalogue, 1);
+    Platform platform;
+    platform.DataRoot = m_tree.path();
+    platform.EXEName = u"KarvexInvoicer"_s;
+    platform.ProgramFolder = m_tree.path();
+    platform.LockFolder = m_lock.path();
+    platform.Version = u"1.0.0"_s;
+    platform.Files = &m_files;
+    platform.Calendar = &m_clock;
+    platform.Boxes = &m_dialogs;
+    platform.Paper = &m_paper;
+    return platform;
+  }
+
+  QTemporaryDir m_tree;
+  QTemporaryDir m_lock;
+  FileDevice m_files;
+  FileStore m_store;
+  SystemClock m_clock;
+  QtDialogs m_dialogs;
+  PaperPrinter m_paper;
+  Program m_program;
+};
+
+void OpenAndClose(Program& program) {
+  program.Show(ScreenName::frmNewCustomer);
+  QApplication::processEvents();
+  program.Hide(ScreenName::frmNewCustomer);
+}
+
+void ReadAndSort(const QString& file, FileStore& store) {
+  const QByteArray content = store.ReadWhole(file);
+  std::vector<QString> names;
+  for (qsizetype i = 0; i < content.size(); i += 328) {
+    names.push_back(FromCodePage(QByteArrayView(content).sliced(i + 20, 45)).trimmed());
+  }
+  std::sort(names.begin(), names.end());
+}
+
+double StepTime(Program& program) {
+  program.Show(ScreenName::frmNewCustomer);
+  auto* next = program.Built(ScreenName::frmNewCustomer)->findChild<QAbstractButton*>(u"cmdNav_2"_s);
+  const double step = MedianOf(201, [&] {
+    next->click();
+    QApplication::processEvents();
+  });
+  program.Hide(ScreenName::frmNewCustomer);
+  return step;
+}
+
+}  // namespace
+
+void MeasureCustomers() {
+  ApplyStyle(*qApp);
+  Running full(Limit::Customers);
+  FileDevice device;
+  FileStore store(device);
+  OpenAndClose(*full);
+  const Pair opening = MediansOf(
+      5, [&] { OpenAndClose(*full); }, [&] { ReadAndSort(full.Root() + u"/CustomerData.txt"_s, store); });
+  Report(u"opening the customer screen, over reading the file and sorting names"_s, opening, 3);
+
+  Running few(10);
+  Report(u"one step to the next of 32,767 customers, over one of 10"_s, {StepTime(*full), StepTime(*few)}, 1.1);
+}

@@ -1,0 +1,35 @@
+#include <sys/stat.h>
+#include <QTemporaryDir>
+#include <vector>
+
+#include "benchmarks/Measure.h"
+#include "benchmarks/Operations.h"
+#include "benchmarks/Trees.h"
+#include "runtime/Clock.h"
+#include "shell/CommonDiskRoutines.h"
+#include "shell/DataTree.h"
+
+using namespace Qt::StringLiterals;
+
+void MeasureDataTree() {
+  QTemporaryDir tree;
+  FillTree(tree.path(), Limit::Customers, 1, 1);
+  FileDevice device;
+  FileStore store(device);
+  CommonDiskRoutines disk(store, tree.path(), u"KarvexInvoicer"_s);
+  SystemClock clock;
+  MakeDataTree(disk, clock);
+
+  std::vector<QByteArray> folders;
+  for (int i = 0; i < Limit::Customers; ++i) {
+    const QByteArray folder = tree.path().toLocal8Bit() + "/AuxFiles/" + QByteArray::number(100000 + i);
+    folders.push_back(folder);
+    for (int n = 0; n < 6; ++n) folders.push_back(folder + "/AuxFile" + QByteArray::number(n));
+  }
+  const Pair times = MediansOf(
+      5, [&] { MakeDataTree(disk, clock); },
+      [&] {
+        for (const QByteArray& folder : folders) mkdir(folder.constData(), 0777);
+      });
+  Report(u"start with all customers' folders there, over the raw calls"_s, times, 1);
+}

@@ -1,0 +1,20 @@
+/// Times and their presentation.
+#pragma once
+
+#include <functional>
+#include <QString>
+
+/// Milliseconds of one run.
+double TimeOf(const std::function<void()>& work);
+/// The median of `runs` runs, in milliseconds; `prepare` runs before each and isn't timed.
+double MedianOf(int runs, const std::function<void()>& work, const std::function<void()>& prepare = {});
+/// Medians of two works whose runs alternate, so that a busy machine slows both alike.
+struct Pair {
+  double Work;
+  double Floor;
+};
+Pair MediansOf(int runs, const std::function<void()>& work, const std::function<void()>& floor);
+
+/// One row: the operation, its time, its floor's time, their ratio, and the ratio that we aim at.
+void Report(const QString& operation, Pair milliseconds, double aim);
+void ReportHeading();

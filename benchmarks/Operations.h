@@ -1,0 +1,19 @@
+/// The measured operations. Each prints its rows.
+#pragma once
+
+#include <QString>
+
+/// Time to the first window, and memory beside it, over a bare window of the toolkit: each run is a process of its own,
+/// which `RunAsStarter` is.
+void MeasureStart(const QString& ownProgramFile);
+/// The part of a child process of `MeasureStart`; answers its exit code, or -1 where the arguments ask for none.
+int RunAsStarter(int argc, char* argv[]);
+
+/// The customers' folders at start, over the same calls made raw.
+void MeasureDataTree();
+/// Opening the customer screen over reading the file once and sorting the names, and one step of navigation.
+void MeasureCustomers();
+/// A commit of 100 lines on full files over the same on empty ones.
+void MeasureCommit();
+/// A page to PDF over the same texts and lines drawn straight.
+void MeasurePage();
