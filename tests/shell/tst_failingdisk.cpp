@@ -9,12 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// From now on every call of the kind fails.
-void FailAlways(FailingDevice& files, FailingDevice::Call call, int error) {
-  files.Reset();
-  for (int nth = 1; nth <= 200; ++nth) files.FailAt(call, nth, error);
-}
-
 void AddFailures() {
   QTest::addColumn<int>("call");
   QTest::addColumn<int>("error");
@@ -61,7 +55,7 @@ void FailingDisk::setupKeepsItsFilesAndIsSavedLater() {
   setup.Fill(u"txtBusiness_0"_s, u"A New Name"_s);
   const auto before = program.Tree.Everything();
 
-  FailAlways(program.Files, static_cast<FailingDevice::Call>(call), error);
+  program.Files.FailAlways(static_cast<FailingDevice::Call>(call), error);
   program.Answers.Ok({}, u"Karvex Invoicer"_s);
   setup.Click(u"cmdQuit"_s);
   QVERIFY2(program.Answers.Last().Text.contains(u"MyBusinessData.txt"_s), qPrintable(program.Answers.Last().Text));
@@ -92,7 +86,7 @@ void FailingDisk::theCatalogueKeepsItsFilesAndIsSavedLater() {
   screen.Click(u"cmdServices_4"_s);
   const auto before = program.Tree.Everything();
 
-  FailAlways(program.Files, static_cast<FailingDevice::Call>(call), error);
+  program.Files.FailAlways(static_cast<FailingDevice::Call>(call), error);
   program.Answers.Ok({}, u"Karvex Invoicer"_s);
   screen.Click(u"cmdServices_0"_s);
   QVERIFY2(program.Answers.Last().Text.contains(u"Services.txt"_s), qPrintable(program.Answers.Last().Text));
@@ -110,7 +104,7 @@ void FailingDisk::theExitBackupPassesOverWhatItCannotWrite() {
   ProgramFixture program;
   QVERIFY(program.StartAtMenu());
   const auto before = program.Tree.Everything();
-  FailAlways(program.Files, FailingDevice::Call::Write, ENOSPC);
+  program.Files.FailAlways(FailingDevice::Call::Write, ENOSPC);
   ScreenDriver(u"frmStartup"_s).CloseByUser();
   QVERIFY(program.Running().HasEnded());
   QCOMPARE(program.Tree.Everything(), before);
@@ -125,7 +119,7 @@ void FailingDisk::aCustomerKeepsHisRecordAndIsSavedLater() {
   const ScreenDriver screen(u"frmNewCustomer"_s);
   screen.Fill(u"txtCustomer_2"_s, u"1 New Street"_s);
 
-  FailAlways(program.Files, FailingDevice::Call::Write, ENOSPC);
+  program.Files.FailAlways(FailingDevice::Call::Write, ENOSPC);
   program.Answers.Ok({}, u"Karvex Invoicer"_s);
   screen.Click(u"cmdCustomer_0"_s);
   QVERIFY2(program.Answers.Last().Text.contains(u"CustomerData.txt"_s), qPrintable(program.Answers.Last().Text));

@@ -7,6 +7,11 @@ void FailingDevice::FailAt(Call call, int nth, int error) {
   m_failures[{call, nth}] = error;
 }
 
+void FailingDevice::FailAlways(Call call, int error) {
+  Reset();
+  m_always[call] = error;
+}
+
 void FailingDevice::WriteShortAt(int nth, qint64 size, int error) {
   FailAt(Call::Write, nth + 1, error);
   m_shortAt = nth;
@@ -28,6 +33,7 @@ void FailingDevice::Reset() {
   m_all = 0;
   m_bytesRead = 0;
   m_failures.clear();
+  m_always.clear();
   m_killAt = 0;
   m_shortAt = 0;
 }
@@ -37,6 +43,7 @@ int FailingDevice::Enter(Call call) {
   ++m_all;
   // Closing is what the system does for a killed process; it runs from a destructor and can't throw.
   if (m_killAt > 0 && m_all >= m_killAt && call != Call::Close) throw Killed();
+  if (const auto always = m_always.find(call); always != m_always.end()) return -always->second;
   const auto failure = m_failures.find({call, nth});
   return failure == m_failures.end() ? 0 : -failure->second;
 }

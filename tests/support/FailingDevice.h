@@ -28,6 +28,8 @@ class FailingDevice : public FileDevice {
 
   /// The `nth` call of the kind from now on, from 1, answers `-error` and does nothing.
   void FailAt(Call call, int nth, int error);
+  /// Every call of the kind from now on.
+  void FailAlways(Call call, int error);
   /// The `nth` write takes only `size` bytes; the one after it answers `-error`.
   void WriteShortAt(int nth, qint64 size, int error);
   /// Every call from the `nth` on, whatever its kind.
@@ -62,6 +64,7 @@ class FailingDevice : public FileDevice {
   int m_all = 0;
   qint64 m_bytesRead = 0;
   std::map<std::pair<Call, int>, int> m_failures;
+  std::map<Call, int> m_always;
   int m_killAt = 0;
   int m_shortAt = 0;
   qint64 m_shortSize = 0;
