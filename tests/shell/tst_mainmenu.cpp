@@ -226,10 +226,10 @@ void MainMenu::anOrderFormAsksAndOpensItsPageOnYes() {
   const QString text =
       u"Perforated Response Paper is used to create\nInvoices with a Remittance Slip\nClick Yes to connect to a Supplier"_s;
   program.Answers.No(text, u"Order Paper"_s);
-  menu.Trigger(u"mnuPPPaper"_s);
+  menu.Trigger(u"mnuPPaper"_s);
   QVERIFY(program.Dialogs.Pages.isEmpty());
   program.Answers.Yes(text, u"Order Paper"_s);
-  menu.Trigger(u"mnuPPPaper"_s);
+  menu.Trigger(u"mnuPPaper"_s);
   QCOMPARE(program.Dialogs.Pages.size(), 1);
   menu.Trigger(u"mnuDeluxe"_s);
   menu.Trigger(u"mnuDepositSlips"_s);

@@ -14,7 +14,7 @@ ProgramFixture::~ProgramFixture() {
   m_program.reset();
 }
 
-bool ProgramFixture::Start() {
+Platform ProgramFixture::OnThisTree() {
   Platform platform;
   platform.DataRoot = Tree.Root();
   platform.EXEName = EXEName;
@@ -25,10 +25,18 @@ bool ProgramFixture::Start() {
   platform.Calendar = &Calendar;
   platform.Boxes = &Dialogs;
   platform.Paper = &Paper;
-  m_program = std::make_unique<Program>(platform);
+  return platform;
+}
+
+bool ProgramFixture::Start() {
+  m_program = std::make_unique<Program>(OnThisTree());
   const bool runs = m_program->Start();
   ScreenDriver::ProcessEvents();
   return runs;
+}
+
+bool ProgramFixture::StartSecond() {
+  return Program(OnThisTree()).Start();
 }
 
 bool ProgramFixture::StartAtMenu() {

@@ -30,6 +30,8 @@ class ProgramFixture {
   /// Start, and past the start-up screen: the settings files are written first, so that no welcome stands in the way.
   /// Answers with the main menu shown.
   bool StartAtMenu();
+  /// A second program on the same data root while the first one runs; answers whether it runs. It is gone afterwards.
+  bool StartSecond();
   /// Ends the program as the user does, by a window's close box, and forgets it; `Start` begins another on the same
   /// tree.
   void End();
@@ -46,6 +48,8 @@ class ProgramFixture {
   QString EXEName = QStringLiteral("KarvexInvoicer");
 
  private:
+  Platform OnThisTree();
+
   TemporaryTree m_lockFolder;
   std::unique_ptr<Program> m_program;
 };
