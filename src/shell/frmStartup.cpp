@@ -1,6 +1,7 @@
 #include "shell/frmStartup.h"
 
 #include <QButtonGroup>
+#include <QKeyEvent>
 
 #include "desktop/Pictures.h"
 #include "runtime/Dialogs.h"
@@ -74,6 +75,14 @@ bool frmStartup::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   return Screen::eventFilter(watched, event);
+}
+
+void frmStartup::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    Run([this] { RunSelected(); });
+    return;
+  }
+  Screen::keyPressEvent(event);
 }
 
 void frmStartup::RunSelected() {
