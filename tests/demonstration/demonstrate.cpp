@@ -72,6 +72,8 @@ void Demonstration::initTestCase() {
 
 void Demonstration::Picture(const ScreenDriver& screen, const QString& name) {
   ++m_pictures;
+  screen.Window()->resize(1180, 760);
+  ScreenDriver::ProcessEvents();
   screen.GrabPng(m_folder + u"/pictures/%1-%2.png"_s.arg(m_pictures, 2, 10, QChar(u'0')).arg(name));
 }
 
@@ -117,7 +119,7 @@ void Demonstration::AddService(const ScreenDriver& screen, const QString& name, 
   screen.Click(u"cmdServices_1"_s);
   screen.Fill(u"txtDescription_0"_s, name);
   screen.Fill(u"txtCharge_0"_s, charge);
-  screen.PickEntry(u"lstTime"_s, time);
+  screen.Control<QListWidget>(u"lstTime"_s)->setCurrentRow(time);
   screen.Click(u"cmdServices_4"_s);
 }
 
@@ -198,6 +200,7 @@ void Demonstration::twoCustomersAreEntered() {
   for (const auto& [box, text] : business) screen.Fill(box, text);
   Picture(screen, u"customer-business"_s);
   screen.Trigger(u"mnuAdd"_s);
+  screen.Fill(u"txtCustomer_1"_s, u"Maria L. Delgado"_s);
   screen.Click(u"cmdAcctType"_s);
   const QList<QPair<QString, QString>> person{{u"txtCustomer_0"_s, u"1002"_s},
                                               {u"txtCustomer_8"_s, u"Maria"_s},
