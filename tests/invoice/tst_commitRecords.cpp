@@ -290,6 +290,8 @@ class CommitRecordsTest : public QObject {
     QTest::newRow("a return") << u"-4"_s << 14 << false;
     // In a single, 1.4999999999 is 1.5, and that rounds to 2.
     QTest::newRow("through a single") << u"1.4999999999"_s << 8 << false;
+    // The single next to 5.5 reads 5.5 in its seven digits.
+    QTest::newRow("through a single's text") << u"5.4999998"_s << 4 << false;
   }
   void stockBelowZeroIsZeroAndSaysSo() {
     QFETCH(const QString, quantity);

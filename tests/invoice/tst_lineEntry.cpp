@@ -271,7 +271,9 @@ class LineEntryTest : public QObject {
     QFETCH(const int, kind);
     for (int i = 0; i < 100; ++i) m_desk->AddLine({u"1"_s, u"Rope"_s});
     FillBoxes(kind);
-    QCOMPARE(ErrorOf([&] { Post(kind); }), 9);
+    const RuntimeError thrown = CaughtFrom([&] { Post(kind); });
+    QCOMPARE(thrown.Number(), 9);
+    QCOMPARE(thrown.Subject(), u"fgInvoice"_s);
     QCOMPARE(Invoice().LineCount, qint16(100));
     QCOMPARE(Invoice().fgInvoice.Rows(), 101);
     QVERIFY(m_desk->Boxes.Said.isEmpty());
