@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int FullWidth = 460;
-constexpr int CityWidth = 280;
+constexpr int CityWidth = 240;
 constexpr int StateWidth = 64;
 constexpr int UsaStateLimit = 2;
 constexpr int FullLimit = 55;
