@@ -25,6 +25,7 @@ inline QByteArray BusinessRecord(const QByteArray& number, const QByteArray& nam
   record.AcctNo = number;
   record.AcctName = name;
   record.CityLine = city;
+  record.CityShort = city;
   record.AcctType = "Business";
   return record.Bytes();
 }
