@@ -9,7 +9,7 @@ Program::Objects::Objects(const Platform& platform)
     : On(platform),
       Store(*platform.Files),
       Disk(Store, platform.DataRoot, platform.EXEName),
-      Instance(platform.LockFolder, platform.DataRoot),
+      Instance(Store, platform.LockFolder, platform.DataRoot),
       Prices(Disk, Lists, SalesItems),
       Routines(*platform.Paper, Live.Print),
       Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}) {}

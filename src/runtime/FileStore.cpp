@@ -198,3 +198,10 @@ void FileStore::MakeFolder(const QString& path) {
   if (IsFolder(path)) return;
   CheckFolder(m_device.MakeFolder(path), path);
 }
+
+void FileStore::MakePath(const QString& path) {
+  if (IsFolder(path)) return;
+  const QString parent = FolderOf(path);
+  if (parent != path) MakePath(parent);
+  MakeFolder(path);
+}

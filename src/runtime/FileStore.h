@@ -38,6 +38,7 @@ class FileStore {
   void Rename(const QString& from, const QString& to);
   void Remove(const QString& path);      ///< Nothing if absent.
   void MakeFolder(const QString& path);  ///< Nothing if it is there; the parent must exist (error 76).
+  void MakePath(const QString& path);    ///< The folder and those that lead to it.
 
  private:
   void WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content);

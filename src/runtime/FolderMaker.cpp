@@ -17,6 +17,10 @@ FolderMaker::~FolderMaker() {
   m_device.Close(m_folder);
 }
 
+QByteArray FolderMaker::Encoded(const QString& name) {
+  return QFile::encodeName(name);
+}
+
 void FolderMaker::Make(const QByteArray& name) {
   // With the separator behind it, only a folder answers to the name.
   if (::faccessat(m_folder, name.constData(), F_OK, 0) == 0) return;

@@ -13,8 +13,10 @@ class FolderMaker {
   ~FolderMaker();
   Q_DISABLE_COPY_MOVE(FolderMaker)
 
-  /// Nothing if the folder is there. `name` is relative to the parent, in the file system's own characters, and ends
-  /// in a separator. Throws RuntimeError 61, 70, 75 or 76.
+  /// A name as the file system spells it.
+  static QByteArray Encoded(const QString& name);
+  /// Nothing if the folder is there. `name` is relative to the parent, encoded, and ends in a separator. Throws
+  /// RuntimeError 61, 70, 75 or 76.
   void Make(const QByteArray& name);
 
  private:

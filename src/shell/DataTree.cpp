@@ -1,7 +1,5 @@
 #include "shell/DataTree.h"
 
-#include <QFile>
-
 #include "runtime/Clock.h"
 #include "runtime/FolderMaker.h"
 #include "runtime/RecordFile.h"
@@ -20,7 +18,7 @@ void MakeCustomerFolders(CommonDiskRoutines& disk) {
   for (int number = 1; number <= count; ++number) {
     const QString account = customers.Record(number).Text(0, 20);
     if (!CanNameAFile(account)) continue;
-    const QByteArray folder = QFile::encodeName(account) + '/';
+    const QByteArray folder = FolderMaker::Encoded(account) + '/';
     folders.Make(folder);
     for (char digit = '0'; digit <= '5'; ++digit) folders.Make(folder + "AuxFile" + digit + '/');
   }

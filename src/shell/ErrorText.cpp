@@ -7,7 +7,7 @@ namespace {
 QString WhatToDo(const RuntimeError& error) {
   switch (error.Number()) {
     case ErrorNumber::DiskFull:
-      return u"The disk is full. Make room on it and try again; what stood in the file is unchanged."_s;
+      return u"Make room on it and try again; what stood in the file is unchanged."_s;
     case ErrorNumber::PermissionDenied:
     case ErrorNumber::PathFileAccess:
       return u"Check that the program may write to its folder, then try again; what stood in the file is unchanged."_s;

@@ -1,13 +1,16 @@
 #include "shell/PreviousInstance.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 
+#include "runtime/FileStore.h"
+#include "runtime/RuntimeError.h"
+
 using namespace Qt::StringLiterals;
 
-PreviousInstance::PreviousInstance(const QString& lockFolder, const QString& dataRoot) : m_folder(lockFolder) {
+PreviousInstance::PreviousInstance(FileStore& store, const QString& lockFolder, const QString& dataRoot)
+    : m_store(store), m_folder(lockFolder) {
   // Two ways to one folder are one root.
   const QString canonical = QFileInfo(dataRoot).canonicalFilePath();
   const QByteArray root = (canonical.isEmpty() ? dataRoot : canonical).toUtf8();
@@ -20,7 +23,11 @@ PreviousInstance::PreviousInstance(const QString& lockFolder, const QString& dat
 PreviousInstance::~PreviousInstance() = default;
 
 bool PreviousInstance::Claim() {
-  QDir().mkpath(m_folder);
+  try {
+    m_store.MakePath(m_folder);
+  } catch (const RuntimeError&) {
+    // The lock will tell.
+  }
   if (m_lock->tryLock(0)) return true;
   return m_lock->error() != QLockFile::LockFailedError;
 }

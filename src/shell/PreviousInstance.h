@@ -4,12 +4,13 @@
 #include <memory>
 #include <QString>
 
+class FileStore;
 class QLockFile;
 
 class PreviousInstance {
  public:
   /// `lockFolder` is made when the mark is set.
-  PreviousInstance(const QString& lockFolder, const QString& dataRoot);
+  PreviousInstance(FileStore& store, const QString& lockFolder, const QString& dataRoot);
   ~PreviousInstance();
 
   /// Sets the mark; false where another running program holds it. The mark of a program that was killed is taken over.
@@ -18,6 +19,7 @@ class PreviousInstance {
   void Release();
 
  private:
+  FileStore& m_store;
   QString m_folder;
   std::unique_ptr<QLockFile> m_lock;
 };

@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <QtTest>
 
+#include "runtime/FileStore.h"
 #include "shell/KarvexMasterModule.h"
 #include "shell/PreviousInstance.h"
 #include "support/ScriptedDialogs.h"
@@ -14,6 +15,8 @@ using namespace Qt::StringLiterals;
 class PreviousInstanceTest : public QObject {
   Q_OBJECT
 
+  FileDevice m_device;
+  FileStore m_store{m_device};
   std::unique_ptr<TemporaryTree> m_locks, m_root;
 
  private Q_SLOTS:
@@ -24,8 +27,8 @@ class PreviousInstanceTest : public QObject {
 
   void aSecondProgramOnTheSameRootIsToldSoAndTouchesNoFile() {
     m_root->Write(u"/Phone.txt"_s, "x");
-    PreviousInstance first(m_locks->Root(), m_root->Root());
-    PreviousInstance second(m_locks->Root(), m_root->Root());
+    PreviousInstance first(m_store, m_locks->Root(), m_root->Root());
+    PreviousInstance second(m_store, m_locks->Root(), m_root->Root());
     ScriptedDialogs dialogs;
     QVERIFY(CheckPreviousInstance(first, dialogs));
     QCOMPARE(dialogs.Seen, QStringList{});
@@ -35,7 +38,7 @@ class PreviousInstanceTest : public QObject {
   }
 
   void theMarkLiesOutsideTheDataRoot() {
-    PreviousInstance instance(m_locks->Root(), m_root->Root());
+    PreviousInstance instance(m_store, m_locks->Root(), m_root->Root());
     QVERIFY(instance.Claim());
     QCOMPARE(m_root->List(), QStringList{});
     QCOMPARE(m_locks->List().size(), 1);
@@ -45,7 +48,7 @@ class PreviousInstanceTest : public QObject {
 
   void anotherRootIsAnotherBusiness() {
     const TemporaryTree other;
-    PreviousInstance first(m_locks->Root(), m_root->Root()), second(m_locks->Root(), other.Root());
+    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), other.Root());
     QVERIFY(first.Claim());
     QVERIFY(second.Claim());
   }
@@ -53,13 +56,13 @@ class PreviousInstanceTest : public QObject {
   void twoWaysToOneRootAreOne() {
     const QString link = m_locks->Path(u"/link"_s);
     QVERIFY(QFile::link(m_root->Root(), link));
-    PreviousInstance first(m_locks->Root(), m_root->Root()), second(m_locks->Root(), link);
+    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), link);
     QVERIFY(first.Claim());
     QVERIFY(!second.Claim());
   }
 
   void theMarkIsFreeAgainAfterTheEnd() {
-    PreviousInstance first(m_locks->Root(), m_root->Root()), second(m_locks->Root(), m_root->Root());
+    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), m_root->Root());
     QVERIFY(first.Claim());
     first.Release();
     QVERIFY(second.Claim());
@@ -70,7 +73,7 @@ class PreviousInstanceTest : public QObject {
     other.start(QCoreApplication::applicationFilePath(), {u"hold"_s, m_locks->Root(), m_root->Root()});
     QVERIFY(other.waitForReadyRead(30000));
     QCOMPARE(other.readAllStandardOutput(), "claimed\n");
-    PreviousInstance mine(m_locks->Root(), m_root->Root());
+    PreviousInstance mine(m_store, m_locks->Root(), m_root->Root());
     QVERIFY(!mine.Claim());
     other.kill();
     QVERIFY(other.waitForFinished(30000));
@@ -79,14 +82,14 @@ class PreviousInstanceTest : public QObject {
   }
 
   void theLockFolderIsMadeWhereItIsMissing() {
-    PreviousInstance instance(m_locks->Path(u"/a/b"_s), m_root->Root());
+    PreviousInstance instance(m_store, m_locks->Path(u"/a/b"_s), m_root->Root());
     QVERIFY(instance.Claim());
     QCOMPARE(m_locks->List(u"/a/b"_s).size(), 1);
   }
 
   void aMarkThatCannotBeSetKeepsNobodyFromWorking() {
     m_locks->Write(u"/file"_s, "");
-    PreviousInstance instance(m_locks->Path(u"/file/locks"_s), m_root->Root());
+    PreviousInstance instance(m_store, m_locks->Path(u"/file/locks"_s), m_root->Root());
     QVERIFY(instance.Claim());
   }
 };
@@ -96,7 +99,9 @@ int main(int argc, char* argv[]) {
   QCoreApplication application(argc, argv);
   const QStringList arguments = QCoreApplication::arguments();
   if (arguments.size() == 4 && arguments[1] == u"hold") {
-    PreviousInstance instance(arguments[2], arguments[3]);
+    FileDevice device;
+    FileStore store(device);
+    PreviousInstance instance(store, arguments[2], arguments[3]);
     ::puts(instance.Claim() ? "claimed" : "refused");
     ::fflush(stdout);
     ::alarm(60);

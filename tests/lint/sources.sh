@@ -1,0 +1,76 @@
+#!/bin/sh
+# What no source may hold. Usage: sources.sh PROJECT
+# Prints each breach as file:line: what, and fails if any.
+#
+# Signals are connected to functions, with a context that ends the connection; files are opened, renamed and deleted in
+# runtime/ only; some words don't belong; no source and no function outgrows the reader.
+set -eu
+cd "$1"
+found=$(mktemp)
+trap 'rm -f "$found"' EXIT
+
+sources() { find src tests -name '*.h' -o -name '*.cpp' | sort; }
+
+everything() {
+  find . \( -name build -o -name .git -o -name .cache \) -prune -o -type f \
+    \( -name '*.h' -o -name '*.cpp' -o -name '*.ui' -o -name '*.md' -o -name '*.html' -o -name '*.txt' -o \
+    -name '*.cmake' -o -name '*.sh' -o -name '*.json' -o -name run -o -name test -o -name bench -o \
+    -name demonstrate \) -print | sed 's|^\./||' | sort
+}
+
+# forbid PATTERN WHAT, on the files named by the input.
+forbid() {
+  tr '\n' '\0' | xargs -0 grep -nE "$1" /dev/null | sed "s|^\([^:]*:[0-9]*\):.*|\1: $2|" >>"$found" || true
+}
+
+sources | forbid '\<(SIGNAL|SLOT)[[:space:]]*\(' 'a connection by strings'
+
+find src -name '*.h' -o -name '*.cpp' | grep -v '^src/runtime/' | sort |
+  forbid '\<(QFile|QSaveFile|QTemporaryFile|QSettings|QDataStream)\>|\<(i|o)?fstream\>|\<f(re)?open\>|[^A-Za-z0-9_]::(open|rename|unlink|mkdir)[[:space:]]*\(|std::rename|std::filesystem|QDir\(.*\)\.(mk|rm|remove|rename)' \
+    'files are the business of runtime/'
+
+everything | forbid '\<Par[t] [1-8]\.[1-9]|\<[Ss]pecificatio[n]|\<[Tt]he spe[c]\>' 'a word that does not belong here'
+
+# A connection of three arguments, or a single shot of two, has no context: it outlives whom it works on.
+sources | while read -r file; do
+  awk -v file="$file" '
+    { text = text $0 "\n" }
+    function lineOf(at,   before) { before = substr(text, 1, at); return gsub(/\n/, "", before) + 1 }
+    # How many arguments the call has whose bracket stands at "at".
+    function arguments(at,   depth, count, c, quoted) {
+      depth = 0; count = 1; quoted = 0
+      for (; at <= length(text); ++at) {
+        c = substr(text, at, 1)
+        if (quoted) { if (c == "\\") ++at; else if (c == "\"") quoted = 0; continue }
+        if (c == "\"") quoted = 1
+        else if (index("([{", c)) ++depth
+        else if (index(")]}", c)) { if (--depth == 0) return count }
+        else if (c == "," && depth == 1) ++count
+      }
+      return count
+    }
+    function look(name, fewest,   from, at, before) {
+      from = 1
+      while ((at = index(substr(text, from), name "(")) > 0) {
+        at += from - 1
+        before = at > 1 ? substr(text, at - 1, 1) : " "
+        if (before !~ /[A-Za-z0-9_]/ && arguments(at + length(name)) < fewest)
+          print file ":" lineOf(at) ": a connection without a context"
+        from = at + length(name)
+      }
+    }
+    END { look("connect", 4); look("singleShot", 3) }' "$file"
+done >>"$found"
+
+sources | while read -r file; do
+  awk -v file="$file" '
+    # As the formatter leaves it, a function begins at the margin, or within a class, and ends at the same column.
+    /^[A-Za-z~]/ { outer = /^(namespace|class|struct|enum|union)[ {]/ ? 0 : NR }
+    /^  [A-Za-z~]/ { inner = NR }
+    /^}/ { if (outer && NR - outer >= 80) print file ":" outer ": a function of more than 80 lines"; outer = 0 }
+    /^  }$/ { if (inner && NR - inner >= 80) print file ":" inner ": a function of more than 80 lines"; inner = 0 }
+    END { if (NR > 600 && file ~ /^src/) print file ":" NR ": a source of more than 600 lines" }' "$file"
+done >>"$found"
+
+cat "$found"
+[ ! -s "$found" ]

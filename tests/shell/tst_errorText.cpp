@@ -1,0 +1,55 @@
+// What the box of an unhandled error says.
+#include <QtTest>
+
+#include "shell/ErrorText.h"
+
+using namespace Qt::StringLiterals;
+
+class ErrorTextTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void itTellsWhatHappenedToWhichFileAndWhatToDo() {
+    QCOMPARE(ErrorBoxText(RuntimeError(61, u"/data/Labor.txt"_s), false),
+             u"/data/Labor.txt: The disk is full. (error 61)\n\nMake room on it and try again; what stood in the file "
+             u"is unchanged."_s);
+  }
+
+  void anErrorOfNoFileOrBoxBeginsWithWhatHappened() {
+    QVERIFY(ErrorBoxText(RuntimeError(9, {}), false)
+                .startsWith(u"A line or entry was asked for that isn't there. (error 9)\n\n"_s));
+  }
+
+  void damageTellsThatTheProgramEndsAndHowToMendIt() {
+    const QString text = ErrorBoxText(RuntimeError(62, u"/Phone.txt"_s).AsFileContent(u"/Phone.txt"_s), true);
+    QVERIFY(text.startsWith(u"/Phone.txt: The file ends too early. (error 62)\n\n"_s));
+    QVERIFY(text.contains(u"The program ends"_s));
+    QVERIFY(text.contains(u"Backup"_s));
+  }
+
+  void anErrorAtTheStartTellsThatNothingWasChanged() {
+    const QString text = ErrorBoxText(RuntimeError(70, u"/data/AuxFiles"_s), true);
+    QVERIFY(text.contains(u"can't start"_s));
+    QVERIFY(!text.contains(u"Backup"_s));
+  }
+
+  void everyErrorSaysWhatToDo_data() {
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("advice");
+    QTest::newRow("overflow") << 6 << u"Correct what was typed"_s;
+    QTest::newRow("no such row") << 9 << u"There is no room for it"_s;
+    QTest::newRow("no number") << 13 << u"Correct what was typed"_s;
+    QTest::newRow("not found") << 53 << u"Try again"_s;
+    QTest::newRow("denied") << 70 << u"Check that the program may write"_s;
+    QTest::newRow("access") << 75 << u"Check that the program may write"_s;
+    QTest::newRow("no folder") << 76 << u"Start the program again"_s;
+  }
+  void everyErrorSaysWhatToDo() {
+    QFETCH(int, number);
+    QFETCH(QString, advice);
+    QVERIFY(ErrorBoxText(RuntimeError(number, u"x"_s), false).contains(advice));
+  }
+};
+
+QTEST_GUILESS_MAIN(ErrorTextTest)
+#include "tst_errorText.moc"
