@@ -72,11 +72,11 @@ QPalette DarkPalette() {
 }
 
 QColor PrimaryGround() {
-  return QColor(0x1F, 0x6F, 0x66);
+  return QColor(0x17, 0x52, 0x4C);
 }
 
 QColor DestructiveGround() {
-  return QColor(0xA8, 0x32, 0x2A);
+  return QColor(0x7C, 0x25, 0x1F);
 }
 
 QColor HintText(const QPalette& palette) {

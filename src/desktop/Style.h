@@ -24,7 +24,7 @@ void ApplyStyle(QApplication& application);
 /// The two palettes; every text on its ground has a contrast of at least 4.5 to 1.
 QPalette LightPalette();
 QPalette DarkPalette();
-/// The grounds of buttons that stand out, white text on them.
+/// The grounds of buttons that stand out, white text on them. The toolkit's gradient shows them lighter.
 QColor PrimaryGround();
 QColor DestructiveGround();
 /// Quieter text on the palette's window ground.

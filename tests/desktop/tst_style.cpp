@@ -130,6 +130,49 @@ class Styles : public QObject {
     QCOMPARE(title.font().pointSizeF(), size);
   }
 
+  void aLookNamedAfterTheControlWasPolishedIsTakenToo() {
+    ApplyStyle(*qApp);
+    QWidget window;
+    auto* title = new QLabel(&window);
+    auto* amount = new QLineEdit(&window);
+    title->ensurePolished();
+    amount->ensurePolished();
+    const qreal plain = title->font().pointSizeF();
+    title->setProperty("look", u"title"_s);
+    amount->setProperty("look", u"amount"_s);
+    window.show();
+    QVERIFY(title->font().pointSizeF() > plain);
+    QVERIFY(amount->alignment().testFlag(Qt::AlignRight));
+  }
+
+  void whiteCaptionsReadOnTheButtonsAsTheyAreDrawn_data() {
+    QTest::addColumn<QString>("look");
+    QTest::newRow("primary") << u"primary"_s;
+    QTest::newRow("destructive") << u"destructive"_s;
+  }
+  void whiteCaptionsReadOnTheButtonsAsTheyAreDrawn() {
+    QFETCH(QString, look);
+    ApplyStyle(*qApp);
+    QWidget window;
+    QPushButton button(&window);
+    button.setProperty("look", look);
+    button.resize(120, 28);
+    window.show();
+    const QImage picture = button.grab().toImage();
+    for (int y = 4; y < 24; ++y) {
+      const double contrast = Contrast(Qt::white, picture.pixelColor(60, y));
+      QVERIFY2(contrast >= 4.5, qPrintable(u"line %1: %2"_s.arg(y).arg(contrast)));
+    }
+  }
+
+  void captionsKeepClearOfTheEdges() {
+    ApplyStyle(*qApp);
+    QPushButton button(u"Cancel Add New or Modify"_s);
+    QVERIFY(button.sizeHint().width() >= button.fontMetrics().horizontalAdvance(button.text()) + 16);
+    QVERIFY(button.sizeHint().height() >= 28);
+    QVERIFY(QLineEdit().sizeHint().height() >= 28);
+  }
+
   void accessKeysAreUnderlined() {
     ApplyStyle(*qApp);
     QCOMPARE(qApp->style()->styleHint(QStyle::SH_UnderlineShortcut), 1);
