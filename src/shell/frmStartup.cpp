@@ -1,7 +1,6 @@
 #include "shell/frmStartup.h"
 
 #include <QButtonGroup>
-#include <QKeyEvent>
 
 #include "desktop/Pictures.h"
 #include "runtime/Dialogs.h"
@@ -28,6 +27,7 @@ frmStartup::frmStartup(ScreenHost& host, Screens& screens, MainMenuContext conte
     (*m_options)[i]->installEventFilter(this);
   }
   OnClick(m_ui->cmdGoto, [this] { RunSelected(); });
+  SetEnterButton(m_ui->cmdGoto);
   On(m_ui->mnuCreate, &QAction::triggered, [this] {
     m_screens.ShowSetupAtFirstTab();
     m_screens.Hide(ScreenName::frmStartup);
@@ -75,14 +75,6 @@ bool frmStartup::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   return Screen::eventFilter(watched, event);
-}
-
-void frmStartup::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    Run([this] { RunSelected(); });
-    return;
-  }
-  Screen::keyPressEvent(event);
 }
 
 void frmStartup::RunSelected() {

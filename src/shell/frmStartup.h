@@ -20,8 +20,6 @@ class frmStartup final : public Screen {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  /// Enter runs the selected routine.
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void RunMainMenuRoutine(int index);
