@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPainter>
+#include <QStyleOption>
 #include <QVariant>
 
 #include "desktop/Style.h"
@@ -16,6 +18,7 @@ namespace {
 
 // As high as a button or a box is at least.
 constexpr int Control = 28;
+constexpr int CellMargin = 5;
 
 bool IsWindowGround(const QWidget* widget) {
   if (widget == nullptr || widget->isWindow()) {
@@ -23,6 +26,29 @@ bool IsWindowGround(const QWidget* widget) {
   }
   const auto* window = qobject_cast<const QMainWindow*>(widget->parentWidget());
   return window != nullptr && window->centralWidget() == widget;
+}
+
+/// The edge of a box or an indicator, drawn over the toolkit's own, which is too faint on either palette.
+void DrawEdge(QPainter* painter, const QStyleOption& option, bool round) {
+  const bool focus = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(QPen(focus ? AccentColor(option.palette) : EdgeColor(option.palette), focus ? 2 : 1));
+  const qreal inset = focus ? 1.0 : 0.5;
+  const QRectF edge = QRectF(option.rect).adjusted(inset, inset, -inset, -inset);
+  if (round) {
+    painter->drawEllipse(edge);
+  } else {
+    painter->drawRoundedRect(edge, 2, 2);
+  }
+  painter->restore();
+}
+
+/// A button that stays pressed shows it by a bar as well as by its ground.
+void DrawPressedBar(QPainter* painter, const QStyleOption& option) {
+  const QRect bar(option.rect.left() + 3, option.rect.bottom() - 3, option.rect.width() - 6, 3);
+  painter->fillRect(bar, AccentColor(option.palette));
 }
 
 void LookOfLabel(QLabel* label, QStringView look) {
@@ -89,8 +115,42 @@ int FamilyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
       return Spacing::Small;
+    case PM_FocusFrameHMargin:
+    case PM_HeaderMargin:
+      // The air left and right of a text in a cell, an entry or a heading.
+      return CellMargin;
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+  switch (element) {
+    case PE_FrameLineEdit:
+    case PE_IndicatorCheckBox:
+      DrawEdge(painter, *option, false);
+      break;
+    case PE_IndicatorRadioButton:
+      DrawEdge(painter, *option, true);
+      break;
+    case PE_PanelButtonTool:
+    case PE_PanelButtonCommand:
+      if (option->state.testFlag(State_On)) {
+        DrawPressedBar(painter, *option);
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+void FamilyStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                     const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_ComboBox || control == CC_SpinBox) {
+    DrawEdge(painter, *option, false);
   }
 }
 

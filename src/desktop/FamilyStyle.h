@@ -11,6 +11,10 @@ class FamilyStyle : public QProxyStyle {
                 QStyleHintReturn* returnData) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
   using QProxyStyle::polish;
   void polish(QWidget* widget) override;
 

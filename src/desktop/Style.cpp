@@ -62,11 +62,11 @@ QPalette DarkPalette() {
                     .Base = 0xFF1B1D20,
                     .AlternateBase = 0xFF23282A,
                     .Text = 0xFFECEAE6,
-                    .Button = 0xFF363A40,
+                    .Button = 0xFF2F3237,
                     .ButtonText = 0xFFECEAE6,
                     .Highlight = 0xFF1F6F66,
                     .HighlightedText = 0xFFFFFFFF,
-                    .Disabled = 0xFFA3A6AA,
+                    .Disabled = 0xFFBBBEC2,
                     .Link = 0xFF7CC4EE,
                     .Placeholder = 0xFFA3A6AA});
 }
@@ -77,6 +77,14 @@ QColor PrimaryGround() {
 
 QColor DestructiveGround() {
   return QColor(0x7C, 0x25, 0x1F);
+}
+
+QColor AccentColor(const QPalette& palette) {
+  return IsDark(palette) ? QColor(0x4F, 0xB3, 0xA6) : QColor(0x1F, 0x6F, 0x66);
+}
+
+QColor EdgeColor(const QPalette& palette) {
+  return IsDark(palette) ? QColor(0x7C, 0x82, 0x89) : QColor(0x80, 0x84, 0x88);
 }
 
 QColor HintText(const QPalette& palette) {

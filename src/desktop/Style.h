@@ -30,6 +30,11 @@ QColor DestructiveGround();
 /// Quieter text on the palette's window ground.
 QColor HintText(const QPalette& palette);
 
+/// What marks the control in use and the button that stays pressed.
+QColor AccentColor(const QPalette& palette);
+/// The edges of boxes and indicators: at least 3 to 1 on their grounds.
+QColor EdgeColor(const QPalette& palette);
+
 namespace Spacing {
 inline constexpr int Small = 8;
 inline constexpr int Large = 16;

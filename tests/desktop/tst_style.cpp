@@ -24,6 +24,16 @@ double Contrast(const QColor& a, const QColor& b) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
+/// The grounds as they come out on the screen: a gradient has a darkest and a lightest row.
+double LeastContrast(QWidget& control, const QColor& text) {
+  const QImage drawn = control.grab().toImage();
+  double least = 21;
+  for (int y = 3; y < drawn.height() - 4; ++y) {
+    least = std::min(least, Contrast(text, drawn.pixelColor(drawn.width() / 2, y)));
+  }
+  return least;
+}
+
 }  // namespace
 
 class Styles : public QObject {
@@ -69,6 +79,60 @@ class Styles : public QObject {
     const QPalette expected = dark ? DarkPalette() : LightPalette();
     QCOMPARE(qApp->palette().color(QPalette::Window), expected.color(QPalette::Window));
     QVERIFY(LightPalette().color(QPalette::Window).lightness() > DarkPalette().color(QPalette::Window).lightness());
+  }
+
+  void buttonsAreReadableAsTheyAreDrawn_data() {
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<bool>("enabled");
+    for (const QString& look : {QString(), u"primary"_s, u"destructive"_s}) {
+      for (const bool enabled : {true, false}) {
+        const QString name = u"%1%2"_s.arg(look, enabled ? u""_s : u" disabled"_s);
+        QTest::addRow("light %s", qPrintable(name)) << LightPalette() << look << enabled;
+        QTest::addRow("dark %s", qPrintable(name)) << DarkPalette() << look << enabled;
+      }
+    }
+  }
+  void buttonsAreReadableAsTheyAreDrawn() {
+    QFETCH(QPalette, palette);
+    QFETCH(QString, look);
+    QFETCH(bool, enabled);
+    qApp->setPalette(palette);
+    ApplyStyle(*qApp);
+    QPushButton button;
+    button.setProperty("look", look);
+    button.setEnabled(enabled);
+    button.setAutoDefault(false);
+    button.resize(100, 28);
+    button.ensurePolished();
+    const QPalette::ColorGroup group = enabled ? QPalette::Active : QPalette::Disabled;
+    const double least = LeastContrast(button, button.palette().color(group, QPalette::ButtonText));
+    QVERIFY2(least >= 4.5, qPrintable(QString::number(least)));
+  }
+
+  void edgesStandOutFromTheirGrounds_data() { everyTextIsReadableOnItsGround_data(); }
+  void edgesStandOutFromTheirGrounds() {
+    QFETCH(QPalette, palette);
+    for (const QPalette::ColorRole ground : {QPalette::Base, QPalette::Window}) {
+      QVERIFY(Contrast(EdgeColor(palette), palette.color(ground)) >= 3);
+      QVERIFY(Contrast(AccentColor(palette), palette.color(ground)) >= 3);
+    }
+  }
+
+  void textOnATabIsReadableAsItIsDrawn_data() { everyTextIsReadableOnItsGround_data(); }
+  void textOnATabIsReadableAsItIsDrawn() {
+    QFETCH(QPalette, palette);
+    qApp->setPalette(palette);
+    ApplyStyle(*qApp);
+    QTabWidget tabs;
+    auto* page = new QWidget;
+    tabs.addTab(page, u"Page"_s);
+    tabs.resize(300, 200);
+    const QColor ground = tabs.grab().toImage().pixelColor(150, 120);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Disabled}) {
+      QVERIFY(Contrast(qApp->palette().color(group, QPalette::WindowText), ground) >= 4.5);
+    }
+    QVERIFY(Contrast(HintText(qApp->palette()), ground) >= 4.5);
   }
 
   void windowsHaveWideMarginsAndTheirInsideNarrowOnes() {
