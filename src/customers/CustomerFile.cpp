@@ -1,7 +1,10 @@
 #include "customers/CustomerFile.h"
 
 #include <algorithm>
+#include <array>
 #include <QSet>
+#include <string_view>
+#include <vector>
 
 #include "customers/CommonAccountRoutines.h"
 #include "runtime/CodePage.h"
@@ -21,20 +24,72 @@ QByteArrayView TextBytes(QByteArrayView record, TextField field) {
   return RecordView(record).TextBytes(field.Offset, field.Width);
 }
 
-/// A person's entry of the name list. The initial is its one character even where it is a blank, so that a name
-/// without one ends in two blanks; this is meant.
-QByteArray PersonEntry(QByteArrayView record) {
-  const qsizetype at = CustomerField::MiddleInitial.Offset;
-  const char initial = record.size() > at && record[at] != '\0' ? record[at] : ' ';
-  QByteArray entry = TextBytes(record, CustomerField::LastName).toByteArray();
-  entry.append(", ").append(TextBytes(record, CustomerField::FirstName)).append(' ').append(initial);
-  return entry;
-}
+/// The name list while it is being sorted: all texts in one buffer, in the files' code page, and beside it the same
+/// bytes with their case folded, so that comparing them is comparing bytes.
+class NameSorter {
+ public:
+  explicit NameSorter(int count) {
+    m_entries.reserve(static_cast<std::size_t>(count));
+    m_texts.reserve(qsizetype{count} * CustomerField::AcctName.Width);
+  }
+  void Add(QByteArrayView record, int number) {
+    const qsizetype start = m_texts.size();
+    if (TextBytes(record, CustomerField::AcctType) == "Business") {
+      m_texts.append(TextBytes(record, CustomerField::AcctName));
+    } else {
+      AppendPerson(record);
+    }
+    m_entries.push_back({start, m_texts.size() - start, number});
+  }
+  /// Alphabetical, ignoring case; equal names in file order.
+  void SortInto(CustomerLists& lists) {
+    const QByteArray folded = Folded();
+    const auto key = [&](const Entry& entry) {
+      return std::string_view(folded.constData() + entry.Start, static_cast<std::size_t>(entry.Size));
+    };
+    std::sort(m_entries.begin(), m_entries.end(), [&](const Entry& a, const Entry& b) {
+      const int order = key(a).compare(key(b));
+      return order != 0 ? order < 0 : a.Record < b.Record;
+    });
+    lists.Accounts.reserve(static_cast<qsizetype>(m_entries.size()));
+    lists.Records.reserve(static_cast<qsizetype>(m_entries.size()));
+    for (const Entry& entry : m_entries) {
+      lists.Accounts.append(FromCodePage(QByteArrayView(m_texts).sliced(entry.Start, entry.Size)));
+      lists.Records.append(entry.Record);
+    }
+  }
 
-struct AccountEntry {
-  QString Text;
-  QString Key;
-  int Record;
+ private:
+  struct Entry {
+    qsizetype Start;
+    qsizetype Size;
+    int Record;
+  };
+
+  /// The initial is its one character even where it is a blank, so that a name without one ends in two blanks; this is
+  /// meant.
+  void AppendPerson(QByteArrayView record) {
+    const qsizetype at = CustomerField::MiddleInitial.Offset;
+    const char initial = record.size() > at && record[at] != '\0' ? record[at] : ' ';
+    m_texts.append(TextBytes(record, CustomerField::LastName)).append(", ");
+    m_texts.append(TextBytes(record, CustomerField::FirstName)).append(' ').append(initial);
+  }
+  QByteArray Folded() const {
+    std::array<char, 256> fold{};
+    for (int i = 0; i < 256; ++i) {
+      const char byte = static_cast<char>(i);
+      const QByteArray lower = ToCodePage(FromCodePage(QByteArrayView(&byte, 1)).toLower());
+      fold[static_cast<std::size_t>(i)] = lower.size() == 1 ? lower[0] : byte;
+    }
+    QByteArray folded = m_texts;
+    for (char& byte : folded) {
+      byte = fold[static_cast<unsigned char>(byte)];
+    }
+    return folded;
+  }
+
+  std::vector<Entry> m_entries;
+  QByteArray m_texts;
 };
 
 }  // namespace
@@ -79,8 +134,7 @@ CustomerLists CustomerFile::ReadLists(int count) {
   const RecordBuffer records = m_disk.OpenCustomerFile().ReadAll();
   CustomerLists lists;
   QSet<QByteArrayView> cities;
-  std::vector<AccountEntry> accounts;
-  accounts.reserve(static_cast<std::size_t>(count));
+  NameSorter names(count);
   for (int i = 1; i <= count; ++i) {
     const QByteArrayView record = records.Bytes(i);
     const QByteArrayView city = TextBytes(record, CustomerField::CityLine);
@@ -88,22 +142,12 @@ CustomerLists CustomerFile::ReadLists(int count) {
       cities.insert(city);
       lists.Cities.append(FromCodePage(city));
     }
-    const bool business = TextBytes(record, CustomerField::AcctType) == "Business";
-    const QString text =
-        business ? FromCodePage(TextBytes(record, CustomerField::AcctName)) : FromCodePage(PersonEntry(record));
-    accounts.push_back({text, text.toCaseFolded(), i});
+    names.Add(record, i);
   }
   if (count > 0) {
     Buffer.Assign(records.Bytes(count));
   }
-  std::stable_sort(accounts.begin(), accounts.end(),
-                   [](const AccountEntry& a, const AccountEntry& b) { return a.Key < b.Key; });
-  lists.Accounts.reserve(count);
-  lists.Records.reserve(count);
-  for (const AccountEntry& account : accounts) {
-    lists.Accounts.append(account.Text);
-    lists.Records.append(account.Record);
-  }
+  names.SortInto(lists);
   return lists;
 }
 

@@ -161,6 +161,18 @@ class CustomerFileTest : public QObject {
     QCOMPARE(lists.Records, (QList<int>{2, 4, 3, 5, 1}));
   }
 
+  void accentedNamesIgnoreTheirCaseToo() {
+    PutCustomers(BusinessRecord("1",
+                                "\xC9"
+                                "clair B") +
+                 BusinessRecord("2",
+                                "\xE9"
+                                "clair A") +
+                 BusinessRecord("3", "\x8Aport") + BusinessRecord("4", "Zoo"));
+    const CustomerLists lists = m_file->ReadLists(4);
+    QCOMPARE(lists.Accounts, (QStringList{u"Zoo"_s, u"\u0160port"_s, u"\u00e9clair A"_s, u"\u00c9clair B"_s}));
+  }
+
   void citiesStandOnceInFileOrderTheEmptyOneIncluded() {
     PutCustomers(BusinessRecord("1", "a", "Reno") + BusinessRecord("2", "b", "") + BusinessRecord("3", "c", "Elko") +
                  BusinessRecord("4", "d", " Reno") + BusinessRecord("5", "e", "reno"));
