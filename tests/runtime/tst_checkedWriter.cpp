@@ -240,6 +240,12 @@ class CheckedWriterTest : public QObject {
     QCOMPARE(Content(), newContent);
     QCOMPARE(outside.Bytes(u"/secret.txt"_s), "outside");
     QCOMPARE(Files(), QStringList{u"Labor.txt"_s});
+    // Nor where it can't be removed.
+    QVERIFY(QFile::link(outside.Path(u"/secret.txt"_s), m_path + u".new"_s));
+    m_device.FailAt(Call::Remove, 1, EPERM);
+    QCOMPARE(ErrorOf([&] { Save("next"); }), 75);
+    QCOMPARE(Content(), newContent);
+    QCOMPARE(outside.Bytes(u"/secret.txt"_s), "outside");
   }
 
   void aCopyIsOldOrNewToo() {
@@ -336,6 +342,5 @@ class CheckedWriterTest : public QObject {
   }
 };
 
-Q_DECLARE_METATYPE(FailingDevice::Call)
 QTEST_GUILESS_MAIN(CheckedWriterTest)
 #include "tst_checkedWriter.moc"
