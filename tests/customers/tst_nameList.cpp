@@ -148,6 +148,27 @@ class NameListTest : public QObject {
     QVERIFY(desk.Shown());
   }
 
+  void escapePicksNothingEvenAfterAWholeName() {
+    CustomerDesk desk(People());
+    desk.Open();
+    desk.Click(u"Command1_1"_s);
+    desk.Driver().Type(u"moss, ann q"_s);
+    desk.Driver().PressKey(Qt::Key_Escape);
+    QVERIFY(!desk.Sees(u"cboAccounts"_s));
+    QCOMPARE(desk.Box(0), u"1"_s);
+  }
+
+  void theButtonPicksAWholeNameAndOpensTheListAgain() {
+    CustomerDesk desk(People());
+    desk.Open();
+    desk.Click(u"Command1_1"_s);
+    desk.Driver().Type(u"moss, ann q"_s);
+    desk.Click(u"Command1_1"_s);
+    QCOMPARE(desk.Box(0), u"2"_s);
+    QVERIFY(desk.Sees(u"cboAccounts"_s));
+    QCOMPARE(desk.Text(u"cboAccounts"_s), QString());
+  }
+
   void withAnEmptyListOnlyItsVisibilityChanges() {
     CustomerDesk desk;
     desk.Program.StartAtMenu();
