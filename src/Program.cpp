@@ -39,9 +39,12 @@ bool Program::Start() {
     MakeDataTree(m_objects->Disk, *m_platform.Calendar);
     m_objects->LoadSettings();
     Show(ScreenName::frmSplash);
+    Built(ScreenName::frmSplash)->repaint();
     m_objects->LoadHiddenScreens();
   } catch (const RuntimeError& error) {
     UnhandledError(error);
+  } catch (const std::exception& error) {
+    UnhandledError(RuntimeError(0, QString(), QString::fromLocal8Bit(error.what())));
   }
   m_starting = false;
   return !m_ended;
@@ -78,10 +81,12 @@ std::unique_ptr<Screen> Program::BuildInvoice() {
 }
 
 MainMenuContext Program::MenuContext() {
-  return {m_objects->Disk, *m_platform.Boxes, m_platform.ProgramFolder, [this] {
+  return {m_objects->Disk, *m_platform.Boxes, m_platform.ProgramFolder,
+          [this] {
             LoadPartialList(m_objects->Partials, m_objects->Disk);
             return m_objects->Partials.Count();
-          }};
+          },
+          [](ScreenName screen) { return screen == ScreenName::frmNewCustomer || screen == ScreenName::frmServices; }};
 }
 
 Screen* Program::Built(ScreenName screen) const {
@@ -104,7 +109,10 @@ void Program::Open(Screen& screen) {
 }
 
 void Program::Hide(ScreenName screen) {
-  if (Screen* built = Built(screen)) built->hide();
+  Screen* built = Built(screen);
+  if (built == nullptr || !built->isVisible()) return;
+  built->hide();
+  m_lastHidden = screen;
 }
 
 void Program::Unload(ScreenName screen) {
@@ -150,7 +158,19 @@ void Program::UnhandledError(const RuntimeError& error) {
   const bool ends = m_starting || error.From() == RuntimeError::Origin::FileContent;
   m_platform.Boxes->ShowMessage(ErrorBoxText(error, ends));
   // Without the exit backup: it would overwrite good copies with what may be damaged.
-  if (ends) EndProcess();
+  if (ends) {
+    EndProcess();
+  } else {
+    KeepAWindow();
+  }
+}
+
+/// A screen may have gone before the next one failed to show: without a window the user couldn't go on.
+void Program::KeepAWindow() {
+  for (const auto& [name, screen] : m_screens) {
+    if (screen && screen->isVisible()) return;
+  }
+  if (Screen* last = Built(m_lastHidden)) Open(*last);
 }
 
 void Program::EndProcess() {

@@ -68,11 +68,13 @@ class Program final : public Screens, public ScreenHost {
   std::unique_ptr<Screen> Build(ScreenName screen);
   std::unique_ptr<Screen> BuildInvoice();
   void Open(Screen& screen);
+  void KeepAWindow();
   void EndProcess();
 
   Platform m_platform;
   std::unique_ptr<Objects> m_objects;
   std::map<ScreenName, std::unique_ptr<Screen>> m_screens;
+  ScreenName m_lastHidden = ScreenName::frmSplash;
   bool m_starting = false;
   bool m_ended = false;
 };

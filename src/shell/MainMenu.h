@@ -3,7 +3,9 @@
 
 #include <array>
 #include <functional>
+
 #include <QString>
+#include "shell/Screens.h"
 
 class CommonDiskRoutines;
 class Dialogs;
@@ -12,8 +14,9 @@ class Dialogs;
 struct MainMenuContext {
   CommonDiskRoutines& Disk;
   Dialogs& Boxes;
-  QString ProgramFolder;                 ///< Where the manual stands.
-  std::function<int()> LoadPartialList;  ///< Loads the list of partial invoices and answers their number.
+  QString ProgramFolder;                    ///< Where the manual stands.
+  std::function<int()> LoadPartialList;     ///< Loads the list of partial invoices and answers their number.
+  std::function<bool(ScreenName)> IsThere;  ///< Whether the program has that screen yet.
 };
 
 struct MainMenuState {

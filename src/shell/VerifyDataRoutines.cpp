@@ -51,7 +51,7 @@ int VerifyQuoteKey(int key, Dialogs& dialogs) {
 
 bool VerifyCurrencyBox(QString& boxText, Dialogs& dialogs) {
   if (IsNumeric(boxText)) {
-    boxText = CurrencyText(Currency::FromText(boxText));
+    boxText = CurrencyText(ToNumber(boxText));
     return true;
   }
   dialogs.Beep();

@@ -1,6 +1,7 @@
 #include "shell/frmStartup.h"
 
 #include <QButtonGroup>
+#include <QMouseEvent>
 
 #include "desktop/Pictures.h"
 #include "runtime/Dialogs.h"
@@ -67,7 +68,7 @@ void frmStartup::ClearSelection(int index) {
 }
 
 bool frmStartup::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonDblClick) {
+  if (event->type() == QEvent::MouseButtonDblClick && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
     for (int i = 0; i < 7; ++i) {
       if (watched != (*m_options)[i]) continue;
       Run([&] { RunMainMenuRoutine(i); });
@@ -88,8 +89,10 @@ void frmStartup::RunSelected() {
 ScreenName frmStartup::RoutineOf(int index) const {
   switch (index) {
     case 0:
-      return m_context.Disk.AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s) ? ScreenName::frmCustomerSelection
-                                                                               : ScreenName::frmNewCustomer;
+      return m_context.Disk.AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s) &&
+                     m_context.IsThere(ScreenName::frmCustomerSelection)
+                 ? ScreenName::frmCustomerSelection
+                 : ScreenName::frmNewCustomer;
     case 1:
       return ScreenName::frmIncomplete;
     case 2:
@@ -105,6 +108,11 @@ ScreenName frmStartup::RoutineOf(int index) const {
 
 void frmStartup::RunMainMenuRoutine(int index) {
   // The invoice report has no routine: the menu hides and no other screen is shown. That is meant.
-  if (index != 4) m_screens.Show(RoutineOf(index));
+  if (index != 4) {
+    const ScreenName routine = RoutineOf(index);
+    // One that the program doesn't have yet leaves the menu.
+    if (!m_context.IsThere(routine)) return;
+    m_screens.Show(routine);
+  }
   m_screens.Hide(ScreenName::frmStartup);
 }

@@ -1,5 +1,7 @@
 // The main menu: what it offers for the data at hand, and where each routine leads.
 
+#include <cerrno>
+
 #include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -34,14 +36,17 @@ class MainMenu : public QObject {
   void anEmptyTreeOffersOnlyTheCatalogue();
   void aCatalogueWithOneServiceOffersInvoicesToo();
   void oneCatalogueFileAloneIsEnoughAndTheOtherComesBackFromTheBackup();
-  void theCaptionsAndTipsAreAsTold();
+  void theCaptionsAndTips();
   void eachReportIsOfferedByItsFile();
   void aFileThatOnlyTheBackupHoldsIsRestoredByShowingTheMenu();
   void theNumberOfPartialInvoicesStandsBesideTheirOption();
   void aDamagedPartialInvoiceIsNamedAndNothingIsOverwritten();
   void theInvoiceReportHidesTheMenuAndOpensNothing();
   void aDoubleClickRunsAnOption();
-  void proposalsLeadToTheCustomerSelection();
+  void proposalsDoNotKeepInvoicesFromBeingMade();
+  void aRoutineThatIsNotThereYetLeavesTheMenu();
+  void theLastPartialGoneTakesItsSelectionAlong();
+  void aRestoreThatFailsAtTheMenuLeavesAWindow();
   void theMenuEntriesOpenSetupAndTheManualAndEnd();
   void anOrderFormAsksAndOpensItsPageOnYes();
   void gotoWithoutASelectionDoesNothing();
@@ -88,7 +93,7 @@ void MainMenu::oneCatalogueFileAloneIsEnoughAndTheOtherComesBackFromTheBackup() 
   QCOMPARE(program.Tree.Bytes(u"/KVInventoriedItems.txt"_s), QByteArray(104, ' '));
 }
 
-void MainMenu::theCaptionsAndTipsAreAsTold() {
+void MainMenu::theCaptionsAndTips() {
   ProgramFixture program;
   QVERIFY(program.StartAtMenu());
   ScreenDriver menu(u"frmStartup"_s);
@@ -185,14 +190,65 @@ void MainMenu::aDoubleClickRunsAnOption() {
   QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
-void MainMenu::proposalsLeadToTheCustomerSelection() {
-  // The selection screen isn't there yet: with a proposal the customer screen is not what opens.
+void MainMenu::proposalsDoNotKeepInvoicesFromBeingMade() {
+  // The program doesn't have the selection screen yet: the customer screen opens, so that invoices can be made.
   ProgramFixture program;
   program.Tree.Write(u"/Services.txt"_s, OneService);
   program.Tree.Write(u"/KarvexProposals/a.txt"_s, "x");
   QVERIFY(program.StartAtMenu());
+  program.Answers.Ok({}, u"Create Customers"_s);
   ScreenDriver(u"frmStartup"_s).Click(u"cmdGoto"_s);
-  QVERIFY(!ScreenDriver::IsShown(u"frmNewCustomer"_s));
+  QVERIFY(ScreenDriver::IsShown(u"frmNewCustomer"_s));
+}
+
+void MainMenu::aRoutineThatIsNotThereYetLeavesTheMenu() {
+  ProgramFixture program;
+  program.Tree.Write(u"/Services.txt"_s, OneService);
+  program.Tree.Write(u"/CompletedInvoices/20260001.txt"_s, "");
+  program.Tree.Write(u"/SoldItems.txt"_s, "");
+  program.Tree.Write(u"/TaxRecords.txt"_s, "");
+  program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/20260001.txt"_s, "20260001\r\n7\r\nSmith\r\n3/7/2026\r\n");
+  QVERIFY(program.StartAtMenu());
+  const ScreenDriver menu(u"frmStartup"_s);
+  for (const int option : {1, 2, 5, 6}) {
+    menu.Click(Option(option));
+    menu.Click(u"cmdGoto"_s);
+    QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
+  }
+}
+
+void MainMenu::theLastPartialGoneTakesItsSelectionAlong() {
+  ProgramFixture program;
+  program.Tree.Write(u"/Services.txt"_s, OneService);
+  program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/20260001.txt"_s, "20260001\r\n7\r\nSmith\r\n3/7/2026\r\n");
+  QVERIFY(program.StartAtMenu());
+  const ScreenDriver menu(u"frmStartup"_s);
+  menu.Click(Option(1));
+  program.Tree.Remove(u"/KarvexInvoicer/IncompleteInvoices/20260001.txt"_s);
+  menu.Trigger(u"mnuCreate"_s);
+  ScreenDriver(u"frmSetup"_s).Click(u"cmdQuit"_s);
+  QCOMPARE(Offered(menu), (QList<int>{0, 3}));
+  QVERIFY(!IsSelected(menu, 1));
+  QVERIFY(IsSelected(menu, 0));
+}
+
+void MainMenu::aRestoreThatFailsAtTheMenuLeavesAWindow() {
+  ProgramFixture program;
+  QVERIFY(program.StartAtMenu());
+  ScreenDriver(u"frmStartup"_s).Trigger(u"mnuCreate"_s);
+  const ScreenDriver setup(u"frmSetup"_s);
+  program.Tree.Write(u"/Services.txt"_s, OneService);
+  program.Tree.Write(u"/Backup/TaxRecords.txt"_s, QByteArray(75, ' '));
+  // The six files of Setup's save go through; what fails is the copy that the menu asks for.
+  program.Files.FailAt(FailingDevice::Call::Write, 7, ENOSPC);
+  program.Answers.Ok();
+  setup.Click(u"cmdQuit"_s);
+  QVERIFY2(program.Answers.Last().Text.contains(u"TaxRecords.txt"_s), qPrintable(program.Answers.Last().Text));
+  QVERIFY(ScreenDriver::IsShown(u"frmSetup"_s));
+  program.Files.Reset();
+  setup.Click(u"cmdQuit"_s);
+  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
+  QCOMPARE(program.Tree.Bytes(u"/TaxRecords.txt"_s), QByteArray(75, ' '));
 }
 
 void MainMenu::theMenuEntriesOpenSetupAndTheManualAndEnd() {

@@ -131,6 +131,13 @@ class VerifyDataTest : public QObject {
     QVERIFY(dialogs.noted.isEmpty());
   }
 
+  void aCurrencyBoxRoundsOnce() {
+    NotedDialogs dialogs;
+    QString box = u"12.34499"_s;
+    QVERIFY(VerifyCurrencyBox(box, dialogs));
+    QCOMPARE(box, u"$12.34"_s);
+  }
+
   void aCurrencyBoxThatIsNoAmountIsEmptiedWithABeep() {
     for (const QString& text : {u"abc"_s, u""_s, u"12abc"_s}) {
       NotedDialogs dialogs;
