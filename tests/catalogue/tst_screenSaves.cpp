@@ -40,7 +40,8 @@ class ScreenSaves : public QObject {
   void anOnHandWithDecimalsEntersTheGridRounded();
   void anOnHandBeyondSixteenBitsIsToldAndNothingIsAdded();
   void lettersInTheQuantityBoxesAreRefusedWithTheFocus();
-  void aDiscountQuantityBeyondThirtyTwoBitsIsTold();
+  void whatTheFileCouldNotTakeIsToldAndNothingIsAdded();
+  void aCustomQuantityBeyondThirtyTwoBitsIsTold();
   void emptyBoxesOfAnItemEnterTheGridAsZeros();
   void aNewItemIsAddedAndItsCategoryOffered();
   void aModifiedItemReplacesItsRow();
@@ -210,15 +211,46 @@ void ScreenSaves::lettersInTheQuantityBoxesAreRefusedWithTheFocus() {
   QCOMPARE(screen.Row("fgItems", 1), u"Hose||$0.00|$5.00|7|$4.50|6|6|6"_s);
 }
 
-void ScreenSaves::aDiscountQuantityBeyondThirtyTwoBitsIsTold() {
+void ScreenSaves::whatTheFileCouldNotTakeIsToldAndNothingIsAdded() {
   CatalogueScreen screen;
   screen.Open(1);
   BeginItem(screen);
-  screen.Fill("txtDiscountQty", "2147483648");
-  screen.Program.Answers.Ok();
+  const QList<std::tuple<const char*, const char*, const char*>> boxes{
+      {"txtDiscountQty", "2147483648", "Discount quantity: "},
+      {"txtReorderAmount", "32768", "Reorder amount: "},
+      {"txtReorderAt", "32768", "Reorder when at: "},
+      {"txtCost", ".", "Cost per unit: "}};
+  for (const auto& [box, text, told] : boxes) {
+    screen.Fill(box, text);
+    // A cost that is no number is told of when it is left as well, and that click is dropped.
+    if (qstrcmp(box, "txtCost") == 0) {
+      screen.Program.Answers.Ok();
+      screen.Click(13);
+      screen.SetFocus("txtOnHand");
+    }
+    screen.Program.Answers.Ok();
+    screen.Click(13);
+    QVERIFY2(screen.Program.Answers.Last().Text.startsWith(QLatin1String(told)), box);
+    QVERIFY(screen.Program.Answers.AllUsed());
+    QCOMPARE(screen.Rows("fgItems"), 0);
+    screen.Fill(box, "1");
+  }
   screen.Click(13);
-  QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"Discount quantity: "_s));
-  QCOMPARE(screen.Rows("fgItems"), 0);
+  QCOMPARE(screen.Row("fgItems", 1), u"Hose||$1.00|$5.00|7|$4.50|1|1|1"_s);
+}
+
+void ScreenSaves::aCustomQuantityBeyondThirtyTwoBitsIsTold() {
+  CatalogueScreen screen;
+  screen.Open(3);
+  screen.Click(18);
+  screen.Fill("txtDescription_2", "Engraving");
+  screen.Fill("txtCharge_3", "5");
+  screen.Fill("txtCharge_4", "4");
+  screen.Fill("txtCustomDiscItems", "2147483648");
+  screen.Program.Answers.Ok();
+  screen.Click(22);
+  QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"Custom item discount quantity: "_s));
+  QCOMPARE(screen.Rows("fgCustom"), 0);
 }
 
 void ScreenSaves::emptyBoxesOfAnItemEnterTheGridAsZeros() {
