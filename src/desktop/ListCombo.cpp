@@ -44,7 +44,6 @@ void ListCombo::TakeOverLine() {
   // The toolkit's own completer, and its habit of selecting an entry when the box is left, are not wanted.
   setCompleter(nullptr);
   disconnect(m_line, &QLineEdit::editingFinished, this, nullptr);
-  disconnect(m_line, &QLineEdit::returnPressed, this, nullptr);
   connect(m_line, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
 }
 

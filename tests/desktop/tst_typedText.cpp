@@ -271,6 +271,27 @@ class TypedTexts : public QObject {
     QCOMPARE(bench.driver->FocusName(), u"box"_s);
   }
 
+  void aFilterThatSendsTheFocusAwayAndBackSetsOffNoLeaving() {
+    Bench bench;
+    QStringList log;
+    bench.screen.OnLeave(bench.box, [&] { log.append(u"leave"_s); });
+    bench.screen.OnEnter(bench.other, [&] { log.append(u"enter other"_s); });
+    bool back = true;
+    bench.screen.FilterKeys(bench.box, [&](int) {
+      bench.screen.SetFocusTo(bench.other);
+      if (back) bench.screen.SetFocusTo(bench.box);
+      log.append(u"filtered"_s);
+      return 0;
+    });
+    bench.driver->Click(u"box"_s);
+    bench.driver->Type(u"1"_s);
+    QCOMPARE(log, QStringList{u"filtered"_s});
+    // Where it leaves the focus elsewhere, the box is left once the filter is through.
+    back = false;
+    bench.driver->Type(u"1"_s);
+    QCOMPARE(log, (QStringList{u"filtered"_s, u"filtered"_s, u"leave"_s, u"enter other"_s}));
+  }
+
   void aFilterThatFailsTellsTheHostAndLetsNothingThrough() {
     Bench bench;
     bench.screen.FilterKeys(bench.box, [](int) -> int { throw RuntimeError(ErrorNumber::Overflow, u"box"_s); });
