@@ -19,7 +19,6 @@ class ListCombo;
 class PrinterRoutines;
 class QAction;
 class QCheckBox;
-class QDateEdit;
 class QLabel;
 class QPlainTextEdit;
 class QRadioButton;
@@ -109,6 +108,7 @@ class frmInvoice final : public Screen {
   // Head and setup view.
   void WireHeader();
   void WireNumber();
+  void WireDates();
   void ArrangeAddressBoxes();
   void LoadTemplateList();
 

@@ -1,6 +1,7 @@
 // The head of the invoice and its setup view: number, dates, reference, ship-to, templates.
 #include <QGridLayout>
 
+#include "desktop/DateBox.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
 #include "invoice/InvoiceNumber.h"
@@ -14,16 +15,7 @@ using namespace Qt::StringLiterals;
 
 void frmInvoice::WireHeader() {
   WireNumber();
-  // Half a typed date is no date yet.
-  ui->DTPicker1->setKeyboardTracking(false);
-  ui->DTShip->setKeyboardTracking(false);
-  On(ui->DTPicker1, &QDateEdit::dateChanged, [this](QDate date) {
-    if (m_showing) return;
-    Do([this, date] { PickServiceDate(m_invoice, date, m_desk.Today, m_desk.Boxes); });
-  });
-  On(ui->DTShip, &QDateEdit::dateChanged, [this](QDate date) {
-    if (!m_showing) m_invoice.DTShip = date;
-  });
+  WireDates();
   Click(ui->cmdResetDate, [this] { ResetServiceDate(m_invoice); });
   Leave(ui->txtReference, [this] { FillReference(m_invoice, m_desk.Today); });
   const ControlArray<QLineEdit, 7> txtShipto(this, u"txtShipto"_s);
@@ -34,6 +26,17 @@ void frmInvoice::WireHeader() {
   }
   Click(ui->cmdShipToAddress_0, [this] { CopySoldToIntoShipTo(m_invoice); });
   Click(ui->cmdShipToAddress_1, [this] { ClearShipTo(m_invoice); });
+}
+
+void frmInvoice::WireDates() {
+  ui->DTPicker1->Change = [this] {
+    Do([this] { PickServiceDate(m_invoice, ui->DTPicker1->date(), m_desk.Today, m_desk.Boxes); });
+  };
+  ui->DTShip->Change = [this] { m_invoice.DTShip = ui->DTShip->date(); };
+  m_shown.emplace_back([this] {
+    if (m_invoice.DTPicker1.isValid()) ui->DTPicker1->ShowDate(m_invoice.DTPicker1);
+    if (m_invoice.DTShip.isValid()) ui->DTShip->ShowDate(m_invoice.DTShip);
+  });
 }
 
 void frmInvoice::WireNumber() {

@@ -72,11 +72,6 @@ void frmInvoice::BindHeader() {
   for (int i = 0; i < 12; ++i) Bind(lblCustomer[i], m_invoice.lblCustomer[static_cast<size_t>(i)]);
   const ControlArray<QLineEdit, 7> txtShipto(this, u"txtShipto"_s);
   for (int i = 0; i < 7; ++i) Bind(txtShipto[i], m_invoice.txtShipto[static_cast<size_t>(i)]);
-  for (const auto& [box, value] : {std::pair(ui->DTPicker1, &m_invoice.DTPicker1), {ui->DTShip, &m_invoice.DTShip}}) {
-    m_shown.emplace_back([box = box, value = value] {
-      if (value->isValid() && box->date() != *value) box->setDate(*value);
-    });
-  }
   Bind(ui->ckShipto, m_invoice.ckShipto);
   Bind(ui->txtMemo, m_invoice.txtMemo);
   Bind(ui->ckAddMemo, m_invoice.ckAddMemo);

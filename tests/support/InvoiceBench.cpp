@@ -1,13 +1,42 @@
 #include "support/InvoiceBench.h"
 
-#include <QTableView>
+#include <QtEndian>
+#include <QtTest>
+#include <QtWidgets>
+
+#include "desktop/Style.h"
+#include "invoice/frmInvoice.h"
+#include "invoice/InvoiceHeaderData.h"
+#include "invoice/InvoiceMemo.h"
+#include "invoice/InvoiceTerms.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray Text(const QByteArray& text, int width) {
-  return text.leftJustified(width, ' ', true);
+QString NameOf(ScreenName screen) {
+  switch (screen) {
+    case ScreenName::frmInvoice:
+      return u"frmInvoice"_s;
+    case ScreenName::frmStartup:
+      return u"frmStartup"_s;
+    default:
+      return u"another"_s;
+  }
+}
+
+QByteArray Service(const QByteArray& name, const QByteArray& charge) {
+  return Field(name, 60) + Field(charge, 10) + Bytes16(4);
+}
+
+QByteArray Item(const QByteArray& name, const QByteArray& category, qint64 price, int onHand, qint64 breakPrice,
+                int breakUnits) {
+  return Field(name, 50) + Field(category, 20) + Bytes64(0) + Bytes64(price) + Bytes16(onHand) + Bytes64(breakPrice) +
+         Bytes32(breakUnits) + Bytes16(0) + Bytes16(0);
+}
+
+QByteArray Custom(const QByteArray& name, qint64 price, qint64 breakPrice, int breakUnits) {
+  return Field(name, 50) + Bytes64(price) + Bytes64(breakPrice) + Bytes32(breakUnits);
 }
 
 template <typename Number>
@@ -17,24 +46,47 @@ QByteArray Little(Number value) {
   return bytes;
 }
 
-QByteArray Service(const QByteArray& name, const QByteArray& charge) {
-  return Text(name, 60) + Text(charge, 10) + Little<qint16>(4);
-}
-
-/// Amounts in ten-thousandths.
-QByteArray Item(const QByteArray& name, const QByteArray& category, qint64 price, qint16 onHand, qint64 breakPrice,
-                qint32 breakUnits) {
-  return Text(name, 50) + Text(category, 20) + Little<qint64>(0) + Little<qint64>(price) + Little<qint16>(onHand) +
-         Little<qint64>(breakPrice) + Little<qint32>(breakUnits) + Little<qint16>(0) + Little<qint16>(0);
-}
-
-QByteArray Custom(const QByteArray& name, qint64 price, qint64 breakPrice, qint32 breakUnits) {
-  return Text(name, 50) + Little<qint64>(price) + Little<qint64>(breakPrice) + Little<qint32>(breakUnits);
-}
-
 }  // namespace
 
-InvoiceBench::InvoiceBench() {
+QByteArray Field(const QByteArray& text, int width) {
+  return text.leftJustified(width, ' ', true);
+}
+QByteArray Bytes16(int number) {
+  return Little(static_cast<qint16>(number));
+}
+QByteArray Bytes32(int number) {
+  return Little(static_cast<qint32>(number));
+}
+QByteArray Bytes64(qint64 number) {
+  return Little(number);
+}
+
+void NotingProgram::Show(ScreenName screen) {
+  Asked << u"show "_s + NameOf(screen);
+}
+
+void NotingProgram::Hide(ScreenName screen) {
+  Asked << u"hide "_s + NameOf(screen);
+  if (screen == ScreenName::frmInvoice && Invoice != nullptr) Invoice->hide();
+}
+
+void NotingProgram::UnhandledError(const RuntimeError& error) {
+  Errors << error.Number();
+  Subjects << error.Subject();
+}
+
+InvoiceBench::InvoiceBench()
+    : Store(Device),
+      Disk(Store, Tree.Root(), u"KarvexInvoicer"_s),
+      Prices(Disk, Lists, SalesItems),
+      m_routines(Paper, Live.Print),
+      m_pages(m_routines, Disk, Dialogs, Calendar, {Live.Business, Live.Print, Live.Tax}) {
+  ApplyStyle(*qApp);
+  for (const auto& folder : {u"/Backup"_s, u"/CompletedInvoices"_s, u"/KVActiveAccounts"_s, u"/KarvexInvoicer"_s,
+                             u"/KarvexInvoicer/IncompleteInvoices"_s, u"/KarvexInvoicer/Narratives"_s,
+                             u"/KarvexInvoicer/Templates"_s, u"/KarvexInvoicer/Templates/Invoices"_s}) {
+    Tree.MakeFolder(folder);
+  }
   Tree.Write(u"/Services.txt"_s, Service("Cleaning", "$40.00") + Service("Repair", "$80.00"));
   Tree.Write(u"/KVInventoriedItems.txt"_s, Item("Hammer", "Hardware", 120000, 10, 100000, 5) +
                                                Item("Nails", "Hardware", 50000, 3, 40000, 0) +
@@ -43,14 +95,38 @@ InvoiceBench::InvoiceBench() {
   Tree.Write(u"/Labor.txt"_s, "\"General Labor\",\"$45.00\"\r\n\"Night Labor\",\"$90.00\"\r\n\"\",\"$0.00\"\r\n");
 }
 
+InvoiceBench::~InvoiceBench() = default;
+
 void InvoiceBench::Open() {
-  if (!StartAtMenu()) return;
+  LoadSetup(
+      Disk, Live, [](const QByteArray&) { return false; },
+      [this] {
+        LoadInvoiceLists(Live.Invoicer);
+        LoadShipVia(Invoice, Disk);
+        LoadInvoiceMemo(Invoice, Disk);
+      });
+  LoadSalesItems(SalesItems, Disk);
+  Prices.Load();
+  m_screen = std::make_unique<frmInvoice>(
+      Around, InvoiceDesk{Invoice, Prices, Lists, Live, Disk, Dialogs, Calendar, Around, OnScreen, SalesItems,
+                          m_routines, m_pages, [this] { return SelectedPartial; }, [this] { ++PartialReloads; }});
+  Around.Invoice = m_screen.get();
+  Reopen();
+}
+
+void InvoiceBench::Reopen() {
   SoldTo customer;
   customer.Acct = Customer[0];
   for (int i = 0; i < 7; ++i) customer.Line[static_cast<size_t>(i)] = Customer[i + 1];
-  Running().Hide(ScreenName::frmStartup);
-  Running().StartInvoiceFor(customer);
-  m_screen = std::make_unique<ScreenDriver>(u"frmInvoice"_s);
+  TakeSoldTo(Invoice, customer);
+  OnScreen.txtCustomer0 = Customer[0];
+  OnScreen.txtCustomer1 = Customer[1];
+  m_screen->hide();
+  m_screen->Activate();
+  m_screen->show();
+  m_screen->activateWindow();
+  ScreenDriver::ProcessEvents();
+  m_driver = std::make_unique<ScreenDriver>(m_screen.get());
 }
 
 void InvoiceBench::OpenAtLines() {
@@ -58,15 +134,15 @@ void InvoiceBench::OpenAtLines() {
   On().Click(u"cmdInvoice_0"_s);
 }
 
-QString InvoiceBench::Cell(int row, int col) const {
+QStringList InvoiceBench::Row(int row) const {
   const auto* model = On().Control<QTableView>(u"fgInvoice"_s)->model();
-  return model->index(row - 1, col).data().toString();
+  QStringList cells;
+  for (int col = 0; col < 6; ++col) cells.append(model->index(row - 1, col).data().toString());
+  return cells;
 }
 
-QStringList InvoiceBench::Row(int row) const {
-  QStringList cells;
-  for (int col = 0; col < 6; ++col) cells.append(Cell(row, col));
-  return cells;
+bool InvoiceBench::Ticked(const QString& name) const {
+  return On().Control<QAbstractButton>(name)->isChecked();
 }
 
 void InvoiceBench::PostManual(const QString& description, const QString& quantity, const QString& price) {

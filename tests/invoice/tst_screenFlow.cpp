@@ -1,0 +1,369 @@
+// The road through the invoice screen: what it opens with, Continue, Ready to Print, and the ways out.
+
+#include <QtWidgets>
+
+#include "support/InvoiceBench.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// As the partial list leaves an invoice that it hands over.
+void Recall(InvoiceBench& bench) {
+  bench.Invoice.RecalledInvoice = true;
+  bench.Invoice.InvoiceDate = QDate(2026, 2, 3);
+  bench.Invoice.txtInvoiceNo = u"20260009"_s;
+  bench.Invoice.txtReference = u"PO 77"_s;
+  bench.Invoice.lblAcct = bench.Invoice.lblAcctNo = u"2002"_s;
+  for (size_t i : {size_t{0}, size_t{6}}) bench.Invoice.lblCustomer[i] = u"Kept Ltd"_s;
+  const QStringList cells{u"2"_s, u"Hammer"_s, u"2/3/2026"_s, u"$12.00"_s, u"$24.00"_s, u"True"_s};
+  for (int col = 0; col < 6; ++col) bench.Invoice.fgInvoice.SetText(1, col, cells[col]);
+  bench.Invoice.LineCount = 1;
+}
+
+}  // namespace
+
+class ScreenFlow : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void aNewInvoiceOpensInItsSetupView();
+  void aRecalledInvoiceOpensToBeAddedTo();
+  void aRecalledInvoiceKeepsItsReferenceAndCustomer();
+  void aNewInvoiceAfterARecalledOneUnlocksTheNumber();
+  void openingAgainClearsTheInvoiceBefore();
+  void templatesShowWhereTheFolderHoldsAny();
+  void continueGoesToTheLines();
+  void continueWithoutANumberShowsBothMessagesAndStaysAtTheNumber();
+  void continueFillsAnEmptyReferenceAndKeepsATypedOne();
+  void readyToPrintIsEnabledByTheFirstPostNotByContinue();
+  void continueOfAnInvoiceWithLinesEnablesReadyToPrint();
+  void readyToPrintAsksForThePaperOfSetup();
+  void readyToPrintTotalsTheLines();
+  void redoEmptiesTheInvoiceAndLeavesThePrintReadyView();
+  void menuReadsTheSettingsAgainAndLeaves();
+  void exitDropsTheInvoice();
+  void menuAlwaysRunsThoughTheBoxThatWasLeftIsRefused();
+  void theUsersCloseBoxEndsTheProgram();
+  void theInternationalStyleHasNoState();
+  void theTaxRowsBearTheHeadingsOfSetup_data();
+  void theTaxRowsBearTheHeadingsOfSetup();
+  void theSecondTaxShowsAndIsTickedAsSetupSays();
+  void aFinalizedInvoiceThatIsOpenedAnewMustBeFinalizedAgain();
+};
+
+void ScreenFlow::aNewInvoiceOpensInItsSetupView() {
+  InvoiceBench bench;
+  bench.Open();
+  QVERIFY(bench.On().IsVisible(u"fraSetup"_s));
+  QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"20260001"_s);
+  QCOMPARE(bench.Text(u"cmdInvoice_0"_s), u"Continue......"_s);
+  QCOMPARE(bench.On().Control(u"cmdInvoice_0"_s)->toolTip(), u"Create this Invoice"_s);
+  QVERIFY(bench.On().IsEnabled(u"cmdInvoice_2"_s));
+  QVERIFY(bench.On().IsVisible(u"lblInvoiceNo"_s));
+  QVERIFY(!bench.On().Control<QLineEdit>(u"txtInvoiceNo"_s)->isReadOnly());
+  QCOMPARE(bench.On().Control<QDateEdit>(u"DTPicker1"_s)->date(), QDate(2026, 3, 7));
+  QCOMPARE(bench.On().Control<QDateEdit>(u"DTShip"_s)->date(), QDate(2026, 3, 7));
+  QVERIFY(!bench.On().IsEnabled(u"cmdPrint"_s));
+  QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+  QVERIFY(!bench.On().IsEnabled(u"cmdTemplate_2"_s));
+  QVERIFY(!bench.On().IsEnabled(u"UpDown1_up"_s));
+  const QStringList block{u"Acme Tools"_s, u"1 Main Street"_s, QString(), u"Springfield"_s, u"IL"_s, u"62701"_s};
+  for (int i = 0; i < 6; ++i) {
+    QCOMPARE(bench.Text(u"lblCustomer_%1"_s.arg(i)), block[i]);
+    QCOMPARE(bench.Text(u"lblCustomer_%1"_s.arg(i + 6)), block[i]);
+  }
+  QCOMPARE(bench.Text(u"lblAcct"_s), u"1001"_s);
+  QCOMPARE(bench.Text(u"lblAcctNo"_s), u"1001"_s);
+  QCOMPARE(bench.On().FocusName(), u"txtShipto_6"_s);
+}
+
+void ScreenFlow::aRecalledInvoiceOpensToBeAddedTo() {
+  InvoiceBench bench;
+  bench.Tree.Write(u"/KarvexInvoicer/Templates/Invoices/Monthly.txt"_s, "");
+  bench.Open();
+  Recall(bench);
+  bench.Reopen();
+  QCOMPARE(bench.Text(u"cmdInvoice_0"_s), u"Add To......."_s);
+  QCOMPARE(bench.On().Control(u"cmdInvoice_0"_s)->toolTip(), u"Continues the Creation of this Invoice"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdInvoice_2"_s));
+  QVERIFY(!bench.On().IsVisible(u"lblInvoiceNo"_s));
+  QVERIFY(!bench.On().IsVisible(u"fraTemplates"_s));
+  QVERIFY(bench.On().Control<QLineEdit>(u"txtInvoiceNo"_s)->isReadOnly());
+  QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"20260009"_s);
+  QCOMPARE(bench.On().Control<QDateEdit>(u"DTPicker1"_s)->date(), QDate(2026, 2, 3));
+  QCOMPARE(bench.Row(1), (QStringList{u"2"_s, u"Hammer"_s, u"2/3/2026"_s, u"$12.00"_s, u"$24.00"_s, u"True"_s}));
+}
+
+void ScreenFlow::aRecalledInvoiceKeepsItsReferenceAndCustomer() {
+  InvoiceBench bench;
+  bench.Open();
+  Recall(bench);
+  bench.Reopen();
+  QCOMPARE(bench.Text(u"txtReference"_s), u"PO 77"_s);
+  QCOMPARE(bench.Text(u"lblAcct"_s), u"2002"_s);
+  QCOMPARE(bench.Text(u"lblCustomer_6"_s), u"Kept Ltd"_s);
+  bench.On().Click(u"cmdRedo"_s);
+  QCOMPARE(bench.Text(u"txtReference"_s), u"PO 77"_s);
+  QCOMPARE(bench.Row(1), QStringList(6, QString()));
+}
+
+void ScreenFlow::aNewInvoiceAfterARecalledOneUnlocksTheNumber() {
+  InvoiceBench bench;
+  bench.Open();
+  Recall(bench);
+  bench.Reopen();
+  bench.On().Click(u"cmdInvoice_1"_s);
+  QVERIFY(!bench.Invoice.RecalledInvoice);
+  bench.Reopen();
+  QVERIFY(!bench.On().Control<QLineEdit>(u"txtInvoiceNo"_s)->isReadOnly());
+  QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"20260001"_s);
+  QCOMPARE(bench.Text(u"txtReference"_s), QString());
+  QCOMPARE(bench.Text(u"lblCustomer_6"_s), u"Acme Tools"_s);
+}
+
+void ScreenFlow::openingAgainClearsTheInvoiceBefore() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.Finalize();
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$25.00"_s);
+  bench.Reopen();
+  QCOMPARE(bench.Row(1), QStringList(6, QString()));
+  for (const auto& box : {u"txtTotal"_s, u"txtTax"_s, u"txtTax2"_s, u"txtGrandTotal"_s, u"txtShip"_s, u"txtMisc"_s,
+                          u"txtDiscount"_s, u"txtFlatDiscount"_s}) {
+    QCOMPARE(bench.Text(box), u"$0.00"_s);
+  }
+  QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+}
+
+void ScreenFlow::templatesShowWhereTheFolderHoldsAny() {
+  InvoiceBench bench;
+  bench.Open();
+  QVERIFY(!bench.On().IsVisible(u"fraTemplates"_s));
+  bench.Tree.Write(u"/KarvexInvoicer/Templates/Invoices/Monthly.txt"_s, "");
+  bench.Reopen();
+  QVERIFY(bench.On().IsVisible(u"fraTemplates"_s));
+  const auto* list = bench.On().Control<QListWidget>(u"flstInvoiceTemplates"_s);
+  QCOMPARE(list->count(), 1);
+  QCOMPARE(list->item(0)->text(), u"Monthly.txt"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdTemplate_0"_s));
+  QVERIFY(!bench.On().IsEnabled(u"cmdTemplate_1"_s));
+}
+
+void ScreenFlow::continueGoesToTheLines() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QVERIFY(!bench.On().IsVisible(u"fraSetup"_s));
+  QVERIFY(bench.On().IsVisible(u"fraInstructions_1"_s));
+  QVERIFY(bench.On().IsEnabled(u"cmdTemplate_2"_s));
+}
+
+void ScreenFlow::continueWithoutANumberShowsBothMessagesAndStaysAtTheNumber() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Fill(u"txtInvoiceNo"_s, QString());
+  bench.Answers.Ok(u"Enter an Invoice Number"_s, u"Karvex Invoicer"_s);
+  bench.Answers.Ok(u"You have not entered an Invoice Number"_s, u"Karvex Invoicer"_s);
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QVERIFY(bench.Answers.AllUsed());
+  QVERIFY(!bench.On().IsVisible(u"fraSetup"_s));
+  QVERIFY(bench.On().IsVisible(u"fraInstructions_1"_s));
+  QCOMPARE(bench.On().FocusName(), u"txtInvoiceNo"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdTemplate_2"_s));
+  QCOMPARE(bench.Text(u"txtReference"_s), QString());
+}
+
+void ScreenFlow::continueFillsAnEmptyReferenceAndKeepsATypedOne() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QCOMPARE(bench.Text(u"txtReference"_s), u"Prepared 3/7/2026"_s);
+  bench.On().Trigger(u"mnuSetup"_s);
+  bench.On().Fill(u"txtReference"_s, u"PO 5"_s);
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QCOMPARE(bench.Text(u"txtReference"_s), u"PO 5"_s);
+}
+
+void ScreenFlow::readyToPrintIsEnabledByTheFirstPostNotByContinue() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  QVERIFY(bench.On().IsVisible(u"cmdPrint"_s));
+  QVERIFY(!bench.On().IsEnabled(u"cmdPrint"_s));
+  bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
+  QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
+}
+
+void ScreenFlow::continueOfAnInvoiceWithLinesEnablesReadyToPrint() {
+  InvoiceBench bench;
+  bench.Open();
+  Recall(bench);
+  bench.Reopen();
+  QVERIFY(!bench.On().IsEnabled(u"cmdPrint"_s));
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QVERIFY(bench.On().IsVisible(u"cmdPrint"_s));
+  QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
+}
+
+void ScreenFlow::readyToPrintAsksForThePaperOfSetup() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  QCOMPARE(bench.Text(u"fraPrintReady"_s), u"Insert Standard Paper"_s);
+  QVERIFY(!bench.On().IsVisible(u"Label2_6"_s));
+  bench.Live.Print.optReturn = true;
+  bench.On().Click(u"cmdPrint"_s);
+  QCOMPARE(bench.Text(u"fraPrintReady"_s), u"Insert Perforated Response Paper"_s);
+  QVERIFY(bench.On().IsVisible(u"Label2_6"_s));
+}
+
+void ScreenFlow::readyToPrintTotalsTheLines() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  QCOMPARE(bench.Text(u"txtTotal"_s), u"$20.00"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$0.00"_s);
+}
+
+void ScreenFlow::redoEmptiesTheInvoiceAndLeavesThePrintReadyView() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.Finalize();
+  bench.On().Click(u"cmdRedo"_s);
+  QVERIFY(!bench.On().IsVisible(u"fraPrintReady"_s));
+  QCOMPARE(bench.Row(1), QStringList(6, QString()));
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$0.00"_s);
+  QCOMPARE(bench.Text(u"txtReference"_s), QString());
+}
+
+void ScreenFlow::menuReadsTheSettingsAgainAndLeaves() {
+  InvoiceBench bench;
+  bench.Tree.Write(u"/KarvexInvoicerSettings.txt"_s, "1,0,0,0,0,\"1.5\",\"20\",#TRUE#,#FALSE#,\"$0.00\",\"$0.00\"\r\n");
+  bench.OpenAtLines();
+  QCOMPARE(bench.Text(u"cboDiscount"_s), u"1.5"_s);
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_2"_s);
+  QCOMPARE(bench.Live.Invoicer.cboDiscount, u"1.0"_s);
+  bench.On().Click(u"cmdInvoice_1"_s);
+  QCOMPARE(bench.Live.Invoicer.cboDiscount, u"1.5"_s);
+  QCOMPARE(bench.Live.Invoicer.cboDays, u"20"_s);
+  QCOMPARE(bench.Around.Asked, (QStringList{u"hide frmInvoice"_s, u"show frmStartup"_s}));
+  // The lines stay until the next invoice begins.
+  QCOMPARE(bench.Invoice.LineCount, 1);
+}
+
+void ScreenFlow::exitDropsTheInvoice() {
+  InvoiceBench bench;
+  bench.Open();
+  Recall(bench);
+  bench.Reopen();
+  bench.On().Click(u"cmdExit"_s);
+  QCOMPARE(bench.Around.Asked, (QStringList{u"hide frmInvoice"_s, u"show frmStartup"_s}));
+  QVERIFY(!bench.Invoice.RecalledInvoice);
+  QCOMPARE(bench.Invoice.LineCount, 0);
+  QCOMPARE(bench.Invoice.txtInvoiceNo, QString());
+  QCOMPARE(bench.Invoice.fgInvoice.Text(1, 1), QString());
+  // The number is offered again.
+  QCOMPARE(bench.Tree.Bytes(u"/KVInvoiceNo.txt"_s), "20260001\r\n");
+}
+
+void ScreenFlow::menuAlwaysRunsThoughTheBoxThatWasLeftIsRefused() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.On().Fill(u"txtShip"_s, u"abc"_s);
+  bench.On().Click(u"cmdInvoice_1"_s);
+  QCOMPARE(bench.Dialogs.Beeps, 1);
+  QCOMPARE(bench.Around.Asked, (QStringList{u"hide frmInvoice"_s, u"show frmStartup"_s}));
+}
+
+void ScreenFlow::theUsersCloseBoxEndsTheProgram() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().CloseByUser();
+  QCOMPARE(bench.Around.Asked, QStringList{u"quit"_s});
+}
+
+void ScreenFlow::theInternationalStyleHasNoState() {
+  InvoiceBench bench;
+  bench.Tree.Write(u"/MyBusinessData.txt"_s, "\"Grove\",\"12 Road\",\"\",\"Town\",\"\",\"\",\"555\",\"\",\"\"\r\n");
+  bench.Open();
+  const QWidget* postal = bench.On().Control(u"txtShipto_5"_s);
+  for (const auto& name : {u"lblCustomer_4"_s, u"lblCustomer_10"_s, u"txtShipto_4"_s}) {
+    QVERIFY2(!bench.On().IsVisible(name), qPrintable(name));
+  }
+  QCOMPARE(postal->width(), bench.On().Control(u"txtShipto_0"_s)->width());
+  bench.Live.Business.AddressStyleCaption = u"USA Style Address"_s;
+  bench.Reopen();
+  for (const auto& name : {u"lblCustomer_4"_s, u"lblCustomer_10"_s, u"txtShipto_4"_s}) {
+    QVERIFY2(bench.On().IsVisible(name), qPrintable(name));
+  }
+  QVERIFY(postal->width() < bench.On().Control(u"txtShipto_0"_s)->width());
+}
+
+void ScreenFlow::theTaxRowsBearTheHeadingsOfSetup_data() {
+  QTest::addColumn<bool>("second");
+  QTest::addColumn<bool>("graduated");
+  QTest::addColumn<QString>("heading");
+  QTest::newRow("one tax") << false << false << QString();
+  QTest::newRow("two taxes") << true << false << u"County Tax"_s;
+  QTest::newRow("graduated") << false << true << u"Tax Surcharge"_s;
+  QTest::newRow("graduated, two taxes") << true << true << u"Tax Surcharge"_s;
+}
+
+void ScreenFlow::theTaxRowsBearTheHeadingsOfSetup() {
+  QFETCH(bool, second);
+  QFETCH(bool, graduated);
+  QFETCH(QString, heading);
+  InvoiceBench bench;
+  bench.Tree.Write(u"/TaxSettings.txt"_s, "\"Sales Tax\",\"County Tax\",\"6.0\",\"1.0\",1,0\r\n");
+  bench.Open();
+  bench.Live.Tax.ckApply2ndTax = second;
+  bench.Live.Tax.ckApplyGraduated = graduated;
+  bench.Reopen();
+  QCOMPARE(bench.Text(u"Label1_2"_s), u"Sales Tax"_s);
+  QCOMPARE(bench.Text(u"Label1_0"_s), heading);
+}
+
+void ScreenFlow::theSecondTaxShowsAndIsTickedAsSetupSays() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.On().Trigger(u"mnuPrint"_s);
+  QVERIFY(!bench.On().IsVisible(u"ck2ndTax"_s));
+  QVERIFY(!bench.Ticked(u"ck2ndTax"_s));
+  bench.Live.Tax.ckApply2ndTax = true;
+  bench.Reopen();
+  bench.On().Trigger(u"mnuPrint"_s);
+  QVERIFY(bench.On().IsVisible(u"ck2ndTax"_s));
+  QVERIFY(bench.Ticked(u"ck2ndTax"_s));
+  // Unticked for one invoice, it is ticked again for the next.
+  bench.On().Click(u"ck2ndTax"_s);
+  QVERIFY(!bench.Invoice.ck2ndTax);
+  bench.On().Click(u"cmdRedo"_s);
+  QVERIFY(bench.Invoice.ck2ndTax);
+}
+
+void ScreenFlow::aFinalizedInvoiceThatIsOpenedAnewMustBeFinalizedAgain() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.Finalize();
+  QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+  // Posting after Finalize leaves it enabled.
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+  bench.Reopen();
+  QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+}
+
+QTEST_MAIN(ScreenFlow)
+#include "tst_screenFlow.moc"
