@@ -1,0 +1,125 @@
+// What holds for every screen of the family: it fits, it is named, and it can be used without a mouse.
+#include <QAccessible>
+
+#include "support/ProgramFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const std::initializer_list<std::pair<ScreenName, const char*>> AllScreens{
+    {ScreenName::frmSplash, "frmSplash"},
+    {ScreenName::frmStartup, "frmStartup"},
+    {ScreenName::frmSetup, "frmSetup"},
+    {ScreenName::frmServices, "frmServices"},
+    {ScreenName::frmNewCustomer, "frmNewCustomer"},
+    {ScreenName::frmInvoice, "frmInvoice"}};
+
+bool IsOwnControl(const QWidget* widget) {
+  const QString name = widget->objectName();
+  const bool takesFocus = (widget->focusPolicy() & Qt::TabFocus) != 0;
+  return takesFocus && !name.isEmpty() && !name.startsWith("qt_"_L1) && !name.startsWith(u'_');
+}
+
+QString AccessibleName(QWidget* widget) {
+  QAccessibleInterface* access = QAccessible::queryAccessibleInterface(widget);
+  return access != nullptr ? access->text(QAccessible::Name) : QString();
+}
+
+/// A button that only stands for a menu's entry is reached through the menu.
+bool IsMenuEntry(const QAbstractButton* button) {
+  const auto* tool = qobject_cast<const QToolButton*>(button);
+  if (tool == nullptr || tool->defaultAction() == nullptr) return false;
+  const QObjectList places = tool->defaultAction()->associatedObjects();
+  return std::any_of(places.begin(), places.end(),
+                     [](const QObject* place) { return qobject_cast<const QMenu*>(place) != nullptr; });
+}
+
+}  // namespace
+
+class Family : public QObject {
+  Q_OBJECT
+
+ private:
+  static void Rows() {
+    QTest::addColumn<ScreenName>("screen");
+    for (const auto& [screen, name] : AllScreens) QTest::newRow(name) << screen;
+  }
+  /// The screen of the row, shown by the program.
+  static QWidget* Open(ProgramFixture& program, ScreenName screen) {
+    // Without customers their screen says so at its first showing.
+    if (screen == ScreenName::frmNewCustomer) program.Answers.Ok();
+    if (screen == ScreenName::frmSplash) {
+      program.Start();
+    } else {
+      program.StartAtMenu();
+      program.Running().Show(screen);
+    }
+    return program.Built(screen);
+  }
+
+ private Q_SLOTS:
+  void itIsUsableFrom1024By700_data() { Rows(); }
+  void itIsUsableFrom1024By700() {
+    QFETCH(ScreenName, screen);
+    ProgramFixture program;
+    QWidget* window = Open(program, screen);
+    QVERIFY(window != nullptr);
+    // The window's frame takes some of it.
+    const QSize needed = window->minimumSizeHint().expandedTo(window->minimumSize());
+    QVERIFY2(needed.width() <= 1016 && needed.height() <= 664,
+             qPrintable(u"%1 x %2"_s.arg(needed.width()).arg(needed.height())));
+    QCOMPARE(window->size(), QSize(1180, 760));
+  }
+
+  void everyControlHasAnAccessibleName_data() { Rows(); }
+  void everyControlHasAnAccessibleName() {
+    QFETCH(ScreenName, screen);
+    ProgramFixture program;
+    QWidget* window = Open(program, screen);
+    QStringList nameless;
+    for (QWidget* control : window->findChildren<QWidget*>()) {
+      if (IsOwnControl(control) && AccessibleName(control).isEmpty()) nameless.append(control->objectName());
+    }
+    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(u", "_s)));
+    QVERIFY(!window->windowTitle().isEmpty());
+  }
+
+  void noTwoVisibleButtonsShareAnAccessKey_data() { Rows(); }
+  void noTwoVisibleButtonsShareAnAccessKey() {
+    QFETCH(ScreenName, screen);
+    ProgramFixture program;
+    QWidget* window = Open(program, screen);
+    QMap<QString, QString> owners;
+    for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+      const QString key = button->shortcut().toString();
+      if (!button->isVisible() || key.isEmpty()) continue;
+      QVERIFY2(!owners.contains(key), qPrintable(u"%1: %2 and %3"_s.arg(key, owners.value(key), button->objectName())));
+      owners.insert(key, button->objectName());
+    }
+  }
+
+  void everyEnabledControlInSightIsReachedByTheTabKeyOrItsAccessKey_data() { Rows(); }
+  void everyEnabledControlInSightIsReachedByTheTabKeyOrItsAccessKey() {
+    QFETCH(ScreenName, screen);
+    ProgramFixture program;
+    QWidget* window = Open(program, screen);
+    QSet<QWidget*> reached;
+    QWidget* next = window;
+    do {
+      next = next->nextInFocusChain();
+      reached.insert(next);
+    } while (next != window);
+    QStringList missed;
+    for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+      const QString name = button->objectName();
+      if (!button->isVisible() || name.isEmpty() || name.startsWith("qt_"_L1) || IsMenuEntry(button)) continue;
+      const bool byTab = (button->focusPolicy() & Qt::TabFocus) != 0 && reached.contains(button);
+      if (!byTab && button->shortcut().isEmpty()) missed.append(name);
+    }
+    QVERIFY2(missed.isEmpty(), qPrintable(missed.join(u", "_s)));
+  }
+};
+
+QTEST_MAIN(Family)
+#include "tst_family.moc"
