@@ -1,14 +1,15 @@
 #include "invoice/frmInvoice.h"
 
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QScopeGuard>
-#include <QShortcut>
 
 #include "catalogue/Catalogue.h"
 #include "desktop/ListCombo.h"
 #include "invoice/ChargeBoxes.h"
 #include "invoice/InvoiceMemo.h"
 #include "invoice/WorkingInvoice.h"
+#include "shell/VerifyDataRoutines.h"
 #include "ui_frmInvoice.h"
 
 using namespace Qt::StringLiterals;
@@ -75,6 +76,21 @@ void frmInvoice::Enter(QWidget* box, const std::function<void()>& handler) {
 
 void frmInvoice::Leave(QWidget* box, const std::function<void()>& handler) {
   OnLeave(box, Doing(handler));
+}
+
+void frmInvoice::EnterRuns(QLineEdit* box, QAbstractButton* button) {
+  On(box, &QLineEdit::returnPressed, [button] {
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    if (button->isVisible()) QCoreApplication::sendEvent(button, &enter);
+  });
+}
+
+void frmInvoice::FilterNumber(QLineEdit* box, QAbstractButton* onEnter) {
+  EnterRuns(box, onEnter);
+  FilterKeys(box, [box](int key) {
+    constexpr int enter = 13;
+    return key == enter ? key : VerifyDecimalKey(key, box->text());
+  });
 }
 
 bool frmInvoice::eventFilter(QObject* watched, QEvent* event) {

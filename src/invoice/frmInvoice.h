@@ -69,6 +69,9 @@ class frmInvoice final : public Screen {
              WhenLeaveRefused rule = WhenLeaveRefused::Always);
   void Enter(QWidget* box, const std::function<void()>& handler);
   void Leave(QWidget* box, const std::function<void()>& handler);
+  /// Enter in a box does the obvious next thing: as Enter on the button would.
+  void EnterRuns(QLineEdit* box, QAbstractButton* button);
+  void FilterNumber(QLineEdit* box, QAbstractButton* onEnter);
   void Choose(QAction* entry, QToolButton* button, void (frmInvoice::*view)());
 
   frmInvoice* BuildForm();

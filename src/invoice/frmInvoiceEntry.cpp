@@ -23,6 +23,9 @@ void frmInvoice::WireLineEntry() {
     FillList(element);
     WireDescription(element);
   }
+  // A service needs no units: Enter on its description or price posts it.
+  EnterRuns(m_cboDescription[0]->lineEdit(), ui->cmdPost_0);
+  EnterRuns(m_cboPrice[0]->lineEdit(), ui->cmdPost_0);
   WireCategories();
   WireUnits();
   WireManual();
@@ -107,9 +110,8 @@ void frmInvoice::Pick() {
 void frmInvoice::WireUnits() {
   Enter(ui->txtUnits, [this] { EnterCountBox(m_invoice.Entry.txtUnits); });
   Enter(ui->txtCUnits, [this] { EnterCountBox(m_invoice.Entry.txtCUnits); });
-  for (QLineEdit* box : {ui->txtUnits, ui->txtCUnits}) {
-    FilterKeys(box, [box](int key) { return VerifyDecimalKey(key, box->text()); });
-  }
+  FilterNumber(ui->txtUnits, ui->cmdPost_1);
+  FilterNumber(ui->txtCUnits, ui->cmdPost_3);
   Leave(ui->txtUnits, [this] { LeaveUnits(m_invoice, m_desk.Boxes); });
 }
 

@@ -4,7 +4,6 @@
 #include "invoice/LaborEntry.h"
 #include "invoice/WorkingInvoice.h"
 #include "setup/LiveSettings.h"
-#include "shell/VerifyDataRoutines.h"
 #include "ui_frmInvoice.h"
 
 using namespace Qt::StringLiterals;
@@ -14,7 +13,7 @@ void frmInvoice::WireLabor() {
   for (int slot = 0; slot < txtHours.Size(); ++slot) {
     QLineEdit* box = txtHours[slot];
     Enter(box, [this, slot] { EnterCountBox(m_invoice.Entry.txtHours[static_cast<size_t>(slot)]); });
-    FilterKeys(box, [box](int key) { return VerifyDecimalKey(key, box->text()); });
+    FilterNumber(box, ui->cmdLabor_0);
     Leave(box, [this, slot] { LeaveHours(m_invoice, slot, m_desk.Boxes); });
   }
   Click(

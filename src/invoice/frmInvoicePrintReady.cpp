@@ -7,7 +7,6 @@
 #include "invoice/Totals.h"
 #include "invoice/WorkingInvoice.h"
 #include "setup/LiveSettings.h"
-#include "shell/VerifyDataRoutines.h"
 #include "ui_frmInvoice.h"
 
 using namespace Qt::StringLiterals;
@@ -58,7 +57,7 @@ void frmInvoice::WireTerms() {
   });
   QLineEdit* box = ui->txtFlatDiscount;
   Enter(box, [this] { EnterAmountBox(m_invoice.txtFlatDiscount); });
-  FilterKeys(box, [box](int key) { return VerifyDecimalKey(key, box->text()); });
+  FilterNumber(box, ui->cmdAddDiscount);
   Leave(box, [this] { LeaveFlatDiscount(m_invoice); });
   Click(
       ui->cmdAddDiscount, [this] { DeductDiscount(m_invoice, m_desk.Settings.Tax, m_desk.Boxes); },
@@ -70,6 +69,8 @@ void frmInvoice::WireCharges() {
   Enter(ui->txtMisc, [this] { EnterAmountBox(m_invoice.txtMisc); });
   Leave(ui->txtShip, [this] { LeaveShip(m_invoice, m_desk.Boxes); });
   Leave(ui->txtMisc, [this] { LeaveMisc(m_invoice, m_desk.Boxes); });
+  EnterRuns(ui->txtShip, m_cmdInvoice[9]);
+  EnterRuns(ui->txtMisc, m_cmdInvoice[9]);
   ui->txtShip->installEventFilter(this);
   ui->txtMisc->installEventFilter(this);
   Click(m_cmdInvoice[4], [this] { ResetMisc(m_invoice); });

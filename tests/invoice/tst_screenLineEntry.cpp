@@ -70,6 +70,8 @@ class ScreenLineEntry : public QObject {
   void clearLaborSetsEverythingBack();
   void laborOntoAFullGridIsTheGridsError();
   void theListsFollowTheCatalogue();
+  void enterInTheLastBoxPosts();
+  void enterInTheHoursCalculates();
 };
 
 void ScreenLineEntry::aServiceIsPostedWithItsPriceAndDate() {
@@ -619,6 +621,43 @@ void ScreenLineEntry::theListsFollowTheCatalogue() {
   QCOMPARE(bench.Text(u"cboPrice_0"_s), QString());
   bench.On().PickEntry(u"cboDescription_0"_s, 0);
   QCOMPARE(bench.Text(u"cboPrice_0"_s), u"$15.00"_s);
+}
+
+void ScreenLineEntry::enterInTheLastBoxPosts() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuItems"_s);
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().Type(u"2"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Row(1)[4], u"$24.00"_s);
+  bench.On().Trigger(u"mnuCItems"_s);
+  bench.On().PickEntry(u"cboDescription_2"_s, u"Sign"_s);
+  bench.On().Type(u"1"_s);
+  bench.On().PressKey(Qt::Key_Enter);
+  QCOMPARE(bench.Row(2)[4], u"$25.00"_s);
+  bench.On().Trigger(u"mnuServices"_s);
+  bench.On().Type(u"Repair"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Row(3)[4], u"$80.00"_s);
+  QCOMPARE(bench.Invoice.LineCount, 3);
+  // A box whose check takes the focus back posts nothing.
+  bench.On().Trigger(u"mnuItems"_s);
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().Type(u"."_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Dialogs.Beeps, 1);
+  QCOMPARE(bench.Invoice.LineCount, 3);
+}
+
+void ScreenLineEntry::enterInTheHoursCalculates() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.On().Type(u"2"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$180.00"_s);
+  QCOMPARE(bench.On().FocusName(), u"cmdLabor_1"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Row(1)[0], u"2 Hrs"_s);
 }
 
 QTEST_MAIN(ScreenLineEntry)

@@ -71,6 +71,8 @@ class ScreenTotals : public QObject {
   void finalizeIsDroppedWhenTheChargeIsRefused();
   void theLabelsOnTheDiscountsStandAsTold();
   void arrowKeysChooseAnOptionToo();
+  void enterInTheDiscountDeductsItAndInAChargeFinalizes();
+  void aBlankedChargePrintsNothing();
 };
 
 void ScreenTotals::finalizeShowsEverythingAndEnablesPrint() {
@@ -478,6 +480,37 @@ void ScreenTotals::arrowKeysChooseAnOptionToo() {
   bench.On().PressKey(Qt::Key_Right);
   QVERIFY(bench.Ticked(u"optDiscount_1"_s));
   QVERIFY(bench.On().IsVisible(u"fraFlat"_s));
+}
+
+void ScreenTotals::enterInTheDiscountDeductsItAndInAChargeFinalizes() {
+  InvoiceBench bench;
+  OpenReady(bench);
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_1"_s);
+  bench.On().Type(u"70"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"txtDiscount"_s), u"$70.00"_s);
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$1,005.00"_s);
+  QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+}
+
+void ScreenTotals::aBlankedChargePrintsNothing() {
+  InvoiceBench bench;
+  OpenReady(bench);
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().Click(u"txtInvoiceNo"_s);
+  bench.On().Fill(u"txtShip"_s, QString());
+  bench.On().Click(u"cmdInvoice_9"_s);
+  bench.Answers.Yes();
+  bench.On().Click(u"cmdInvoiceContinue"_s);
+  const QStringList words = bench.Paper.Words(1);
+  QVERIFY(words.contains(u"$1,075.00"_s));
+  QVERIFY(!words.contains(u"$5.00"_s));
+  // The image has the zero that an empty box becomes.
+  QVERIFY(bench.Tree.Bytes(u"/CompletedInvoices/20260001.txt"_s)
+              .endsWith("\"$1,000.00\",\"$60.00\",\"$10.00\",\"$1,075.00\",\"$0.00\",\"$0.00\",\"$0.00\"\r\n"));
 }
 
 QTEST_MAIN(ScreenTotals)

@@ -82,7 +82,7 @@ InvoiceBench::InvoiceBench()
       m_routines(Paper, Live.Print),
       m_pages(m_routines, Disk, Dialogs, Calendar, {Live.Business, Live.Print, Live.Tax}) {
   ApplyStyle(*qApp);
-  for (const auto& folder : {u"/Backup"_s, u"/CompletedInvoices"_s, u"/KVActiveAccounts"_s, u"/KarvexInvoicer"_s,
+  for (const auto& folder : {u"/Backup/KVActiveAccounts"_s, u"/CompletedInvoices"_s, u"/KVActiveAccounts"_s, u"/KarvexInvoicer"_s,
                              u"/KarvexInvoicer/IncompleteInvoices"_s, u"/KarvexInvoicer/Narratives"_s,
                              u"/KarvexInvoicer/Templates"_s, u"/KarvexInvoicer/Templates/Invoices"_s}) {
     Tree.MakeFolder(folder);
