@@ -51,27 +51,10 @@ class ScreenLineEntry : public QObject {
   void aPostOntoAFullGridIsTheGridsErrorAndPostsNothing();
   void postingAgainIsPossibleAfterADeletedLine();
   void unitsThatDoNotConvertFailAtPosting();
-  void typingCompletesTheDescription();
-  void typingAWholeNameSelectsIt();
-  void backspaceDoesNotComplete();
-  void changingTheDescriptionBlanksPriceAndUnits();
-  void aCompletedDescriptionCountsThoughItWasNotPicked();
-  void aCategoryNarrowsTheItemsUntilAll();
-  void aNarrowedListStaysNarrowedWhenTheFrameIsOpenedAgain();
-  void theBreakOfANarrowedListGoesWithIt();
   void countBoxesBlankAZeroAndFilterTheirKeys();
   void unitsThatAreNoNumberComeBackAsZero();
   void manualBoxesFilterTheirKeys();
-  void hoursAreChargedAndSummed();
-  void laborPostsALineForEachChargeAndOpensTheServices();
-  void laborWithoutServicesStaysOpen();
-  void hoursThatAreNoNumberComeBackAsZero();
-  void emptyHoursAreLeftAlone();
-  void clearLaborSetsEverythingBack();
-  void laborOntoAFullGridIsTheGridsError();
-  void theListsFollowTheCatalogue();
   void enterInTheLastBoxPosts();
-  void enterInTheHoursCalculates();
 };
 
 void ScreenLineEntry::aServiceIsPostedWithItsPriceAndDate() {
@@ -355,115 +338,6 @@ void ScreenLineEntry::unitsThatDoNotConvertFailAtPosting() {
   QCOMPARE(bench.Row(1), QStringList(6, QString()));
 }
 
-void ScreenLineEntry::typingCompletesTheDescription() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
-  bench.On().Type(u"ha"_s);
-  auto* line = bench.On().Control<QComboBox>(u"cboDescription_1"_s)->lineEdit();
-  QCOMPARE(line->text(), u"hammer"_s);
-  QCOMPARE(line->selectionStart(), 2);
-  QCOMPARE(line->selectedText(), u"mmer"_s);
-  bench.On().Type(u"x"_s);
-  QCOMPARE(line->text(), u"hax"_s);
-  QVERIFY(!line->hasSelectedText());
-}
-
-void ScreenLineEntry::typingAWholeNameSelectsIt() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
-  bench.On().Type(u"paint"_s);
-  QCOMPARE(bench.Text(u"cboDescription_1"_s), u"Paint"_s);
-  QCOMPARE(bench.Text(u"cboPrice_1"_s), u"$33.34"_s);
-  QCOMPARE(bench.On().FocusName(), u"txtUnits"_s);
-}
-
-void ScreenLineEntry::backspaceDoesNotComplete() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
-  bench.On().Type(u"re"_s);
-  QCOMPARE(bench.Text(u"cboDescription_0"_s), u"repair"_s);
-  bench.On().PressKey(Qt::Key_Backspace);
-  QCOMPARE(bench.Text(u"cboDescription_0"_s), u"re"_s);
-  bench.On().Click(u"cboPrice_0"_s);
-  QCOMPARE(bench.Text(u"cboDescription_0"_s), u"re"_s);
-}
-
-void ScreenLineEntry::changingTheDescriptionBlanksPriceAndUnits() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
-  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
-  bench.On().Type(u"4"_s);
-  bench.On().Fill(u"cboDescription_1"_s, u"z"_s);
-  QCOMPARE(bench.Text(u"cboPrice_1"_s), QString());
-  QCOMPARE(bench.Text(u"txtUnits"_s), QString());
-}
-
-void ScreenLineEntry::aCompletedDescriptionCountsThoughItWasNotPicked() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
-  bench.On().Type(u"Rep"_s);
-  bench.On().Fill(u"cboPrice_0"_s, u"70"_s);
-  QCOMPARE(bench.Text(u"cboDescription_0"_s), u"Repair"_s);
-  bench.On().Click(u"cmdPost_0"_s);
-  QCOMPARE(bench.Row(1)[1], u"Repair"_s);
-  QCOMPARE(bench.Row(1)[3], u"$70.00"_s);
-}
-
-void ScreenLineEntry::aCategoryNarrowsTheItemsUntilAll() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
-  auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);
-  QCOMPARE(categories->count(), 3);
-  QCOMPARE(categories->item(0)->text(), u"All"_s);
-  const auto pick = [&](int row) {
-    categories->setFocus();
-    categories->setCurrentRow(row);
-    bench.On().PressKey(Qt::Key_Return);
-  };
-  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
-  bench.On().Type(u"4"_s);
-  pick(2);
-  const auto* items = bench.On().Control<QComboBox>(u"cboDescription_1"_s);
-  QCOMPARE(items->count(), 1);
-  QCOMPARE(items->itemText(0), u"Paint"_s);
-  QCOMPARE(bench.Text(u"cboDescription_1"_s), QString());
-  QCOMPARE(bench.Text(u"cboPrice_1"_s), QString());
-  QCOMPARE(bench.Text(u"txtUnits"_s), QString());
-  QCOMPARE(bench.On().FocusName(), u"cboDescription_1"_s);
-  QCOMPARE(categories->currentRow(), 2);
-  pick(0);
-  QCOMPARE(items->count(), 3);
-  // By the mouse as well.
-  const QPoint colour = categories->visualItemRect(categories->item(2)).center();
-  QTest::mouseClick(categories->viewport(), Qt::LeftButton, Qt::NoModifier, colour);
-  QCOMPARE(items->count(), 1);
-}
-
-void ScreenLineEntry::aNarrowedListStaysNarrowedWhenTheFrameIsOpenedAgain() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
-  auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);
-  categories->setFocus();
-  categories->setCurrentRow(2);
-  bench.On().PressKey(Qt::Key_Space);
-  bench.On().Trigger(u"mnuItems"_s);
-  QCOMPARE(bench.On().Control<QComboBox>(u"cboDescription_1"_s)->count(), 1);
-}
-
-void ScreenLineEntry::theBreakOfANarrowedListGoesWithIt() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
-  bench.On().Click(u"ckApplyVolumeDiscount"_s);
-  auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);
-  categories->setFocus();
-  categories->setCurrentRow(2);
-  bench.On().PressKey(Qt::Key_Return);
-  bench.On().PickEntry(u"cboDescription_1"_s, u"Paint"_s);
-  bench.On().Type(u"10"_s);
-  bench.On().Click(u"cmdPost_1"_s);
-  QCOMPARE(bench.Row(1), (QStringList{u"10"_s, u"Paint"_s, QString(), u"$30.00"_s, u"$300.00"_s, u"True"_s}));
-}
-
 void ScreenLineEntry::countBoxesBlankAZeroAndFilterTheirKeys() {
   InvoiceBench bench;
   OpenAt(bench, u"mnuItems"_s);
@@ -517,112 +391,6 @@ void ScreenLineEntry::manualBoxesFilterTheirKeys() {
   QCOMPARE(bench.Invoice.LineCount, 0);
 }
 
-void ScreenLineEntry::hoursAreChargedAndSummed() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  bench.On().Type(u"2"_s);
-  bench.On().Fill(u"txtHours_0"_s, u"1.5"_s);
-  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$180.00"_s);
-  QVERIFY(!bench.On().IsEnabled(u"cmdLabor_1"_s));
-  bench.On().Click(u"cmdLabor_0"_s);
-  QCOMPARE(bench.Text(u"lblLaborCharge_0"_s), u"$67.50"_s);
-  QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$247.50"_s);
-  QVERIFY(bench.On().IsEnabled(u"cmdLabor_1"_s));
-  QCOMPARE(bench.On().FocusName(), u"cmdLabor_1"_s);
-}
-
-void ScreenLineEntry::laborPostsALineForEachChargeAndOpensTheServices() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  bench.Live.Tax.ckLabor = true;
-  bench.On().Type(u"2"_s);
-  bench.On().Fill(u"txtHours_0"_s, u"1.5"_s);
-  bench.On().Click(u"cmdLabor_0"_s);
-  bench.On().Click(u"cmdLabor_1"_s);
-  QCOMPARE(bench.Row(1),
-           (QStringList{u"1.5 Hrs"_s, u"General Labor"_s, QString(), u"$45.00"_s, u"$67.50"_s, u"True"_s}));
-  QCOMPARE(bench.Row(2), (QStringList{u"2 Hrs"_s, u"Night Labor"_s, QString(), u"$90.00"_s, u"$180.00"_s, u"True"_s}));
-  QCOMPARE(bench.Invoice.LineCount, 2);
-  QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
-  QVERIFY(!bench.Invoice.Controls.Enabled.cmdLabor_1);
-  QVERIFY(bench.On().IsVisible(u"fraServices"_s));
-  QVERIFY(!bench.On().IsVisible(u"fraLabor"_s));
-}
-
-void ScreenLineEntry::laborWithoutServicesStaysOpen() {
-  InvoiceBench bench;
-  bench.Tree.Remove(u"/Services.txt"_s);
-  OpenAt(bench, u"mnuLabor"_s);
-  bench.On().Type(u"1"_s);
-  bench.On().Click(u"cmdLabor_0"_s);
-  bench.On().Click(u"cmdLabor_1"_s);
-  QCOMPARE(bench.Invoice.LineCount, 1);
-  QVERIFY(bench.On().IsVisible(u"fraLabor"_s));
-  QVERIFY(!bench.On().IsEnabled(u"cmdLabor_1"_s));
-}
-
-void ScreenLineEntry::hoursThatAreNoNumberComeBackAsZero() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  bench.On().Type(u"."_s);
-  bench.On().Click(u"cmdLabor_0"_s);
-  QCOMPARE(bench.Dialogs.Beeps, 1);
-  QCOMPARE(bench.On().FocusName(), u"txtHours_1"_s);
-  QVERIFY(!bench.On().IsEnabled(u"cmdLabor_1"_s));
-}
-
-void ScreenLineEntry::emptyHoursAreLeftAlone() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  bench.On().Type(u"2"_s);
-  bench.On().Click(u"txtHours_0"_s);
-  bench.On().Fill(u"txtHours_1"_s, QString());
-  bench.On().Click(u"txtHours_0"_s);
-  QCOMPARE(bench.Text(u"txtHours_1"_s), QString());
-  // What was charged for it before stays.
-  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$180.00"_s);
-  QCOMPARE(bench.Dialogs.Beeps, 0);
-}
-
-void ScreenLineEntry::clearLaborSetsEverythingBack() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  bench.On().Type(u"2"_s);
-  bench.On().Click(u"cmdLabor_0"_s);
-  bench.On().Click(u"cmdLabor_2"_s);
-  QCOMPARE(bench.Text(u"txtHours_1"_s), u"0"_s);
-  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$0.00"_s);
-  QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$0.00"_s);
-  QCOMPARE(bench.Invoice.LaborAmount[1], Currency());
-}
-
-void ScreenLineEntry::laborOntoAFullGridIsTheGridsError() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  FillGrid(bench, 100);
-  bench.On().Type(u"2"_s);
-  bench.On().Click(u"cmdLabor_0"_s);
-  bench.On().Click(u"cmdLabor_1"_s);
-  QCOMPARE(bench.Around.Errors, QList<int>{9});
-  QCOMPARE(bench.Invoice.LineCount, 100);
-  QVERIFY(bench.On().IsVisible(u"fraLabor"_s));
-}
-
-void ScreenLineEntry::theListsFollowTheCatalogue() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
-  bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
-  bench.Tree.Write(u"/Services.txt"_s, Field("Polishing", 60) + Field("$15.00", 10) + Bytes16(1));
-  bench.Prices.LoadServices();
-  ScreenDriver::ProcessEvents();
-  const auto* list = bench.On().Control<QComboBox>(u"cboDescription_0"_s);
-  QCOMPARE(list->count(), 1);
-  QCOMPARE(list->currentText(), QString());
-  QCOMPARE(bench.Text(u"cboPrice_0"_s), QString());
-  bench.On().PickEntry(u"cboDescription_0"_s, 0);
-  QCOMPARE(bench.Text(u"cboPrice_0"_s), u"$15.00"_s);
-}
-
 void ScreenLineEntry::enterInTheLastBoxPosts() {
   InvoiceBench bench;
   OpenAt(bench, u"mnuItems"_s);
@@ -647,17 +415,6 @@ void ScreenLineEntry::enterInTheLastBoxPosts() {
   bench.On().PressKey(Qt::Key_Return);
   QCOMPARE(bench.Dialogs.Beeps, 1);
   QCOMPARE(bench.Invoice.LineCount, 3);
-}
-
-void ScreenLineEntry::enterInTheHoursCalculates() {
-  InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  bench.On().Type(u"2"_s);
-  bench.On().PressKey(Qt::Key_Return);
-  QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$180.00"_s);
-  QCOMPARE(bench.On().FocusName(), u"cmdLabor_1"_s);
-  bench.On().PressKey(Qt::Key_Return);
-  QCOMPARE(bench.Row(1)[0], u"2 Hrs"_s);
 }
 
 QTEST_MAIN(ScreenLineEntry)

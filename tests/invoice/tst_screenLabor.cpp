@@ -1,0 +1,146 @@
+// Labor on the invoice screen: hours, charges, and the lines posted from them.
+
+#include <QtWidgets>
+
+#include "support/InvoiceBench.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void FillGrid(InvoiceBench& bench, int lines) {
+  for (int row = 1; row <= lines; ++row) {
+    bench.Invoice.fgInvoice.SetText(row, 0, u"1"_s);
+    bench.Invoice.fgInvoice.SetText(row, 1, u"Crate"_s);
+    bench.Invoice.fgInvoice.SetText(row, 3, u"$1.00"_s);
+    bench.Invoice.fgInvoice.SetText(row, 4, u"$1.00"_s);
+    bench.Invoice.fgInvoice.SetText(row, 5, u"False"_s);
+  }
+  bench.Invoice.LineCount = static_cast<qint16>(lines);
+}
+
+void OpenAt(InvoiceBench& bench, const QString& entry) {
+  bench.OpenAtLines();
+  bench.On().Trigger(entry);
+}
+
+}  // namespace
+
+class ScreenLabor : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void hoursAreChargedAndSummed();
+  void laborPostsALineForEachChargeAndOpensTheServices();
+  void laborWithoutServicesStaysOpen();
+  void hoursThatAreNoNumberComeBackAsZero();
+  void emptyHoursAreLeftAlone();
+  void clearLaborSetsEverythingBack();
+  void laborOntoAFullGridIsTheGridsError();
+  void enterInTheHoursCalculates();
+};
+
+void ScreenLabor::hoursAreChargedAndSummed() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.On().Type(u"2"_s);
+  bench.On().Fill(u"txtHours_0"_s, u"1.5"_s);
+  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$180.00"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdLabor_1"_s));
+  bench.On().Click(u"cmdLabor_0"_s);
+  QCOMPARE(bench.Text(u"lblLaborCharge_0"_s), u"$67.50"_s);
+  QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$247.50"_s);
+  QVERIFY(bench.On().IsEnabled(u"cmdLabor_1"_s));
+  QCOMPARE(bench.On().FocusName(), u"cmdLabor_1"_s);
+}
+
+void ScreenLabor::laborPostsALineForEachChargeAndOpensTheServices() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.Live.Tax.ckLabor = true;
+  bench.On().Type(u"2"_s);
+  bench.On().Fill(u"txtHours_0"_s, u"1.5"_s);
+  bench.On().Click(u"cmdLabor_0"_s);
+  bench.On().Click(u"cmdLabor_1"_s);
+  QCOMPARE(bench.Row(1),
+           (QStringList{u"1.5 Hrs"_s, u"General Labor"_s, QString(), u"$45.00"_s, u"$67.50"_s, u"True"_s}));
+  QCOMPARE(bench.Row(2), (QStringList{u"2 Hrs"_s, u"Night Labor"_s, QString(), u"$90.00"_s, u"$180.00"_s, u"True"_s}));
+  QCOMPARE(bench.Invoice.LineCount, 2);
+  QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
+  QVERIFY(!bench.Invoice.Controls.Enabled.cmdLabor_1);
+  QVERIFY(bench.On().IsVisible(u"fraServices"_s));
+  QVERIFY(!bench.On().IsVisible(u"fraLabor"_s));
+}
+
+void ScreenLabor::laborWithoutServicesStaysOpen() {
+  InvoiceBench bench;
+  bench.Tree.Remove(u"/Services.txt"_s);
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.On().Type(u"1"_s);
+  bench.On().Click(u"cmdLabor_0"_s);
+  bench.On().Click(u"cmdLabor_1"_s);
+  QCOMPARE(bench.Invoice.LineCount, 1);
+  QVERIFY(bench.On().IsVisible(u"fraLabor"_s));
+  QVERIFY(!bench.On().IsEnabled(u"cmdLabor_1"_s));
+}
+
+void ScreenLabor::hoursThatAreNoNumberComeBackAsZero() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.On().Type(u"."_s);
+  bench.On().Click(u"cmdLabor_0"_s);
+  QCOMPARE(bench.Dialogs.Beeps, 1);
+  QCOMPARE(bench.On().FocusName(), u"txtHours_1"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdLabor_1"_s));
+}
+
+void ScreenLabor::emptyHoursAreLeftAlone() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.On().Type(u"2"_s);
+  bench.On().Click(u"txtHours_0"_s);
+  bench.On().Fill(u"txtHours_1"_s, QString());
+  bench.On().Click(u"txtHours_0"_s);
+  QCOMPARE(bench.Text(u"txtHours_1"_s), QString());
+  // What was charged for it before stays.
+  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$180.00"_s);
+  QCOMPARE(bench.Dialogs.Beeps, 0);
+}
+
+void ScreenLabor::clearLaborSetsEverythingBack() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.On().Type(u"2"_s);
+  bench.On().Click(u"cmdLabor_0"_s);
+  bench.On().Click(u"cmdLabor_2"_s);
+  QCOMPARE(bench.Text(u"txtHours_1"_s), u"0"_s);
+  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$0.00"_s);
+  QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$0.00"_s);
+  QCOMPARE(bench.Invoice.LaborAmount[1], Currency());
+}
+
+void ScreenLabor::laborOntoAFullGridIsTheGridsError() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  FillGrid(bench, 100);
+  bench.On().Type(u"2"_s);
+  bench.On().Click(u"cmdLabor_0"_s);
+  bench.On().Click(u"cmdLabor_1"_s);
+  QCOMPARE(bench.Around.Errors, QList<int>{9});
+  QCOMPARE(bench.Invoice.LineCount, 100);
+  QVERIFY(bench.On().IsVisible(u"fraLabor"_s));
+}
+
+void ScreenLabor::enterInTheHoursCalculates() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  bench.On().Type(u"2"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$180.00"_s);
+  QCOMPARE(bench.On().FocusName(), u"cmdLabor_1"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Row(1)[0], u"2 Hrs"_s);
+}
+
+QTEST_MAIN(ScreenLabor)
+#include "tst_screenLabor.moc"
