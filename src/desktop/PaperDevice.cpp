@@ -1,5 +1,6 @@
 #include "desktop/PaperDevice.h"
 
+#include <map>
 #include <optional>
 #include <QBuffer>
 #include <QImage>
@@ -24,10 +25,30 @@ void PrepareLayout(QPagedPaintDevice& device, bool portrait) {
   device.setPageLayout(layout);
 }
 
+/// The pictures of a job by the bytes of their files.
+using PictureMap = std::map<QByteArray, QImage>;
+
+/// Throws where one can't be read. A painter that ends submits what it has, even half a page: so this comes before it.
+PictureMap PicturesOf(const PaperJob& job) {
+  PictureMap pictures;
+  for (const PaperPage& page : job.Pages) {
+    for (const PaperMark& mark : page) {
+      const auto* picture = std::get_if<PaperPicture>(&mark);
+      if (picture == nullptr || pictures.contains(picture->Picture)) continue;
+      const QImage image = QImage::fromData(picture->Picture);
+      if (image.isNull())
+        throw RuntimeError(ErrorNumber::PrinterError, u"the logo"_s, u"It can't be read as a picture."_s);
+      pictures.emplace(picture->Picture, image);
+    }
+  }
+  return pictures;
+}
+
 /// Puts marks on a begun page; a pen or font that is set already isn't set again.
 class MarkPainter {
  public:
-  MarkPainter(QPainter& painter, PaperFonts& fonts) : m_painter(painter), m_fonts(fonts) {}
+  MarkPainter(QPainter& painter, PaperFonts& fonts, const PictureMap& pictures)
+      : m_painter(painter), m_fonts(fonts), m_pictures(pictures) {}
 
   void operator()(const PaperText& mark) {
     const PaperFonts::Face& face = m_fonts.Get(mark.Font);
@@ -46,13 +67,7 @@ class MarkPainter {
       m_painter.drawLine(mark.X1, mark.Y1, mark.X2, mark.Y2);
   }
 
-  void operator()(const PaperPicture& mark) {
-    if (m_pictureBytes != mark.Picture) m_picture = QImage::fromData(mark.Picture);
-    m_pictureBytes = mark.Picture;
-    if (m_picture.isNull())
-      throw RuntimeError(ErrorNumber::PrinterError, {}, u"The logo can't be read as a picture."_s);
-    m_painter.drawImage(mark.Place, m_picture);
-  }
+  void operator()(const PaperPicture& mark) { m_painter.drawImage(mark.Place, m_pictures.at(mark.Picture)); }
 
  private:
   void SetPen(quint32 color, int width) {
@@ -67,8 +82,7 @@ class MarkPainter {
   std::optional<PaperFont> m_font;
   std::optional<quint32> m_penColor;
   int m_penWidth = 0;
-  QByteArray m_pictureBytes;
-  QImage m_picture;
+  const PictureMap& m_pictures;
 };
 }  // namespace
 
@@ -84,11 +98,12 @@ void PrepareSheet(QPrinter& device, bool portrait) {
 }
 
 void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts) {
+  const PictureMap pictures = PicturesOf(job);
   const auto failed = [] { return RuntimeError(ErrorNumber::PrinterError, {}); };
   QPainter painter;
   if (!painter.begin(&device)) throw failed();
   painter.setRenderHint(QPainter::LosslessImageRendering);  // A logo of few colours stays crisp.
-  MarkPainter marks(painter, fonts);
+  MarkPainter marks(painter, fonts, pictures);
   bool first = true;
   for (const PaperPage& page : job.Pages) {
     if (!first && !device.newPage()) throw failed();

@@ -16,7 +16,8 @@ inline constexpr int TwipsPerPoint = 20;
 void PrepareSheet(QPdfWriter& device, bool portrait);
 void PrepareSheet(QPrinter& device, bool portrait);
 
-/// Draws all pages. Throws RuntimeError 482 where the device refuses or a picture can't be read.
+/// Draws all pages. Throws RuntimeError 482 where the device refuses, or, before anything is sent, where a picture
+/// can't be read.
 void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts);
 
 /// The job as the content of a PDF file.

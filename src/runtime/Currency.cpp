@@ -13,6 +13,11 @@ namespace {
 constexpr int currencyDecimals = 4;
 constexpr qsizetype significantDigits = 15;
 
+/// Arithmetic has no box to name; `subject` is the box that was typed into.
+RuntimeError TooLarge(const QString& subject = {}) {
+  return RuntimeError(ErrorNumber::Overflow, subject.isEmpty() ? u"an amount"_s : subject);
+}
+
 quint64 Magnitude(qint64 units) {
   return units < 0 ? 0 - static_cast<quint64>(units) : static_cast<quint64>(units);
 }
@@ -69,7 +74,7 @@ QString Assemble(bool negative, const QByteArray& dollars, const QByteArray& cen
 Currency Currency::FromDouble(double value) {
   constexpr double limit = 9223372036854775808.0;  // two to the 63rd
   const double units = std::nearbyint(value * 10000.0);
-  if (!(units >= -limit && units < limit)) throw RuntimeError(ErrorNumber::Overflow, {});
+  if (!(units >= -limit && units < limit)) throw TooLarge();
   return FromUnits(static_cast<qint64>(units));
 }
 
@@ -79,7 +84,7 @@ Currency Currency::FromText(QStringView text, const QString& subject) {
   bool fits = false;
   const quint64 units = UnitDigits(*parsed).toULongLong(&fits);
   constexpr quint64 most = std::numeric_limits<qint64>::max();
-  if (!fits || units > most + (parsed->negative ? 1 : 0)) throw RuntimeError(ErrorNumber::Overflow, subject);
+  if (!fits || units > most + (parsed->negative ? 1 : 0)) throw TooLarge(subject);
   return FromUnits(static_cast<qint64>(parsed->negative ? 0 - units : units));
 }
 
@@ -96,13 +101,13 @@ QString Currency::PlainText() const {
 
 Currency operator+(Currency a, Currency b) {
   qint64 sum = 0;
-  if (__builtin_add_overflow(a.m_units, b.m_units, &sum)) throw RuntimeError(ErrorNumber::Overflow, {});
+  if (__builtin_add_overflow(a.m_units, b.m_units, &sum)) throw TooLarge();
   return Currency::FromUnits(sum);
 }
 
 Currency operator-(Currency a, Currency b) {
   qint64 difference = 0;
-  if (__builtin_sub_overflow(a.m_units, b.m_units, &difference)) throw RuntimeError(ErrorNumber::Overflow, {});
+  if (__builtin_sub_overflow(a.m_units, b.m_units, &difference)) throw TooLarge();
   return Currency::FromUnits(difference);
 }
 
@@ -122,7 +127,7 @@ QString CurrencyText(Currency amount) {
 }
 
 QString CurrencyText(double amount) {
-  if (!std::isfinite(amount)) throw RuntimeError(ErrorNumber::Overflow, {});
+  if (!std::isfinite(amount)) throw TooLarge();
   // "d.dddde+xx": 15 digits, the first of them standing for ten to the power of xx.
   const QByteArray scientific = QByteArray::number(std::fabs(amount), 'e', significantDigits - 1);
   const qsizetype letter = scientific.indexOf('e');

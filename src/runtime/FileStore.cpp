@@ -39,12 +39,13 @@ class OpenFile {
   int m_descriptor;
 };
 
-/// Writes to the last byte, whatever the device takes at a time. 0 or a negative errno.
-qint64 WriteAll(FileDevice& device, int descriptor, QByteArrayView bytes, qint64 offset) {
+/// Writes to the last byte, whatever the device takes at a time. 0 or a negative errno; `taken` counts what was taken.
+qint64 WriteAll(FileDevice& device, int descriptor, QByteArrayView bytes, qint64 offset, qint64* taken = nullptr) {
   while (!bytes.isEmpty()) {
     const qint64 written = device.Write(descriptor, bytes.data(), bytes.size(), offset);
     if (written < 0) return written;
     if (written == 0) return -ENOSPC;
+    if (taken != nullptr) *taken += written;
     bytes = bytes.sliced(written);
     offset += written;
   }
@@ -70,8 +71,9 @@ QByteArray ReadUpTo(FileDevice& device, int descriptor, qint64 size, qint64 offs
 void EachMatch(const QString& folder, const QString& wildcard, const std::function<bool(const QString&)>& found) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);
   if (!listing) return;
-  const auto pattern = QRegularExpression(
-      QRegularExpression::anchoredPattern(QRegularExpression::wildcardToRegularExpression(wildcard)));
+  const auto pattern =
+      QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::wildcardToRegularExpression(wildcard)),
+                         QRegularExpression::CaseInsensitiveOption);
   while (const dirent* entry = ::readdir(listing.get())) {
     if (entry->d_type == DT_DIR) continue;
     const QString name = QFile::decodeName(entry->d_name);
@@ -166,17 +168,33 @@ void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArra
     descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
   }
   CheckFile(descriptor, path);
-  const OpenFile file(m_device, descriptor);
+  OpenFile file(m_device, descriptor);
   const qint64 lengthBefore = Size(path);
   QByteArray before;
   if (offset < lengthBefore) before = ReadUpTo(m_device, descriptor, bytes.size(), offset, path);
 
-  const qint64 written = WriteAll(m_device, descriptor, bytes, offset);
-  if (written == 0) return;
-  WriteAll(m_device, descriptor, before, offset);
-  if (offset + bytes.size() > lengthBefore) m_device.Truncate(descriptor, lengthBefore);
-  if (isNew) m_device.Remove(path);
-  RaiseFileError(written, path);
+  qint64 taken = 0;
+  qint64 failed = WriteAll(m_device, descriptor, bytes, offset, &taken);
+  // Some disks tell only at the close that they couldn't keep what they took.
+  const int closed = file.Close();
+  if (failed == 0) failed = closed;
+  if (failed == 0) return;
+  if (isNew) {
+    m_device.Remove(path);
+  } else if (taken > 0 && !PutBack(path, before, offset, lengthBefore)) {
+    throw RuntimeError(ErrorNumber::DeviceError, path);
+  }
+  RaiseFileError(failed, path);
+}
+
+/// Undoes a write in place; false if that fails as well.
+bool FileStore::PutBack(const QString& path, const QByteArray& before, qint64 offset, qint64 lengthBefore) {
+  const int descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
+  if (descriptor < 0) return false;
+  OpenFile file(m_device, descriptor);
+  const bool written = WriteAll(m_device, descriptor, before, offset) == 0;
+  const bool cut = Size(path) <= lengthBefore || m_device.Truncate(descriptor, lengthBefore) == 0;
+  return file.Close() == 0 && written && cut;
 }
 
 void FileStore::Copy(const QString& from, const QString& to) {

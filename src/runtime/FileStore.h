@@ -19,7 +19,7 @@ class FileStore {
   bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one.
   bool IsFolder(const QString& path) const;
   qint64 Size(const QString& path) const;  ///< In bytes; error 53 if absent.
-  /// Names of the files (not folders) in `folder` that match the wildcard (`*.txt`), in name order.
+  /// Names of the files (not folders) in `folder` that match the wildcard (`*.txt`, whatever the case), in name order.
   QStringList List(const QString& folder, const QString& wildcard) const;
   /// Whether any file matches, without reading the rest of the folder.
   bool AnyMatch(const QString& folder, const QString& wildcard) const;
@@ -31,7 +31,8 @@ class FileStore {
   /// The checked writer: old or new, whole.
   void ReplaceWhole(const QString& path, const QByteArray& content);
   /// A record's write in place: one write, creating the file, a gap filled with zero bytes. One that fails is cut
-  /// back to the length before it where it extended the file, and rewritten with the old bytes where it didn't.
+  /// back to the length before it where it extended the file, and rewritten with the old bytes where it didn't;
+  /// where even that fails, the error is 57.
   void WriteInPlace(const QString& path, qint64 offset, const QByteArray& bytes);
   /// Copies through the checked writer, replacing the target.
   void Copy(const QString& from, const QString& to);
@@ -41,6 +42,7 @@ class FileStore {
   void MakePath(const QString& path);    ///< The folder and those that lead to it.
 
  private:
+  bool PutBack(const QString& path, const QByteArray& before, qint64 offset, qint64 lengthBefore);
   void WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content);
   FileDevice& m_device;
 };

@@ -16,6 +16,8 @@ QString TextOf(int number) {
       return u"The file was closed before it was read."_s;
     case ErrorNumber::FileNotFound:
       return u"The file isn't there."_s;
+    case ErrorNumber::DeviceError:
+      return u"The disk failed in the middle of a write, and what stood there before couldn't be put back."_s;
     case ErrorNumber::DiskFull:
       return u"The disk is full."_s;
     case ErrorNumber::InputPastEnd:

@@ -10,6 +10,7 @@ inline constexpr int OutOfRange = 9;
 inline constexpr int TypeMismatch = 13;
 inline constexpr int BadFileNumber = 52;
 inline constexpr int FileNotFound = 53;
+inline constexpr int DeviceError = 57;
 inline constexpr int DiskFull = 61;
 inline constexpr int InputPastEnd = 62;
 inline constexpr int BadFileName = 64;

@@ -8,7 +8,13 @@
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+RuntimeError NoSuch(const QString& what, int number) {
+  return RuntimeError(ErrorNumber::OutOfRange, u"the grid, %1 %2"_s.arg(what).arg(number));
+}
 
 /// A stable order of 0 to `count` - 1 by merging. Unlike the library's sorts it ends well with a comparison that
 /// isn't consistent, such as the generic one: "2" before "10", "10" before "1a", "1a" before "2".
@@ -50,7 +56,7 @@ Qt::Alignment AlignmentOf(QChar mark) {
 }  // namespace
 
 TextMatrix::TextMatrix(const QString& format, int rows) : m_rows(rows), m_cols(0) {
-  if (rows < 1) throw RuntimeError(ErrorNumber::OutOfRange, {});
+  if (rows < 1) throw NoSuch(u"row"_s, rows);
   QStringList headings;
   for (QStringView column : QStringView(format).split(u'|')) {
     const bool marked = column.startsWith(u'<') || column.startsWith(u'^') || column.startsWith(u'>');
@@ -65,11 +71,12 @@ TextMatrix::TextMatrix(const QString& format, int rows) : m_rows(rows), m_cols(0
 }
 
 void TextMatrix::Require(int row, int col) const {
-  if (row < 0 || row >= m_rows || col < 0 || col >= m_cols) throw RuntimeError(ErrorNumber::OutOfRange, {});
+  if (row < 0 || row >= m_rows) throw NoSuch(u"row"_s, row);
+  if (col < 0 || col >= m_cols) throw NoSuch(u"column"_s, col);
 }
 
 void TextMatrix::SetRows(int rows) {
-  if (rows < 1) throw RuntimeError(ErrorNumber::OutOfRange, {});
+  if (rows < 1) throw NoSuch(u"row"_s, rows);
   if (rows == m_rows) return;
   const auto size = static_cast<size_t>(rows);
   if (rows > m_rows) {
@@ -117,7 +124,7 @@ void TextMatrix::SetCol(int col) {
 
 void TextMatrix::RemoveItem(int row) {
   Require(row, 0);
-  if (row == 0) throw RuntimeError(ErrorNumber::OutOfRange, {});
+  if (row == 0) throw NoSuch(u"row"_s, row);
   beginRemoveRows({}, row - 1, row - 1);
   m_cells.erase(m_cells.begin() + row);
   --m_rows;

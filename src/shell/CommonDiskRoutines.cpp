@@ -56,11 +56,14 @@ QString CommonDiskRoutines::PathOf(const QString& name) const {
   if (path.contains("/../"_L1) || path.endsWith("/.."_L1) || path.contains(QChar::Null)) {
     throw RuntimeError(ErrorNumber::BadFileName, name);
   }
-  // The one folder of the tree that goes by two spellings.
+  // The one folder of the tree that goes by two spellings, in the mirror as well.
+  constexpr auto backup = "/Backup"_L1;
   constexpr auto auxFiles = "/AuxFiles"_L1;
-  const bool isAux = path.startsWith(auxFiles, Qt::CaseInsensitive) &&
-                     (path.size() == auxFiles.size() || path[auxFiles.size()] == u'/');
-  if (isAux) path.replace(0, auxFiles.size(), auxFiles);
+  const qsizetype start = path.startsWith(backup + u'/') ? backup.size() : 0;
+  const qsizetype end = start + auxFiles.size();
+  const bool isAux = QStringView(path).sliced(start).startsWith(auxFiles, Qt::CaseInsensitive) &&
+                     (path.size() == end || path[end] == u'/');
+  if (isAux) path.replace(start, auxFiles.size(), auxFiles);
   return m_dataRoot + path;
 }
 

@@ -7,10 +7,21 @@ namespace {
 QString WhatToDo(const RuntimeError& error) {
   switch (error.Number()) {
     case ErrorNumber::DiskFull:
-      return u"Make room on it and try again; what stood in the file is unchanged."_s;
+      return u"Make room on it and try again. Nothing was lost."_s;
     case ErrorNumber::PermissionDenied:
     case ErrorNumber::PathFileAccess:
-      return u"Check that the program may write to its folder, then try again; what stood in the file is unchanged."_s;
+      // A read, a write, or a folder that couldn't be flushed after the new file stood: what is said holds for each.
+      return u"Check that you may read and write the file and its folder, then try again. Nothing was lost."_s;
+    case ErrorNumber::DeviceError:
+      return u"Have the disk checked, then look at what was being saved and save it again. The Backup folder may hold an earlier copy of the file."_s;
+    case ErrorNumber::FileNotFound:
+      return u"Put the file there or choose another one, then try again. Nothing was lost."_s;
+    case ErrorNumber::BadFileName:
+      return u"Choose another name, shorter and without / or \\, then try again. Nothing was lost."_s;
+    case ErrorNumber::BadFileNumber:
+      return u"Try again. If it comes back, close the program and start it again. Nothing was lost."_s;
+    case ErrorNumber::PrinterError:
+      return u"Check that the printer is on and has paper, or choose another one, then print again. Nothing was lost."_s;
     case ErrorNumber::PathNotFound:
       return u"The folder isn't there. Start the program again: it makes its folders at each start."_s;
     case ErrorNumber::TypeMismatch:

@@ -4,6 +4,7 @@
 
 #include "desktop/PaperDevice.h"
 #include "desktop/PaperPrinter.h"
+#include "support/ErrorOf.h"
 #include "support/PageFixture.h"
 #include "support/TemporaryTree.h"
 
@@ -18,6 +19,7 @@ class TestPdf : public QObject {
   void arialIsLiberationSansInBothWeightsEmbedded();
   void everyWordStandsWhereTheRecordingHasIt();
   void aPrinterOfTheSystemGetsTheSamePage();
+  void aPictureThatCannotBeReadSendsNothingToThePrinter();
   void rulesAreSixTwipsWideAndBlack();
   void colorsAreOnPaperEvenInMonochromeMode();
   void theLogoFillsItsPlace();
@@ -189,6 +191,28 @@ void TestPdf::aPrinterOfTheSystemGetsTheSamePage() {
   QVERIFY(Run(u"pdfinfo"_s, {path}).contains("612 x 792 pts (letter)"));
   for (int page = 1; page <= 2; ++page)
     QCOMPARE(Difference(WordsOf(path, page), WordsOf(printed.Pdf(), page)), QString());
+}
+
+void TestPdf::aPictureThatCannotBeReadSendsNothingToThePrinter() {
+  // A good page and a half before it: a printer would have them by the time the picture is reached.
+  const PaperPage good{PaperText{1000, 1000, u"Half a page"_s, {u"Arial"_s}, 0}};
+  PaperPage bad = good;
+  bad.push_back(PaperPicture{"no picture", QRect(0, 0, 1440, 1440)});
+  const TemporaryTree folder;
+  const QString path = folder.Path(u"/printer.pdf"_s);
+  PaperFonts fonts;
+  const auto print = [&](const PaperJob& job) {
+    QPrinter device(QPrinter::HighResolution);
+    device.setOutputFileName(path);
+    PrepareSheet(device, true);
+    DrawJob(job, device, fonts);
+  };
+  const RuntimeError error = CaughtFrom([&] { print({{good, bad}}); });
+  QCOMPARE(error.Number(), 482);
+  QCOMPARE(error.Subject(), u"the logo"_s);
+  QVERIFY(!folder.Exists(u"/printer.pdf"_s));
+  print({{good, good}});
+  QVERIFY(folder.Size(u"/printer.pdf"_s) > 0);
 }
 
 void TestPdf::rulesAreSixTwipsWideAndBlack() {

@@ -298,6 +298,53 @@ class CheckedWriterTest : public QObject {
     QCOMPARE(Content(), oldContent);
   }
 
+  void aCloseThatFailsTakesTheRecordBack_data() {
+    QTest::addColumn<qint64>("offset");
+    QTest::newRow("a rewrite") << qint64{4};
+    QTest::newRow("an append") << qint64{26};
+    QTest::newRow("half over the end") << qint64{23};
+  }
+  void aCloseThatFailsTakesTheRecordBack() {
+    QFETCH(qint64, offset);
+    m_device.FailAt(Call::Close, 1, EDQUOT);
+    const RuntimeError error = CaughtFrom([&] { m_store.WriteInPlace(m_path, offset, "record"); });
+    QCOMPARE(error.Number(), 61);
+    QCOMPARE(error.Subject(), m_path);
+    QCOMPARE(Content(), oldContent);
+    QCOMPARE(m_device.Count(Call::Close), m_device.Count(Call::Open));
+  }
+
+  void aCloseThatFailsAfterAFirstRecordLeavesNoFile() {
+    m_device.FailAt(Call::Close, 1, EIO);
+    QCOMPARE(ErrorOf([&] { m_store.WriteInPlace(m_tree->Path(u"/New.txt"_s), 0, "record"); }), 75);
+    QCOMPARE(Files(), QStringList{u"Labor.txt"_s});
+  }
+
+  void aRecordThatCannotBePutBackIsToldAsSuch() {
+    // Three bytes taken, then no more: neither the rest nor the old ones.
+    m_device.WriteShortAt(1, 3, EIO);
+    m_device.AlsoFailAt(Call::Write, 3, EIO);
+    const RuntimeError error = CaughtFrom([&] { m_store.WriteInPlace(m_path, 4, "XXXXXX"); });
+    QCOMPARE(error.Number(), 57);
+    QCOMPARE(error.Subject(), m_path);
+    // A record that can't be cut off again.
+    m_tree->Write(u"/Labor.txt"_s, oldContent);
+    m_device.WriteShortAt(1, 3, ENOSPC);
+    m_device.AlsoFailAt(Call::Truncate, 1, EIO);
+    QCOMPARE(ErrorOf([&] { m_store.WriteInPlace(m_path, oldContent.size(), "record"); }), 57);
+    // Nor can a file that doesn't open any more.
+    m_device.WriteShortAt(1, 3, ENOSPC);
+    m_device.AlsoFailAt(Call::Open, 2, EIO);
+    QCOMPARE(ErrorOf([&] { m_store.WriteInPlace(m_path, 4, "XXXXXX"); }), 57);
+  }
+
+  void aDiskThatTakesNothingHasNothingToPutBack() {
+    m_device.FailAlways(Call::Write, ENOSPC);
+    QCOMPARE(ErrorOf([&] { m_store.WriteInPlace(m_path, 4, "XXXXXX"); }), 61);
+    QCOMPARE(m_device.Count(Call::Write), 1);
+    QCOMPARE(Content(), oldContent);
+  }
+
   void aFailedFirstWriteLeavesNoFile() {
     m_device.FailAt(Call::Write, 1, ENOSPC);
     QCOMPARE(ErrorOf([&] { m_store.WriteInPlace(m_tree->Path(u"/New.txt"_s), 0, "record"); }), 61);

@@ -72,6 +72,16 @@ class CurrencyTest : public QObject {
     QCOMPARE(Currency::FromDouble(-922337203685477.5808).Units(), leastUnits);
   }
 
+  void anAmountTooLargeIsCalledSoWhereNoBoxIsNamed() {
+    const Currency most = Currency::FromUnits(mostUnits), one = Currency::FromUnits(1);
+    QCOMPARE(CaughtFrom([&] { most + one; }).Subject(), u"an amount"_s);
+    QCOMPARE(CaughtFrom([&] { Currency::FromUnits(leastUnits) - one; }).Subject(), u"an amount"_s);
+    QCOMPARE(CaughtFrom([&] { Times(most, 2); }).Subject(), u"an amount"_s);
+    QCOMPARE(CaughtFrom([] { CurrencyText(std::numeric_limits<double>::infinity()); }).Subject(), u"an amount"_s);
+    QCOMPARE(CaughtFrom([] { Currency::FromText(u"1E400"_s); }).Subject(), u"an amount"_s);
+    QCOMPARE(CaughtFrom([] { Currency::FromText(u"1E400"_s, u"txtMisc"_s); }).Subject(), u"txtMisc"_s);
+  }
+
   void sumsAndDifferencesAreExactAndChecked() {
     const Currency most = Currency::FromUnits(mostUnits), one = Currency::FromUnits(1);
     QCOMPARE((most - one).Units(), mostUnits - 1);

@@ -73,10 +73,18 @@ class FileStoreTest : public QObject {
     m_tree->MakeFolder(u"/folder.txt"_s);
     QVERIFY(QFile::link(Path(u"/A.txt"_s), Path(u"/link.txt"_s)));
     QVERIFY(QFile::link(Path(u"/folder.txt"_s), Path(u"/link to a folder.txt"_s)));
-    QCOMPARE(m_store.List(Path(u""_s), u"*.txt"_s),
-             (QStringList{u"1001.txt"_s, u"1002.txt"_s, u"A.txt"_s, u"b.txt"_s, u"f[1].txt"_s, u"link.txt"_s}));
+    QCOMPARE(m_store.List(Path(u""_s), u"*.txt"_s), (QStringList{u"1001.txt"_s, u"1002.txt"_s, u"A.txt"_s, u"b.txt"_s,
+                                                                 u"c.TXT"_s, u"f[1].txt"_s, u"link.txt"_s}));
     QCOMPARE(m_store.List(Path(u""_s), u"100?.txt"_s), (QStringList{u"1001.txt"_s, u"1002.txt"_s}));
     QCOMPARE(m_store.List(Path(u"/none"_s), u"*.txt"_s), QStringList{});
+  }
+
+  void aWildcardMatchesWithoutRegardToCase() {
+    m_tree->Write(u"/A.TXT"_s, "");
+    QVERIFY(m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+    m_tree->Write(u"/b.Txt"_s, "");
+    m_tree->Write(u"/c.doc"_s, "");
+    QCOMPARE(m_store.List(Path(u""_s), u"*.txt"_s), (QStringList{u"A.TXT"_s, u"b.Txt"_s}));
   }
 
   void anyMatchIsEnough() {

@@ -47,6 +47,14 @@ class TextMatrixTest : public QObject {
     QCOMPARE(matrix.Text(2, 3), QString());
   }
 
+  void theErrorNamesTheRowOrColumnThatIsNotThere() {
+    TextMatrix matrix(u"<A|<B"_s, 101);
+    QCOMPARE(CaughtFrom([&] { matrix.SetText(101, 0, {}); }).Subject(), u"the grid, row 101"_s);
+    QCOMPARE(CaughtFrom([&] { matrix.Text(1, 2); }).Subject(), u"the grid, column 2"_s);
+    QCOMPARE(CaughtFrom([&] { matrix.SetRows(0); }).Subject(), u"the grid, row 0"_s);
+    QCOMPARE(CaughtFrom([&] { matrix.RemoveItem(0); }).Subject(), u"the grid, row 0"_s);
+  }
+
   void whatIsNotThereIsErrorNine() {
     TextMatrix matrix(u"<A|<B"_s, 3);
     QCOMPARE(ErrorOf([&] { matrix.Text(3, 0); }), 9);

@@ -99,6 +99,33 @@ class DiskRoutinesTest : public QObject {
     QCOMPARE(ErrorOf([&] { records.Put(1, QByteArray(90, ' ')); }), 52);
   }
 
+  void killingWithTheBackupClosesWhatIsOpen() {
+    Put(u"/ShipVia.txt"_s, "\"Truck\"\r\n");
+    ListReader reader = m_disk->OpenInputFile(u"/ShipVia.txt"_s);
+    RandomFile records = m_disk->OpenRandomFile(u"/SoldItems.txt"_s, 90);
+    m_disk->KillWithBackup(u"/AuxHeadings.txt"_s);
+    QCOMPARE(ErrorOf([&] { reader.ReadString(); }), 52);
+    QCOMPARE(ErrorOf([&] { records.Get(1); }), 52);
+  }
+
+  void replacingATextClosesWhatIsOpen() {
+    Put(u"/ShipVia.txt"_s, "\"Truck\"\r\n");
+    ListReader reader = m_disk->OpenInputFile(u"/ShipVia.txt"_s);
+    RandomFile records = m_disk->OpenRandomFile(u"/SoldItems.txt"_s, 90);
+    m_disk->ReplaceTextFile(u"/InvoiceMemo.txt"_s, u"Thanks"_s);
+    QCOMPARE(ErrorOf([&] { reader.ReadString(); }), 52);
+    QCOMPARE(ErrorOf([&] { records.Get(1); }), 52);
+  }
+
+  void aMissingFileCannotBeOpenedToRead() {
+    const RuntimeError error = CaughtFrom([&] { m_disk->OpenInputFile(u"/ShipVia.txt"_s); });
+    QCOMPARE(error.Number(), 53);
+    QCOMPARE(error.Subject(), m_root->path() + u"/ShipVia.txt"_s);
+    // Opening alone fetches nothing: that is FileExists's part.
+    Put(u"/Backup/ShipVia.txt"_s, "\"Truck\"\r\n");
+    QCOMPARE(ErrorOf([&] { m_disk->OpenInputFile(u"/ShipVia.txt"_s); }), 53);
+  }
+
   void aSaveDropsTheBackupCopyOnceTheNewFileStands() {
     Put(u"/PrintColors.txt"_s, "old");
     Put(u"/Backup/PrintColors.txt"_s, "older");
@@ -218,6 +245,18 @@ class DiskRoutinesTest : public QObject {
     QCOMPARE(m_disk->PathOf(u"/Auxfiles/1001"_s), m_root->path() + u"/AuxFiles/1001"_s);
     QCOMPARE(m_disk->PathOf(u"\\AUXFILES"_s), m_root->path() + u"/AuxFiles"_s);
     QCOMPARE(m_disk->PathOf(u"/AuxfilesX"_s), m_root->path() + u"/AuxfilesX"_s);
+    QCOMPARE(m_disk->PathOf(u"/Backup/Auxfiles/1001"_s), m_root->path() + u"/Backup/AuxFiles/1001"_s);
+    QCOMPARE(m_disk->PathOf(u"\\Backup\\AUXFILES"_s), m_root->path() + u"/Backup/AuxFiles"_s);
+    QCOMPARE(m_disk->PathOf(u"/Backup/AuxfilesX"_s), m_root->path() + u"/Backup/AuxfilesX"_s);
+    QCOMPARE(m_disk->PathOf(u"/Backups/Auxfiles"_s), m_root->path() + u"/Backups/Auxfiles"_s);
+  }
+
+  void anAuxiliaryFileComesBackByEitherSpelling() {
+    QVERIFY(QDir(m_root->path()).mkpath(u"Backup/AuxFiles/1001/AuxFile0"_s));
+    QVERIFY(QDir(m_root->path()).mkpath(u"AuxFiles/1001/AuxFile0"_s));
+    Put(u"/Backup/AuxFiles/1001/AuxFile0/Data.txt"_s, "kept");
+    QVERIFY(m_disk->FileExists(u"/Auxfiles/1001/AuxFile0/Data.txt"_s));
+    QCOMPARE(Bytes(u"/AuxFiles/1001/AuxFile0/Data.txt"_s), "kept");
   }
 
   void noNameLeadsOutOfTheTree() {
@@ -227,7 +266,7 @@ class DiskRoutinesTest : public QObject {
     QCOMPARE(m_disk->PathOf(u"/CompletedInvoices/a..b.txt"_s), m_root->path() + u"/CompletedInvoices/a..b.txt"_s);
   }
 
-  void theExitBackupCopiesEighteenFiles() {
+  void theExitBackupCopiesEighteenFilesInOrder() {
     const QStringList copied{u"KarvexInvoicerSettings"_s,
                              u"KVInvoiceNo"_s,
                              u"KVInventoriedItems"_s,
@@ -251,7 +290,11 @@ class DiskRoutinesTest : public QObject {
                                  u"SpeedNumbers"_s, u"AuxHeadings"_s, u"KAPaymentRecords"_s};
     for (const QString& name : copied + passedOver) Put(u'/' + name + u".txt"_s, "new " + name.toLatin1());
     Put(u"/Backup/Labor.txt"_s, "an older and longer copy");
+    m_device.Reset();
     m_disk->BackupDataFiles();
+    QStringList inOrder;
+    for (const QString& name : copied) inOrder.append(m_root->path() + u"/Backup/"_s + name + u".txt"_s);
+    QCOMPARE(m_device.PathsOf(FailingDevice::Call::Rename), inOrder);
     for (const QString& name : copied) QCOMPARE(Bytes(u"/Backup/"_s + name + u".txt"_s), "new " + name.toLatin1());
     QCOMPARE(QDir(m_root->path() + u"/Backup"_s).entryList(QDir::Files).size(), 18);
   }

@@ -11,13 +11,24 @@ class ErrorTextTest : public QObject {
  private Q_SLOTS:
   void itTellsWhatHappenedToWhichFileAndWhatToDo() {
     QCOMPARE(ErrorBoxText(RuntimeError(61, u"/data/Labor.txt"_s), false),
-             u"/data/Labor.txt: The disk is full. (error 61)\n\nMake room on it and try again; what stood in the file "
-             u"is unchanged."_s);
+             u"/data/Labor.txt: The disk is full. (error 61)\n\nMake room on it and try again. Nothing was lost."_s);
   }
 
   void anErrorOfNoFileOrBoxBeginsWithWhatHappened() {
     QVERIFY(ErrorBoxText(RuntimeError(9, {}), false)
                 .startsWith(u"A line or entry was asked for that isn't there. (error 9)\n\n"_s));
+  }
+
+  void noErrorOfAFileTellsThatItIsAsItWas() {
+    // The new file may stand already, when only its folder couldn't be flushed.
+    for (const int number : {61, 70, 75}) {
+      const QString text = ErrorBoxText(RuntimeError(number, u"/data/Labor.txt"_s), false);
+      QVERIFY2(text.endsWith(u" Nothing was lost."_s) && !text.contains(u"unchanged"_s), qPrintable(text));
+    }
+  }
+
+  void aRecordThatMayBeDamagedIsNotCalledSafe() {
+    QVERIFY(!ErrorBoxText(RuntimeError(57, u"/data/SoldItems.txt"_s), false).contains(u"Nothing was lost"_s));
   }
 
   void damageTellsThatTheProgramEndsAndHowToMendIt() {
@@ -39,9 +50,14 @@ class ErrorTextTest : public QObject {
     QTest::newRow("overflow") << 6 << u"Correct what was typed"_s;
     QTest::newRow("no such row") << 9 << u"There is no room for it"_s;
     QTest::newRow("no number") << 13 << u"Correct what was typed"_s;
-    QTest::newRow("not found") << 53 << u"Try again"_s;
-    QTest::newRow("denied") << 70 << u"Check that the program may write"_s;
-    QTest::newRow("access") << 75 << u"Check that the program may write"_s;
+    QTest::newRow("not found") << 53 << u"Put the file there or choose another one"_s;
+    QTest::newRow("no name") << 64 << u"Choose another name"_s;
+    QTest::newRow("closed") << 52 << u"close the program and start it again"_s;
+    QTest::newRow("broken disk") << 57 << u"Have the disk checked"_s;
+    QTest::newRow("full") << 61 << u"Make room on it"_s;
+    QTest::newRow("printer") << 482 << u"Check that the printer is on"_s;
+    QTest::newRow("denied") << 70 << u"Check that you may read and write the file and its folder"_s;
+    QTest::newRow("access") << 75 << u"Check that you may read and write the file and its folder"_s;
     QTest::newRow("no folder") << 76 << u"Start the program again"_s;
   }
   void everyErrorSaysWhatToDo() {

@@ -30,12 +30,21 @@ int FailingDevice::Count(Call call) const {
 
 void FailingDevice::Reset() {
   m_counts.clear();
+  m_paths.clear();
   m_all = 0;
   m_bytesRead = 0;
   m_failures.clear();
   m_always.clear();
   m_killAt = 0;
   m_shortAt = 0;
+}
+
+QStringList FailingDevice::PathsOf(Call call) const {
+  QStringList paths;
+  for (const auto& [kind, path] : m_paths) {
+    if (kind == call) paths.append(path);
+  }
+  return paths;
 }
 
 int FailingDevice::Enter(Call call) {
@@ -55,6 +64,7 @@ int FailingDevice::MayWrite(const QString& path) {
 
 int FailingDevice::Open(const QString& path, OpenMode mode) {
   const int failed = Enter(Call::Open);
+  Note(Call::Open, path);
   return failed < 0 ? failed : FileDevice::Open(path, mode);
 }
 
@@ -96,6 +106,7 @@ int FailingDevice::CopyPermissions(const QString& from, int descriptor) {
 
 int FailingDevice::Rename(const QString& from, const QString& to) {
   const int failed = Enter(Call::Rename);
+  Note(Call::Rename, to);
   return failed < 0 ? failed : FileDevice::Rename(from, to);
 }
 

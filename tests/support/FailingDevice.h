@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <QStringList>
 
 #include "runtime/FileDevice.h"
 
@@ -28,6 +29,8 @@ class FailingDevice : public FileDevice {
 
   /// The `nth` call of the kind from now on, from 1, answers `-error` and does nothing.
   void FailAt(Call call, int nth, int error);
+  /// Besides what is set already, without a new count.
+  void AlsoFailAt(Call call, int nth, int error) { m_failures[{call, nth}] = error; }
   /// Every call of the kind from now on.
   void FailAlways(Call call, int error);
   /// The `nth` write takes only `size` bytes; the one after it answers `-error`.
@@ -37,6 +40,8 @@ class FailingDevice : public FileDevice {
   /// All calls of a kind, or of any kind, since the last setting.
   int Count(Call call) const;
   int CountAll() const { return m_all; }
+  /// Every call of the kind since the last setting, in order: the path where the call has one (a rename's target).
+  QStringList PathsOf(Call call) const;
   /// What was read since the last setting: a scan shows where a single record would do.
   qint64 BytesRead() const { return m_bytesRead; }
   /// Nothing fails any more; the counts begin anew.
@@ -60,7 +65,10 @@ class FailingDevice : public FileDevice {
   /// Counts the call; a negative errno if it is the one to fail.
   int Enter(Call call);
 
+  void Note(Call call, const QString& path) { m_paths.append({call, path}); }
+
   std::map<Call, int> m_counts;
+  QList<std::pair<Call, QString>> m_paths;
   int m_all = 0;
   qint64 m_bytesRead = 0;
   std::map<std::pair<Call, int>, int> m_failures;
