@@ -1,4 +1,4 @@
-/// A combo box as the system's screens use one: a list with a data word per entry and, where it is editable, a text of
+/// A combo box as the screens use one: a list with a data word per entry and, where it is editable, a text of
 /// its own that needn't be an entry.
 #pragma once
 

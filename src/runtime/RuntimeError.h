@@ -21,7 +21,7 @@ inline constexpr int PrinterError = 482;
 inline constexpr int DialogCancelled = 32755;
 }  // namespace ErrorNumber
 
-/// Thrown by the rules; a handler stands only where the system names one, else `Program` shows it.
+/// Thrown by the rules; what no handler takes, `Program` shows.
 class RuntimeError : public std::exception {
  public:
   /// What the error came from decides what follows when nobody handled it: a data file whose content can't be

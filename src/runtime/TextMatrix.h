@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <vector>
 
-/// Rows and columns are addressed as the system does, from 0 with row 0 the header. A cell, row or column that isn't
+/// Rows and columns are addressed from 0, with row 0 the header. A cell, row or column that isn't
 /// there throws RuntimeError 9. To Qt's views it is a table of `Rows() - 1` rows whose header is row 0.
 class TextMatrix : public QAbstractTableModel {
  public:

@@ -58,8 +58,8 @@ class CommonDiskRoutines {
   /// What is open can't be read or written any more (error 52).
   void CloseAllFiles();
 
-  /// The save of a settings file, a list, an image: old or new, whole; then the backup copy is dropped where the save
-  /// is told to (`KillWithBackup` before the write).
+  /// The save of a settings file, a list, an image: old or new, whole; then the backup copy goes where `backup`
+  /// says so.
   void SaveFile(const QString& name, const QByteArray& content, BackupCopy backup);
   /// `SaveFile` of the text as one plain line, the backup copy dropped.
   void ReplaceTextFile(const QString& name, const QString& text);

@@ -26,5 +26,5 @@ struct MainMenuState {
   QString Incomplete;  ///< `lblIncomplete`; null where the text stays as it was.
 };
 
-/// Asks for each file in the told order, so that one that only /Backup holds comes back here.
+/// Asks for each file in the order of the options, so that one that only /Backup holds comes back here.
 MainMenuState UpdateMainMenu(const MainMenuContext& context);

@@ -92,36 +92,36 @@ class CustomerScreenTest : public QObject {
   void captionsAndTipsAreTheProgramsOwn() {
     CustomerDesk desk(CustomerDesk::Many(1));
     desk.Open();
-    using Told = std::initializer_list<std::pair<const char*, const char*>>;
-    for (const auto& [name, caption] : Told{{"cmdCustomer_0", "&Menu"},
-                                            {"cmdCustomer_1", "Select this &Account and Start  Routine"},
-                                            {"cmdCustomer_13", "Cancel Add &New"},
-                                            {"Command1_0", "&Search by Criteria,such as Street Address"},
-                                            {"Command1_1", "&Find Account in Name List Alphbetically"},
-                                            {"Command1_2", "&Locate Account in Name List "},
-                                            {"cmdAcctType", "Toggle Type"},
-                                            {"cmdNav_0", "|<<"},
-                                            {"cmdNav_1", "&<1"},
-                                            {"cmdNav_2", "1&>"},
-                                            {"cmdNav_3", ">>|"},
-                                            {"cmdNav_4", "||"},
-                                            {"cmdNav_5", "|<"},
-                                            {"cmdNav_6", "|>"},
-                                            {"cmdNav_7", "<<10"},
-                                            {"cmdNav_8", "10>>"}}) {
+    using Texts = std::initializer_list<std::pair<const char*, const char*>>;
+    for (const auto& [name, caption] : Texts{{"cmdCustomer_0", "&Menu"},
+                                             {"cmdCustomer_1", "Select this &Account and Start  Routine"},
+                                             {"cmdCustomer_13", "Cancel Add &New"},
+                                             {"Command1_0", "&Search by Criteria,such as Street Address"},
+                                             {"Command1_1", "&Find Account in Name List Alphbetically"},
+                                             {"Command1_2", "&Locate Account in Name List "},
+                                             {"cmdAcctType", "Toggle Type"},
+                                             {"cmdNav_0", "|<<"},
+                                             {"cmdNav_1", "&<1"},
+                                             {"cmdNav_2", "1&>"},
+                                             {"cmdNav_3", ">>|"},
+                                             {"cmdNav_4", "||"},
+                                             {"cmdNav_5", "|<"},
+                                             {"cmdNav_6", "|>"},
+                                             {"cmdNav_7", "<<10"},
+                                             {"cmdNav_8", "10>>"}}) {
       QCOMPARE(desk.Text(QString::fromLatin1(name)), QString::fromLatin1(caption));
     }
     for (const auto& [name, tip] :
-         Told{{"cmdCustomer_1", "Selects this Customer and continues with the Selected Routine"},
-              {"txtCustomer_1", "Displays Business Accts"},
-              {"txtCustomer_3", "Enter a Sub-divsion, PO Box, etc"},
-              {"txtCustomer_5", "Enter Zipcode here"},
-              {"txtCustomer_6", "Enter telephone Number with Area Code FIRST (as AAA-EEE-NNNN)"},
-              {"txtCustomer_7", "Store Account email Address"},
-              {"txtCustomer_11", "Enter telephone Number with Area Code FIRST (as AAA-EEE-NNNN)"},
-              {"cboCity", "Shows Service City List that you Created during Setup"},
-              {"cboAccounts", "Accts are shown alphabetically"},
-              {"Image1_1", "Call Account Phone or Cell"}}) {
+         Texts{{"cmdCustomer_1", "Selects this Customer and continues with the Selected Routine"},
+               {"txtCustomer_1", "Displays Business Accts"},
+               {"txtCustomer_3", "Enter a Sub-divsion, PO Box, etc"},
+               {"txtCustomer_5", "Enter Zipcode here"},
+               {"txtCustomer_6", "Enter telephone Number with Area Code FIRST (as AAA-EEE-NNNN)"},
+               {"txtCustomer_7", "Store Account email Address"},
+               {"txtCustomer_11", "Enter telephone Number with Area Code FIRST (as AAA-EEE-NNNN)"},
+               {"cboCity", "Shows Service City List that you Created during Setup"},
+               {"cboAccounts", "Accts are shown alphabetically"},
+               {"Image1_1", "Call Account Phone or Cell"}}) {
       QCOMPARE(desk.Driver().Control(QString::fromLatin1(name))->toolTip(), QString::fromLatin1(tip));
     }
   }

@@ -97,17 +97,17 @@ void MainMenu::theCaptionsAndTips() {
   ProgramFixture program;
   QVERIFY(program.StartAtMenu());
   ScreenDriver menu(u"frmStartup"_s);
-  const QList<QStringList> told{{u"Create a C&ustomer Invoice"_s, u"Select Customer and Create Invoice"_s},
-                                {u"&Add to a Partial Invoice"_s, u"Add Items to a Partially Created Invoice"_s},
-                                {u"&View or Reprint Completed Invoices"_s, u"Displays Completed Invoices"_s},
-                                {u"&Create and Manage - Sales Items,  Custom Items, Services, and Labor Rates"_s,
-                                 u"Items that you will add to an Invoice"_s},
-                                {u"Create an &Invoice Report"_s, u"Shows Sales, Tax, Discounts, etc"_s},
-                                {u"Create an Item &Sales Report"_s, u"Display and Print a Report by Items Sold"_s},
-                                {u"Print Blank Invoices"_s, u"Shows tax(es) by date range"_s}};
+  const QList<QStringList> captions{{u"Create a C&ustomer Invoice"_s, u"Select Customer and Create Invoice"_s},
+                                    {u"&Add to a Partial Invoice"_s, u"Add Items to a Partially Created Invoice"_s},
+                                    {u"&View or Reprint Completed Invoices"_s, u"Displays Completed Invoices"_s},
+                                    {u"&Create and Manage - Sales Items,  Custom Items, Services, and Labor Rates"_s,
+                                     u"Items that you will add to an Invoice"_s},
+                                    {u"Create an &Invoice Report"_s, u"Shows Sales, Tax, Discounts, etc"_s},
+                                    {u"Create an Item &Sales Report"_s, u"Display and Print a Report by Items Sold"_s},
+                                    {u"Print Blank Invoices"_s, u"Shows tax(es) by date range"_s}};
   for (int i = 0; i < 7; ++i) {
-    QCOMPARE(menu.Control<QRadioButton>(Option(i))->text(), told[i][0]);
-    QCOMPARE(menu.Control<QRadioButton>(Option(i))->toolTip(), told[i][1]);
+    QCOMPARE(menu.Control<QRadioButton>(Option(i))->text(), captions[i][0]);
+    QCOMPARE(menu.Control<QRadioButton>(Option(i))->toolTip(), captions[i][1]);
   }
   QCOMPARE(menu.Control(u"cmdGoto"_s)->toolTip(), u"Starts the Selected Routine"_s);
 }
