@@ -22,20 +22,17 @@ namespace {
 /// A started program on a tree of so many customers.
 class Running {
  public:
-  explicit Running(int customers)
-      : m_store(m_files), m_paper(m_store, m_dialogs, m_tree.path()), m_program(OnTree(customers)) {
+  explicit Running(const QString& tree) : m_store(m_files), m_paper(m_store, m_dialogs, tree), m_program(OnTree(tree)) {
     m_program.Start();
   }
   Program& operator*() { return m_program; }
-  QString Root() const { return m_tree.path(); }
 
  private:
-  Platform OnTree(int customers) {
-    FillTree(m_tree.path(), customers, Limit::Catalogue, 1);
+  Platform OnTree(const QString& tree) {
     Platform platform;
-    platform.DataRoot = m_tree.path();
+    platform.DataRoot = tree;
     platform.EXEName = u"KarvexInvoicer"_s;
-    platform.ProgramFolder = m_tree.path();
+    platform.ProgramFolder = tree;
     platform.LockFolder = m_lock.path();
     platform.Version = u"1.0.0"_s;
     platform.Files = &m_files;
@@ -45,7 +42,6 @@ class Running {
     return platform;
   }
 
-  QTemporaryDir m_tree;
   QTemporaryDir m_lock;
   FileDevice m_files;
   FileStore m_store;
@@ -83,16 +79,18 @@ double StepTime(Program& program) {
 
 }  // namespace
 
-void MeasureCustomers() {
+void MeasureCustomers(const QString& fullTree) {
   ApplyStyle(*qApp);
-  Running full(Limit::Customers);
+  Running full(fullTree);
   FileDevice device;
   FileStore store(device);
   OpenAndClose(*full);
   const Pair opening = MediansOf(
-      5, [&] { OpenAndClose(*full); }, [&] { ReadAndSort(full.Root() + u"/CustomerData.txt"_s, store); });
+      5, [&] { OpenAndClose(*full); }, [&] { ReadAndSort(fullTree + u"/CustomerData.txt"_s, store); });
   Report(u"opening the customer screen, over reading the file and sorting names"_s, opening, 3);
 
-  Running few(10);
+  const QTemporaryDir small;
+  FillTree(small.path(), 10, Limit::Catalogue, 1);
+  Running few(small.path());
   Report(u"one step to the next of 32,767 customers, over one of 10"_s, {StepTime(*full), StepTime(*few)}, 1.1);
 }

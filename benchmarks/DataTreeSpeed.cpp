@@ -1,5 +1,4 @@
 #include <sys/stat.h>
-#include <QTemporaryDir>
 #include <vector>
 
 #include "benchmarks/Measure.h"
@@ -11,18 +10,16 @@
 
 using namespace Qt::StringLiterals;
 
-void MeasureDataTree() {
-  QTemporaryDir tree;
-  FillTree(tree.path(), Limit::Customers, 1, 1);
+void MeasureDataTree(const QString& fullTree) {
   FileDevice device;
   FileStore store(device);
-  CommonDiskRoutines disk(store, tree.path(), u"KarvexInvoicer"_s);
+  CommonDiskRoutines disk(store, fullTree, u"KarvexInvoicer"_s);
   SystemClock clock;
   MakeDataTree(disk, clock);
 
   std::vector<QByteArray> folders;
   for (int i = 0; i < Limit::Customers; ++i) {
-    const QByteArray folder = tree.path().toLocal8Bit() + "/AuxFiles/" + QByteArray::number(100000 + i);
+    const QByteArray folder = fullTree.toLocal8Bit() + "/AuxFiles/" + QByteArray::number(100000 + i);
     folders.push_back(folder);
     for (int n = 0; n < 6; ++n) folders.push_back(folder + "/AuxFile" + QByteArray::number(n));
   }

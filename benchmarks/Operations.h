@@ -1,18 +1,18 @@
-/// The measured operations. Each prints its rows.
+/// The measured operations. Each prints its rows. `fullTree` is a tree filled to all limits, which they share.
 #pragma once
 
 #include <QString>
 
 /// Time to the first window, and memory beside it, over a bare window of the toolkit: each run is a process of its own,
 /// which `RunAsStarter` is.
-void MeasureStart(const QString& ownProgramFile);
+void MeasureStart(const QString& ownProgramFile, const QString& fullTree);
 /// The part of a child process of `MeasureStart`; answers its exit code, or -1 where the arguments ask for none.
 int RunAsStarter(int argc, char* argv[]);
 
 /// The customers' folders at start, over the same calls made raw.
-void MeasureDataTree();
+void MeasureDataTree(const QString& fullTree);
 /// Opening the customer screen over reading the file once and sorting the names, and one step of navigation.
-void MeasureCustomers();
+void MeasureCustomers(const QString& fullTree);
 /// A commit of 100 lines on full files over the same on empty ones.
 void MeasureCommit();
 /// A page to PDF over the same texts and lines drawn straight.
