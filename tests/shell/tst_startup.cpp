@@ -31,15 +31,16 @@ class StartUp : public QObject {
   void aMissingFileComesBackFromTheBackupAtContinue();
   void aFileMissingInBothPlacesShowsTheWelcomeFrame();
   void eachOfTheThreeFilesGetsItsRestoreEvenWhenAnotherIsMissing();
+  void theStartBringsBackTheFilesThatItAsksForAndNoOther();
   void aCustomerGetsAFolderWithSixInside();
   void accountNumbersThatCouldLeaveTheirFolderArePassedOver();
   void aNewYearAddsItsFolderAndNothingElse();
   void aSecondStartIsRefusedAndChangesNothing();
+  void aSecondStartInANewYearMakesNoFolder();
+  void aRenamedCopyBesideTheRunningProgramIsASecondStart();
   void theMarkOfARunningProgramLiesOutsideTheTree();
   void aRenamedProgramFileHasItsOwnFolders();
   void theCloseBoxRunsTheBackupAndEndsTheProgram();
-  void aDamagedSettingsFileEndsTheStartAndChangesNothing_data();
-  void aDamagedSettingsFileEndsTheStartAndChangesNothing();
   void aFolderThatCannotBeMadeEndsTheStartWithABox();
 };
 
@@ -168,6 +169,37 @@ void StartUp::eachOfTheThreeFilesGetsItsRestoreEvenWhenAnotherIsMissing() {
   QCOMPARE(program.Tree.Bytes(u"/Phone.txt"_s), "#FALSE#\r\n1\r\n");
 }
 
+void StartUp::theStartBringsBackTheFilesThatItAsksForAndNoOther() {
+  const QMap<QString, QByteArray> asked{
+      {u"/KarvexInvoicerSettings.txt"_s, DefaultSettings},
+      {u"/MyBusinessData.txt"_s, "\"Shop\",\"\",\"\",\"\",\"\",\"\",\"555-1234\",\"\",\"\"\r\n"},
+      {u"/Phone.txt"_s, "#FALSE#\r\n1\r\n"},
+      {u"/CallID.txt"_s, "#FALSE#\r\n"},
+      {u"/PrintColors.txt"_s, "0\r\n0\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n"},
+      {u"/TaxSettings.txt"_s, "\"Sales Tax\",\"Tax\",\"6.0\",\"1.0\",1,0\r\n"},
+      {u"/CompanyLogo.txt"_s, "\"/no/such/logo.png\"\r\n"},
+      {u"/LogoSettings.txt"_s, "1440,1440\r\n"},
+      {u"/ShipVia.txt"_s, "UPS\r\n"},
+      {u"/InvoiceMemo.txt"_s, "Thank you\r\n"},
+      {u"/CustomerData.txt"_s, Customer("1001")},
+      {u"/Labor.txt"_s, "\"General Labor\",\"$1.00\"\r\n\"\",\"$0.00\"\r\n\"\",\"$0.00\"\r\n"},
+      {u"/Services.txt"_s, QByteArray(72, ' ')},
+      {u"/KVInventoriedItems.txt"_s, QByteArray(104, ' ')},
+      {u"/CustomItems.txt"_s, QByteArray(70, ' ')}};
+  ProgramFixture program;
+  for (const auto& [name, bytes] : asked.asKeyValueRange()) program.Tree.Write(u"/Backup"_s + name, bytes);
+  for (const auto* name : {"KVInvoiceNo", "StatementTerms", "SoldItems", "TaxRecords", "InvoiceSalesJournal",
+                           "Narrative", "AuxHeadings", "SpeedNumbers", "MyWebSite", "KAPaymentRecords"}) {
+    program.Tree.Write(u"/Backup/%1.txt"_s.arg(QLatin1String(name)), "not asked for");
+  }
+  QVERIFY(program.Start());
+  QVERIFY(ScreenDriver::IsShown(u"frmSplash"_s));
+  QMap<QString, QByteArray> back = program.Tree.Everything();
+  back.removeIf(
+      [](const std::pair<const QString&, QByteArray&>& file) { return file.first.startsWith(u"/Backup/"_s); });
+  QCOMPARE(back, asked);
+}
+
 void StartUp::aCustomerGetsAFolderWithSixInside() {
   ProgramFixture program;
   program.Tree.Write(u"/CustomerData.txt"_s, Customer("1001"));
@@ -212,6 +244,27 @@ void StartUp::aSecondStartIsRefusedAndChangesNothing() {
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
+void StartUp::aSecondStartInANewYearMakesNoFolder() {
+  ProgramFixture first;
+  QVERIFY(first.Start());
+  const QStringList before = first.Tree.List();
+  first.Calendar.Set(QDate(2027, 1, 1));
+  first.Answers.Ok(u"Karvex Invoicer is already Running!\nLook for it on the Task Bar"_s);
+  QVERIFY(!first.StartSecond());
+  QCOMPARE(first.Tree.List(), before);
+}
+
+void StartUp::aRenamedCopyBesideTheRunningProgramIsASecondStart() {
+  ProgramFixture first;
+  QVERIFY(first.Start());
+  const QStringList before = first.Tree.List();
+  first.EXEName = u"Billing"_s;
+  first.Answers.Ok(u"Karvex Invoicer is already Running!\nLook for it on the Task Bar"_s);
+  QVERIFY(!first.StartSecond());
+  QCOMPARE(first.Tree.List(), before);
+  QVERIFY(ScreenDriver::IsShown(u"frmSplash"_s));
+}
+
 void StartUp::theMarkOfARunningProgramLiesOutsideTheTree() {
   ProgramFixture program;
   QVERIFY(program.Start());
@@ -243,37 +296,6 @@ void StartUp::theCloseBoxRunsTheBackupAndEndsTheProgram() {
            "\"Shop\",\"\",\"\",\"\",\"\",\"\",\"555-1234\",\"\",\"\"\r\n");
   QVERIFY(!program.Tree.Exists(u"/Backup/Phone.txt"_s));
   QCOMPARE(program.Tree.Bytes(u"/Backup/MyWebSite.txt"_s), "\"old\"\r\n");
-}
-
-void StartUp::aDamagedSettingsFileEndsTheStartAndChangesNothing_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QByteArray>("bytes");
-  QTest::newRow("profile, empty") << u"/MyBusinessData.txt"_s << QByteArray();
-  QTest::newRow("profile, cut short") << u"/MyBusinessData.txt"_s << QByteArray("\"Shop\",\"\",");
-  QTest::newRow("settings, empty") << u"/KarvexInvoicerSettings.txt"_s << QByteArray();
-  QTest::newRow("settings, letters for a number") << u"/KarvexInvoicerSettings.txt"_s << QByteArray("x,0,0,0,0\r\n");
-  QTest::newRow("phone, empty") << u"/Phone.txt"_s << QByteArray();
-  QTest::newRow("phone, garbled") << u"/Phone.txt"_s << QByteArray("\x01\x02\x03");
-  QTest::newRow("caller id, empty") << u"/CallID.txt"_s << QByteArray();
-  QTest::newRow("colours, cut short") << u"/PrintColors.txt"_s << QByteArray("0\r\n0\r\n");
-  QTest::newRow("colours, garbled") << u"/PrintColors.txt"_s << QByteArray("red\r\n0\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n");
-  QTest::newRow("taxes, cut short") << u"/TaxSettings.txt"_s << QByteArray("\"Sales Tax\"");
-  QTest::newRow("logo size, garbled") << u"/LogoSettings.txt"_s << QByteArray("wide,1440\r\n");
-  QTest::newRow("labor, cut short") << u"/Labor.txt"_s << QByteArray("\"General Labor\",\"$0.00\"\r\n");
-  QTest::newRow("services, beyond the limit") << u"/Services.txt"_s << QByteArray(256 * 72, ' ');
-}
-
-void StartUp::aDamagedSettingsFileEndsTheStartAndChangesNothing() {
-  QFETCH(QString, name);
-  QFETCH(QByteArray, bytes);
-  ProgramFixture program;
-  program.Tree.Write(name, bytes);
-  program.Tree.Write(u"/Backup"_s + name, "the good copy");
-  program.Answers.Ok({}, u"Karvex Invoicer"_s);
-  QVERIFY(!program.Start());
-  QVERIFY2(program.Answers.Last().Text.contains(name.mid(1)), qPrintable(program.Answers.Last().Text));
-  QCOMPARE(program.Tree.Bytes(name), bytes);
-  QCOMPARE(program.Tree.Bytes(u"/Backup"_s + name), "the good copy");
 }
 
 void StartUp::aFolderThatCannotBeMadeEndsTheStartWithABox() {
