@@ -211,6 +211,10 @@ class DiskRoutinesTest : public QObject {
   void filesOfAFolderAreFoundByWildcard() {
     QVERIFY(QDir(m_root->path()).mkpath(u"KarvexProposals/ProposalBody"_s));
     QVERIFY(!m_disk->AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s));
+    Put(u"/KarvexProposals/A.TXT"_s, "");
+    QVERIFY(m_disk->AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s));
+    QCOMPARE(m_disk->ListFiles(u"/KarvexProposals"_s, u"*.txt"_s), QStringList{u"A.TXT"_s});
+    QVERIFY(QFile::remove(m_root->path() + u"/KarvexProposals/A.TXT"_s));
     Put(u"/KarvexProposals/B.txt"_s, "");
     Put(u"/KarvexProposals/a.txt"_s, "");
     QVERIFY(m_disk->AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s));

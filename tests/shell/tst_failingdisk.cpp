@@ -39,6 +39,7 @@ class FailingDisk : public QObject {
  private Q_SLOTS:
   void setupKeepsItsFilesAndIsSavedLater_data() { AddFailures(); }
   void setupKeepsItsFilesAndIsSavedLater();
+  void aFolderThatCannotBeFlushedIsToldThoughTheNewFileStands();
   void theCatalogueKeepsItsFilesAndIsSavedLater_data() { AddFailures(); }
   void theCatalogueKeepsItsFilesAndIsSavedLater();
   void theExitBackupPassesOverWhatItCannotWrite();
@@ -68,6 +69,23 @@ void FailingDisk::setupKeepsItsFilesAndIsSavedLater() {
   setup.Click(u"cmdQuit"_s);
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
   QVERIFY(program.Tree.Bytes(u"/MyBusinessData.txt"_s).startsWith("\"A New Name\",\"12 Grove Road\","));
+}
+
+void FailingDisk::aFolderThatCannotBeFlushedIsToldThoughTheNewFileStands() {
+  ProgramFixture program;
+  QVERIFY(program.StartAtMenu());
+  ScreenDriver(u"frmStartup"_s).Trigger(u"mnuCreate"_s);
+  const ScreenDriver setup(u"frmSetup"_s);
+  setup.Fill(u"txtBusiness_0"_s, u"A New Name"_s);
+  program.Files.FailAlways(FailingDevice::Call::FlushFolder, EIO);
+  program.Answers.Ok({}, u"Karvex Invoicer"_s);
+  setup.Click(u"cmdQuit"_s);
+  QCOMPARE(program.Answers.Last().Text,
+           program.Tree.Path(u"/MyBusinessData.txt"_s) +
+               u": The file or folder can't be used. (error 75)\n\n"
+               "Check that you may read and write the file and its folder, then try again. Nothing was lost."_s);
+  QVERIFY(program.Tree.Bytes(u"/MyBusinessData.txt"_s).startsWith("\"A New Name\","));
+  QVERIFY(ScreenDriver::IsShown(u"frmSetup"_s));
 }
 
 void FailingDisk::theCatalogueKeepsItsFilesAndIsSavedLater() {
