@@ -51,8 +51,8 @@ frmInvoice::~frmInvoice() {
 
 std::function<void()> frmInvoice::Doing(std::function<void()> handler) {
   return [this, handler = std::move(handler)] {
-    // An event inside another event finds values that the boxes don't show yet.
-    if (m_depth == 0) CollectTexts();
+    // An event inside another one, or inside the showing, finds values that the boxes don't show yet.
+    if (m_depth == 0 && !m_showing) CollectTexts();
     ++m_depth;
     const auto shown = qScopeGuard([this] {
       --m_depth;
