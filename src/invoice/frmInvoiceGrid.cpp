@@ -22,7 +22,5 @@ void frmInvoice::WireGrid() {
   ui->mnuDeleteItem->setShortcut(Qt::Key_Delete);
   ui->mnuDeleteItem->setShortcutContext(Qt::WidgetShortcut);
   grid->addAction(ui->mnuDeleteItem);
-  On(ui->mnuDeleteItem, &QAction::triggered, Doing([this] {
-       if (CanDeleteLine(m_invoice)) DeleteItem(m_invoice, m_desk.Boxes);
-     }));
+  On(ui->mnuDeleteItem, &QAction::triggered, Doing([this] { DeleteItem(m_invoice, m_desk.Boxes); }));
 }

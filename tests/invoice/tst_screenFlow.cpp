@@ -30,6 +30,7 @@ class ScreenFlow : public QObject {
   void aNewInvoiceOpensInItsSetupView();
   void aRecalledInvoiceOpensToBeAddedTo();
   void aRecalledInvoiceKeepsItsReferenceAndCustomer();
+  void aRecalledInvoiceStartsWithoutLaborOrADeductedDiscount();
   void aNewInvoiceAfterARecalledOneUnlocksTheNumber();
   void openingAgainClearsTheInvoiceBefore();
   void templatesShowWhereTheFolderHoldsAny();
@@ -106,6 +107,26 @@ void ScreenFlow::aRecalledInvoiceKeepsItsReferenceAndCustomer() {
   bench.On().Click(u"cmdRedo"_s);
   QCOMPARE(bench.Text(u"txtReference"_s), u"PO 77"_s);
   QCOMPARE(bench.Row(1), QStringList(6, QString()));
+}
+
+void ScreenFlow::aRecalledInvoiceStartsWithoutLaborOrADeductedDiscount() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Trigger(u"mnuLabor"_s);
+  bench.On().Type(u"2"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_1"_s);
+  bench.On().Type(u"5"_s);
+  bench.On().Click(u"cmdAddDiscount"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdAddDiscount"_s));
+  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$180.00"_s);
+  Recall(bench);
+  bench.Reopen();
+  QVERIFY(bench.Invoice.Controls.Enabled.cmdAddDiscount);
+  QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$0.00"_s);
+  QCOMPARE(bench.Text(u"txtHours_1"_s), u"0"_s);
 }
 
 void ScreenFlow::aNewInvoiceAfterARecalledOneUnlocksTheNumber() {
@@ -262,10 +283,13 @@ void ScreenFlow::menuReadsTheSettingsAgainAndLeaves() {
 
 void ScreenFlow::exitDropsTheInvoice() {
   InvoiceBench bench;
+  bench.Tree.Write(u"/KarvexInvoicerSettings.txt"_s, "1,0,0,0,0,\"1.5\",\"20\",#TRUE#,#FALSE#,\"$0.00\",\"$0.00\"\r\n");
   bench.Open();
   Recall(bench);
   bench.Reopen();
+  bench.Live.Invoicer.cboDiscount = u"2.0"_s;
   bench.On().Click(u"cmdExit"_s);
+  QCOMPARE(bench.Live.Invoicer.cboDiscount, u"1.5"_s);
   QCOMPARE(bench.Around.Asked, (QStringList{u"hide frmInvoice"_s, u"show frmStartup"_s}));
   QVERIFY(!bench.Invoice.RecalledInvoice);
   QCOMPARE(bench.Invoice.LineCount, 0);

@@ -233,6 +233,7 @@ void ScreenHeader::leavingAnEmptyReferenceFillsIt() {
   InvoiceBench bench;
   bench.Open();
   bench.On().Click(u"txtReference"_s);
+  QCOMPARE(bench.Text(u"txtReference"_s), QString());
   bench.On().Click(u"txtShipto_0"_s);
   QCOMPARE(bench.Text(u"txtReference"_s), u"Prepared 3/7/2026"_s);
 }

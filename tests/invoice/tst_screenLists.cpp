@@ -143,11 +143,12 @@ void ScreenLists::theListsFollowTheCatalogue() {
   InvoiceBench bench;
   OpenAt(bench, u"mnuServices"_s);
   bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
-  bench.Tree.Write(u"/Services.txt"_s, Field("Polishing", 60) + Field("$15.00", 10) + Bytes16(1));
+  bench.Tree.Write(u"/Services.txt"_s, Field("Polishing", 60) + Field("$15.00", 10) + Bytes16(1) +
+                                           Field("Sanding", 60) + Field("$16.00", 10) + Bytes16(1));
   bench.Prices.LoadServices();
   ScreenDriver::ProcessEvents();
   const auto* list = bench.On().Control<QComboBox>(u"cboDescription_0"_s);
-  QCOMPARE(list->count(), 1);
+  QCOMPARE(list->count(), 2);
   QCOMPARE(list->currentText(), QString());
   QCOMPARE(bench.Text(u"cboPrice_0"_s), QString());
   bench.On().PickEntry(u"cboDescription_0"_s, 0);
