@@ -2,9 +2,13 @@
 # Runs the demonstration on an X display with a window manager, in a folder that is gone afterwards.
 folder=$(mktemp -d)
 export QT_QPA_PLATFORM=xcb
+# openbox runs the command once it manages the display.
 xvfb-run -a -s "-screen 0 1920x1080x24" sh -c '
-  openbox --sm-disable >/dev/null 2>&1 &
+  ready=$2/ready
+  openbox --sm-disable --startup "touch $ready" >/dev/null 2>&1 &
   manager=$!
+  tries=0
+  while [ ! -e "$ready" ] && [ $tries -lt 300 ]; do sleep 0.1; tries=$((tries + 1)); done
   "$1" "$2"
   result=$?
   kill $manager

@@ -108,10 +108,10 @@ void ScreenDriver::Activate() const {
   if (!m_window->isVisible()) {
     qFatal("%s isn't shown", qPrintable(m_window->objectName()));
   }
-  // A window manager takes its time; behind a box no window is active.
+  // A window manager takes its time, above all on a busy machine; behind a box no window is active.
   if (!m_window->isActiveWindow() && QApplication::activeModalWidget() == nullptr) {
     m_window->activateWindow();
-    if (!QTest::qWaitForWindowActive(m_window)) {
+    if (!QTest::qWaitForWindowActive(m_window, 30000)) {
       Fail(u"%1 doesn't become active"_s.arg(m_window->objectName()));
     }
   }
