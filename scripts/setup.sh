@@ -1,9 +1,15 @@
 #!/bin/sh
-# Installs the Debian packages that are missing; quiet and quick when none is.
+# setup.sh LIST...: installs the Debian packages of the lists that are missing; quiet and quick when none is.
+# The lists stand beside it: packages.run (building and running) and packages.test (testing, on top of that).
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
+[ $# -gt 0 ] || { echo "Usage: setup.sh run [test]" >&2; exit 2; }
 missing=
-for package in $(grep -v '^#' "$here/packages"); do
+wanted=
+for list in "$@"; do
+  wanted="$wanted $(grep -v '^#' "$here/packages.$list")"
+done
+for package in $wanted; do
   state=$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null || true)
   [ "$state" = "install ok installed" ] || missing="$missing $package"
 done
