@@ -52,14 +52,17 @@ void SaveTaxSettings(CommonDiskRoutines& disk, const TaxConfiguration& tax) {
 }
 
 int CloseGraduatedTax(TaxConfiguration& tax) {
+  auto amounts = tax.txtGradulated;
   for (int i = 0; i < 2; ++i) {
-    QString& amount = tax.txtGradulated[static_cast<std::size_t>(i)];
+    QString& amount = amounts[static_cast<std::size_t>(i)];
     if (!IsNumeric(amount)) {
       amount = ZeroCurrencyText();
+      tax.txtGradulated = amounts;
       return i;
     }
-    amount = CurrencyText(ToNumber(amount));
+    amount = CurrencyText(ToNumber(amount, u"Graduated Tax Levels"_s));
   }
+  tax.txtGradulated = amounts;
   if (tax.txtGradulated[0] == ZeroCurrencyText()) tax.ckApplyGraduated = false;
   return -1;
 }

@@ -38,4 +38,5 @@ void SaveTaxSettings(CommonDiskRoutines& disk, const TaxConfiguration& tax);
 
 /// Closing the graduated scheme: both amounts become currency text, and a limit of zero turns the scheme off. Answers
 /// -1; or the index of the first box that holds no number, which is set to zero then, and the rest isn't looked at.
+/// Throws RuntimeError 6 for a number too large to be one; nothing has changed then.
 int CloseGraduatedTax(TaxConfiguration& tax);

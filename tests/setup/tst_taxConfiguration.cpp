@@ -131,6 +131,19 @@ class TaxConfigurationTest : public QObject {
     QCOMPARE(tax.txtGradulated[1], surchargeAfter);
     QCOMPARE(tax.ckApplyGraduated, true);
   }
+
+  void anAmountTooLargeForANumberChangesNothing() {
+    TaxConfiguration tax;
+    tax.ckApplyGraduated = true;
+    tax.txtGradulated = {u"0"_s, u"1E400"_s};
+    const RuntimeError error = CaughtFrom([&] { CloseGraduatedTax(tax); });
+    QCOMPARE(error.Number(), ErrorNumber::Overflow);
+    QCOMPARE(error.From(), RuntimeError::Origin::Event);
+    QCOMPARE(error.Subject(), u"Graduated Tax Levels"_s);
+    QCOMPARE(tax.txtGradulated[0], u"0"_s);
+    QCOMPARE(tax.txtGradulated[1], u"1E400"_s);
+    QCOMPARE(tax.ckApplyGraduated, true);
+  }
 };
 
 QTEST_GUILESS_MAIN(TaxConfigurationTest)
