@@ -3,5 +3,6 @@
 
 #include <QByteArray>
 
-/// Whether the bytes are a picture that can be decoded whole.
+/// Whether the bytes show and print as a picture. Of one that is cut short some formats (JPEG, BMP) still give what is
+/// there, and so it is one; PNG and ICO give nothing, and it is none.
 bool IsPicture(const QByteArray& content);
