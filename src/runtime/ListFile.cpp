@@ -1,5 +1,7 @@
 #include "runtime/ListFile.h"
 
+#include <array>
+#include <charconv>
 #include <QLocale>
 
 #include "runtime/CodePage.h"
@@ -112,6 +114,14 @@ ListWriter& ListWriter::Field(const QString& text) {
 ListWriter& ListWriter::Field(double number) {
   Separate();
   m_content += QByteArray::number(number, 'g', QLocale::FloatingPointShortest);
+  return *this;
+}
+
+ListWriter& ListWriter::Field(float number) {
+  Separate();
+  std::array<char, 32> digits;
+  const std::to_chars_result end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+  m_content.append(digits.data(), end.ptr - digits.data());
   return *this;
 }
 

@@ -43,6 +43,7 @@ class ListWriter {
   /// Fields of one `Write` stand on one line: strings quoted, numbers bare with a point, booleans `#TRUE#`/`#FALSE#`.
   ListWriter& Field(const QString& text);
   ListWriter& Field(double number);
+  ListWriter& Field(float number);  ///< With no more digits than single precision needs to read back.
   ListWriter& Field(int number);
   ListWriter& Field(bool value);
   ListWriter& EndLine();

@@ -42,6 +42,8 @@ class ListFileTest : public QObject {
   }
 
   void textIsWrittenInTheCodePage() {
+    QCOMPARE(ListWriter().Field(899.6F).Field(1440.0F).Field(0.1F).Field(-2.25F).EndLine().Content(),
+             "899.6,1440,0.1,-2.25\r\n");
     QCOMPARE(ListWriter().Field(u"\u20ac\u0105"_s).EndLine().Content(), "\"\x80?\"\r\n");
   }
 
