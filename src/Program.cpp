@@ -57,8 +57,9 @@ std::unique_ptr<Screen> Program::Build(ScreenName screen) {
     case ScreenName::frmStartup:
       return std::make_unique<frmStartup>(*this, *this, MenuContext());
     case ScreenName::frmSetup:
-      return std::make_unique<frmSetup>(
-          *this, *this, SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live, m_platform.ProgramFolder});
+      return std::make_unique<frmSetup>(*this, *this,
+                                        SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live,
+                                                     m_objects->Dialog, m_platform.ProgramFolder});
     case ScreenName::frmServices:
       return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
     case ScreenName::frmInvoice:
@@ -137,10 +138,7 @@ void Program::StartInvoiceFor(const SoldTo& customer) {
 }
 
 void Program::PrintSample() {
-  m_objects->Routines.RunPrintJob(*m_platform.Boxes, [this] {
-    m_objects->Routines.BeginPrintJobWithoutDialog();
-    m_objects->Pages.PrintSample();
-  });
+  m_objects->Routines.RunPrintJob(*m_platform.Boxes, [this] { m_objects->Pages.PrintSample(); });
 }
 
 void Program::QuitProgram() {

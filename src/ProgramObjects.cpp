@@ -11,7 +11,7 @@ Program::Objects::Objects(const Platform& platform)
       Disk(Store, platform.DataRoot, platform.EXEName),
       Instance(Store, platform.LockFolder, platform.DataRoot),
       Prices(Disk, Lists, SalesItems),
-      Routines(*platform.Paper, Live.Print),
+      Routines(*platform.Paper, Live.Print, Dialog),
       Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}) {}
 
 void Program::Objects::LoadSettings() {

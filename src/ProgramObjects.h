@@ -13,6 +13,7 @@
 #include "runtime/Clock.h"
 #include "runtime/Dialogs.h"
 #include "setup/LiveSettings.h"
+#include "shell/CommonDialog.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/MainMenu.h"
 #include "shell/PreviousInstance.h"
@@ -36,6 +37,7 @@ struct Program::Objects {
   CustomerOnScreen Customer;
   WorkingInvoice Invoice;
   PartialList Partials;
+  CommonDialog Dialog;
   PrinterRoutines Routines;
   KVPrint Pages;
 };

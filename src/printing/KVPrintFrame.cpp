@@ -102,7 +102,9 @@ void KVPrint::PrintLogo() {
   if (look.Logo.isEmpty()) return;
   // Centred by its frame and drawn at its own size: meant.
   const double x = (m_printer.Width - look.LogoFrameWidth) / 2.0;
-  m_printer.PaintPicture(look.Logo, static_cast<int>(std::lrint(x)), 720, look.LogoWidth, look.LogoHeight);
+  const auto twips = [](double size) { return static_cast<int>(std::lrint(size)); };
+  m_printer.PaintPicture(look.Logo, twips(x), 720, twips(static_cast<double>(look.LogoWidth)),
+                         twips(static_cast<double>(look.LogoHeight)));
 }
 
 void KVPrint::PrintBusinessBlock(float x, float y, qint16 size) {

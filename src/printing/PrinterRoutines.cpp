@@ -4,14 +4,16 @@
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "setup/PrintAppearance.h"
+#include "shell/CommonDialog.h"
 
 using namespace Qt::StringLiterals;
 
-PrinterRoutines::PrinterRoutines(Printer& printer, const PrintAppearance& appearance)
-    : m_printer(printer), m_appearance(appearance) {}
+PrinterRoutines::PrinterRoutines(Printer& printer, const PrintAppearance& appearance, CommonDialog& dialog)
+    : m_printer(printer), m_appearance(appearance), m_dialog(dialog) {}
 
 void PrinterRoutines::ChoosePrinter() {
   // Copies belong to the dialog: the stored `PrintCopies` is shown in Setup and printed by nobody, which is meant.
+  m_dialog.FileName.clear();
   m_printer.ShowPrinter();
 }
 

@@ -8,6 +8,7 @@
 #include "runtime/Printer.h"
 
 class Dialogs;
+struct CommonDialog;
 struct PrintAppearance;
 
 inline constexpr float TwipsPerInch = 1440.0F;
@@ -22,13 +23,14 @@ inline constexpr quint32 Green = 0x00FF00;  ///< The statement terms, with `ckCo
 
 class PrinterRoutines {
  public:
-  PrinterRoutines(Printer& printer, const PrintAppearance& appearance);
+  PrinterRoutines(Printer& printer, const PrintAppearance& appearance, CommonDialog& dialog);
 
   Printer& Surface() { return m_printer; }
   /// The last colour chosen by `SetPrintColor`; black when colour is off.
   quint32 InkColor() const { return m_inkColor; }
 
-  /// The printer dialog. Throws RuntimeError 32755 when the user cancels.
+  /// The printer dialog, which forgets the file that the shared dialog found before. Throws RuntimeError 32755 when
+  /// the user cancels.
   void ChoosePrinter();
   /// Letter paper in twips, the document font, black and plain; the font size stays. Any other text than "Portrait" is
   /// landscape.
@@ -71,6 +73,7 @@ class PrinterRoutines {
  private:
   Printer& m_printer;
   const PrintAppearance& m_appearance;
+  CommonDialog& m_dialog;
   quint32 m_inkColor = FixedInk::Black;
   bool m_setUp = false;
 };

@@ -30,6 +30,8 @@ QString TextOf(int number) {
       return u"The file or folder can't be used."_s;
     case ErrorNumber::PathNotFound:
       return u"The folder isn't there."_s;
+    case ErrorNumber::InvalidPicture:
+      return u"It can't be read as a picture."_s;
     case ErrorNumber::PrinterError:
       return u"The printer can't be used."_s;
     case ErrorNumber::DialogCancelled:

@@ -17,6 +17,7 @@ inline constexpr int BadFileName = 64;
 inline constexpr int PermissionDenied = 70;
 inline constexpr int PathFileAccess = 75;
 inline constexpr int PathNotFound = 76;
+inline constexpr int InvalidPicture = 481;
 inline constexpr int PrinterError = 482;
 inline constexpr int DialogCancelled = 32755;
 }  // namespace ErrorNumber

@@ -10,11 +10,14 @@ namespace {
 
 constexpr int DesignSize = 1440;
 
-/// A width or height of a picture; it can't be negative.
-int ReadSize(ListReader& file) {
-  const qint32 twips = file.ReadInt32();
-  if (twips < 0) throw RuntimeError(ErrorNumber::Overflow, file.FileName(), RuntimeError::Origin::FileContent);
-  return twips;
+/// A width or height of a picture. The range is checked before the number is narrowed, which can't overflow then.
+float ReadSize(ListReader& file) {
+  const double twips = file.ReadNumber();
+  if (!(twips >= 0 && twips <= static_cast<double>(LargestLogoSize))) {
+    throw RuntimeError(ErrorNumber::Overflow, file.FileName(), u"A logo of that size fits on no sheet."_s,
+                       RuntimeError::Origin::FileContent);
+  }
+  return static_cast<float>(twips);
 }
 
 }  // namespace
@@ -22,15 +25,20 @@ int ReadSize(ListReader& file) {
 void LoadLogo(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture) {
   if (!disk.FileExists(u"\\CompanyLogo.txt"_s)) return;
   const QString path = disk.OpenInputFile(u"/CompanyLogo.txt"_s).ReadString();
-  if (disk.Store().IsFile(path)) LoadPicture(disk, print, path, isPicture);
+  if (!disk.Store().IsFile(path)) return;
+  try {
+    LoadPicture(disk, print, path, isPicture);
+  } catch (const RuntimeError& error) {
+    if (error.Number() != ErrorNumber::InvalidPicture) throw;
+    throw RuntimeError(ErrorNumber::InvalidPicture, u"/CompanyLogo.txt"_s,
+                       u"It names "_s + path + u" as the logo, and that file can't be read as a picture."_s,
+                       RuntimeError::Origin::FileContent);
+  }
 }
 
 void LoadPicture(CommonDiskRoutines& disk, PrintAppearance& print, const QString& path, const PictureTest& isPicture) {
   const QByteArray content = disk.Store().ReadWhole(path);
-  if (!isPicture(content)) {
-    throw RuntimeError(InvalidPicture, path, u"The logo's file is no picture that the program can read."_s,
-                       RuntimeError::Origin::FileContent);
-  }
+  if (!isPicture(content)) throw RuntimeError(ErrorNumber::InvalidPicture, path);
   print.Logo = content;
 }
 
@@ -42,8 +50,9 @@ void LoadLogoSettings(CommonDiskRoutines& disk, PrintAppearance& print) {
     return;
   }
   ListReader file = disk.OpenInputFile(u"/LogoSettings.txt"_s);
-  print.LogoWidth = ReadSize(file);
+  const float width = ReadSize(file);
   print.LogoHeight = ReadSize(file);
+  print.LogoWidth = width;
 }
 
 bool CanStoreLogoPath(const QString& path) {
@@ -64,11 +73,12 @@ void SaveLogoSettings(CommonDiskRoutines& disk, const PrintAppearance& print) {
 }
 
 void ClearLogo(CommonDiskRoutines& disk, PrintAppearance& print) {
-  print.Logo.clear();
+  // The file first: where it can't be removed, the logo stays, on the screen too.
   disk.KillWithBackup(u"/CompanyLogo.txt"_s);
+  print.Logo.clear();
   print.LogoFrameWidth = DesignSize;
 }
 
-int NextLogoSize(int twips) {
+float NextLogoSize(float twips) {
   return twips < 1800 ? twips + 90 : 180;
 }

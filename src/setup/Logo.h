@@ -11,11 +11,15 @@
 using PictureTest = std::function<bool(const QByteArray& content)>;
 
 /// Reads the picture that /CompanyLogo.txt names. A path that leads to no file leaves the logo as it is. Throws
-/// RuntimeError 481 for a file that is no picture, 62 for a /CompanyLogo.txt that ends too early.
+/// RuntimeError 481 on /CompanyLogo.txt for a file that is no picture, 62 for a /CompanyLogo.txt that ends too early.
 void LoadLogo(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture);
-/// Reads any picture file into the logo. Throws as above; the logo is as it was then.
+/// Reads any picture file into the logo. Throws RuntimeError 481 on that file, or what the reading throws; the logo is
+/// as it was then.
 void LoadPicture(CommonDiskRoutines& disk, PrintAppearance& print, const QString& path, const PictureTest& isPicture);
-/// Reads /LogoSettings.txt, whole twips; without it 1440 by 1440, which is saved.
+/// The longer side of the sheet, in twips: what a logo may have at most.
+inline constexpr float LargestLogoSize = 15840;
+/// Reads /LogoSettings.txt; without it 1440 by 1440, which is saved. Throws RuntimeError 62, 13, or 6 for a size below
+/// zero or above `LargestLogoSize`; both sizes are as they were then.
 void LoadLogoSettings(CommonDiskRoutines& disk, PrintAppearance& print);
 
 /// Whether the path can be read back from a line text file as it was written: no double quote, nothing outside the
@@ -29,6 +33,4 @@ void SaveLogoSettings(CommonDiskRoutines& disk, const PrintAppearance& print);
 void ClearLogo(CommonDiskRoutines& disk, PrintAppearance& print);
 
 /// One step of the two sizing buttons: 90 twips more, from 1800 on back to 180.
-int NextLogoSize(int twips);
-
-inline constexpr int InvalidPicture = 481;
+float NextLogoSize(float twips);

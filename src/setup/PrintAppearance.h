@@ -16,8 +16,8 @@ struct PrintAppearance {
   bool optPlain = true;    ///< Plain paper. One of the two is on, unless a file says otherwise of both.
   bool optReturn = false;  ///< Perforated paper with a remittance slip.
   QByteArray Logo;         ///< The picture file's bytes; empty where there is no picture.
-  int LogoWidth = 1440;    ///< `Image3`, in twips.
-  int LogoHeight = 1440;
+  float LogoWidth = 1440;  ///< `Image3`, in twips, rounded where it is drawn.
+  float LogoHeight = 1440;
   int LogoFrameWidth = 1440;  ///< `Image2`, in twips: the logo is centred by it.
 
   // Stored.

@@ -1,5 +1,7 @@
 #include "setup/frmSetup.h"
 
+#include <QKeyEvent>
+
 #include "desktop/ListCombo.h"
 #include "desktop/PictureButton.h"
 #include "desktop/Pictures.h"
@@ -12,6 +14,24 @@
 #include "ui_frmSetup.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool IsPlainEnter(const QKeyEvent& event) {
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  return enter && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && !event.isAutoRepeat();
+}
+
+/// A box, list, tick or option that shows and can be reached by the Tab key.
+bool IsEntry(const QWidget* control) {
+  const bool fills =
+      qobject_cast<const QLineEdit*>(control) != nullptr || qobject_cast<const QComboBox*>(control) != nullptr ||
+      qobject_cast<const QCheckBox*>(control) != nullptr || qobject_cast<const QRadioButton*>(control) != nullptr;
+  return fills && control->isVisible() && control->isEnabled() && (control->focusPolicy() & Qt::TabFocus) != 0 &&
+         control->focusProxy() == nullptr;
+}
+
+}  // namespace
 
 frmSetup::frmSetup(ScreenHost& host, Screens& screens, SetupContext context)
     : Screen(u"frmSetup"_s, host),
@@ -35,6 +55,30 @@ frmSetup::frmSetup(ScreenHost& host, Screens& screens, SetupContext context)
 
 frmSetup::~frmSetup() = default;
 
+/// Enter in an entry goes on to the next one; from the last amount of the graduated scheme it saves that.
+void frmSetup::keyPressEvent(QKeyEvent* event) {
+  QWidget* const entry = focusWidget();
+  if (!IsPlainEnter(*event) || !IsEntry(entry)) {
+    Screen::keyPressEvent(event);
+    return;
+  }
+  Run([this, entry] {
+    if (entry == (*m_graduated)[1]) {
+      GraduatedTaxClick(1);
+    } else {
+      SetFocusTo(EntryAfter(entry));
+    }
+  });
+}
+
+/// The next entry that shows, or the way out behind the last one: never a button between, which a second Enter would
+/// run.
+QWidget* frmSetup::EntryAfter(QWidget* entry) const {
+  QWidget* next = entry->nextInFocusChain();
+  while (next != entry && next != m_ui->cmdQuit && !IsEntry(next)) next = next->nextInFocusChain();
+  return next;
+}
+
 void frmSetup::BuildMenu() {
   for (const auto& [action, entry] : BuildOrderMenu(m_ui->mnuForms)) {
     On(action, &QAction::triggered,
@@ -44,17 +88,10 @@ void frmSetup::BuildMenu() {
 
 void frmSetup::ConnectTabs() {
   for (PictureButton* next : {m_ui->Image1_0, m_ui->Image1_1}) next->SetPicture(DrawnPicture(Picture::Next, palette()));
-  // The sub-tabs' stepper makes sense only where they show.
-  const auto showStepper = [this](int tab) {
-    const bool options = m_ui->tabInfo->widget(tab) == m_ui->pageOptions;
-    m_ui->lblNextSubTab->setVisible(options);
-    m_ui->Image1_1->setVisible(options);
-  };
-  showStepper(m_ui->tabInfo->currentIndex());
-  On(m_ui->tabInfo, &QTabWidget::currentChanged, showStepper);
   const auto step = [](QTabWidget* tabs) { tabs->setCurrentIndex((tabs->currentIndex() + 1) % tabs->count()); };
   OnClick(
       m_ui->Image1_0, [this, step] { step(m_ui->tabInfo); }, WhenLeaveRefused::Always);
+  // Steps also while another tab hides the sub-tabs, which is meant.
   OnClick(
       m_ui->Image1_1, [this, step] { step(m_ui->SSTab2); }, WhenLeaveRefused::Always);
   OnClick(

@@ -7,6 +7,7 @@
 #include "setup/LiveSettings.h"
 
 class CommonDiskRoutines;
+struct CommonDialog;
 class Dialogs;
 class ListCombo;
 class QCheckBox;
@@ -22,6 +23,7 @@ struct SetupContext {
   CommonDiskRoutines& Disk;
   Dialogs& Boxes;
   LiveSettings& Live;
+  CommonDialog& Dialog;   ///< Shared with printing.
   QString ProgramFolder;  ///< Where the suppliers' pages stand.
 };
 
@@ -35,10 +37,14 @@ class frmSetup final : public Screen {
   void ShowFirstTab();
   bool eventFilter(QObject* watched, QEvent* event) override;
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   // frmSetup.cpp: the whole screen, and the way out.
   void BuildMenu();
   void ConnectTabs();
+  QWidget* EntryAfter(QWidget* entry) const;
   void ShowLiveSettings();
   void SaveAndReturn();
   void RefuseQuotes(QWidget* box);
@@ -70,6 +76,7 @@ class frmSetup final : public Screen {
   void LogoClick(int index);
   void FindLogo();
   void StoreLogo();
+  void StoreFoundLogo();
   void DeleteLogo();
 
   std::unique_ptr<Ui::frmSetup> m_ui;
@@ -78,6 +85,4 @@ class frmSetup final : public Screen {
   std::unique_ptr<ControlArray<QLineEdit, 9>> m_business;
   std::unique_ptr<ControlArray<QLabel, 9>> m_address;
   std::unique_ptr<ControlArray<QLineEdit, 2>> m_graduated;
-  /// The file name of the dialog that Find, the colours and the font share: empty after any other use than Find.
-  QString m_dialogFileName;
 };

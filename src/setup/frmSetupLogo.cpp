@@ -1,6 +1,7 @@
 #include "runtime/Dialogs.h"
 #include "setup/frmSetup.h"
 #include "setup/frmSetupPictures.h"
+#include "shell/CommonDialog.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/Screens.h"
 #include "ui_frmSetup.h"
@@ -9,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int TwipsPerInch = 1440;
+constexpr float TwipsPerInch = 1440;
 /// The frame that a picture on the screen is kept inside, whatever its size on paper.
 constexpr QSize Largest(240, 200);
 
@@ -46,7 +47,8 @@ void frmSetup::ShowLogo() {
   const qreal ratio = devicePixelRatioF();
   const QSize found = picture.size().boundedTo(picture.size().scaled(Largest, Qt::KeepAspectRatio));
   m_ui->Image2->setPixmap(Scaled(picture, found, ratio));
-  const QSize onPaper(print.LogoWidth * logicalDpiX() / TwipsPerInch, print.LogoHeight * logicalDpiY() / TwipsPerInch);
+  const QSize onPaper(qRound(print.LogoWidth * static_cast<float>(logicalDpiX()) / TwipsPerInch),
+                      qRound(print.LogoHeight * static_cast<float>(logicalDpiY()) / TwipsPerInch));
   m_ui->Image3->setPixmap(Scaled(picture, onPaper.boundedTo(Largest).expandedTo({1, 1}), ratio));
 }
 
@@ -78,8 +80,9 @@ void frmSetup::FindLogo() {
   try {
     const QString path = m_context.Boxes.ChooseFile(
         u"Find"_s, u"Pictures |(*.bmp;*.BMP;*.ico;*.ICO; *.cur; *.CUR;*jpg;*JPG; *.EMF)|All|*.*"_s);
-    m_dialogFileName = path;
     LoadPicture(m_context.Disk, m_context.Live.Print, path, IsPicture);
+    // Only now: what is no picture must not be stored, or the next start would end on it.
+    m_context.Dialog.FileName = path;
   } catch (const RuntimeError&) {
     // Cancelled, or no picture: nothing more happens.
     return;
@@ -88,24 +91,32 @@ void frmSetup::FindLogo() {
 }
 
 void frmSetup::StoreLogo() {
-  if (m_dialogFileName.isEmpty()) return;
-  if (!CanStoreLogoPath(m_dialogFileName)) {
+  try {
+    StoreFoundLogo();
+  } catch (const RuntimeError& error) {
+    // No picture (any more): nothing more happens.
+    if (error.Number() != ErrorNumber::InvalidPicture) throw;
+  }
+}
+
+void frmSetup::StoreFoundLogo() {
+  const QString path = m_context.Dialog.FileName;
+  if (path.isEmpty()) return;
+  if (!CanStoreLogoPath(path)) {
     m_context.Boxes.ShowMessage(
         u"The name of this picture's file or of its folder holds a character that can't be stored.\n"
         "Rename it and find it again."_s);
     return;
   }
-  LiveSettings& live = m_context.Live;
-  SaveLogoPath(m_context.Disk, live.Print, m_dialogFileName);
-  SaveLogoSettings(m_context.Disk, live.Print);
+  CommonDiskRoutines& disk = m_context.Disk;
+  PrintAppearance& print = m_context.Live.Print;
+  // The file may have changed since it was found.
+  if (disk.Store().IsFile(path)) LoadPicture(disk, print, path, IsPicture);
+  SaveLogoPath(disk, print, path);
+  SaveLogoSettings(disk, print);
   m_context.Boxes.ShowMessage(u"Your Logo has been Stored"_s);
-  try {
-    LoadLogo(m_context.Disk, live.Print, IsPicture);
-  } catch (const RuntimeError& error) {
-    if (error.Number() != InvalidPicture) throw;
-    return;
-  }
-  LoadLogoSettings(m_context.Disk, live.Print);
+  LoadLogo(disk, print, IsPicture);
+  LoadLogoSettings(disk, print);
   m_ui->cmdLogo_1->setEnabled(false);
 }
 

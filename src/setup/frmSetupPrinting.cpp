@@ -1,26 +1,22 @@
 #include <QButtonGroup>
 
 #include "desktop/ListCombo.h"
+#include "desktop/PackedColor.h"
 #include "runtime/Dialogs.h"
 #include "setup/frmSetup.h"
+#include "shell/CommonDialog.h"
 #include "ui_frmSetup.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A packed 0x00BBGGRR value on the screen.
-QColor ColorOf(quint32 packed) {
-  return QColor(static_cast<int>(packed & 0xFF), static_cast<int>((packed >> 8) & 0xFF),
-                static_cast<int>((packed >> 16) & 0xFF));
-}
-
 /// The box's background is the value; its description says it in words.
 void ShowColor(QLineEdit* box, quint32 packed) {
   QPalette palette = box->palette();
-  palette.setColor(QPalette::Base, ColorOf(packed));
+  palette.setColor(QPalette::Base, ColorFromPacked(packed));
   box->setPalette(palette);
-  box->setToolTip(ColorOf(packed).name());
+  box->setToolTip(ColorFromPacked(packed).name());
   box->setAccessibleDescription(box->toolTip());
 }
 
@@ -64,7 +60,7 @@ void frmSetup::ShowSwatches() {
 
 void frmSetup::ChangeClick(int index) {
   PrintAppearance& print = m_context.Live.Print;
-  m_dialogFileName.clear();
+  m_context.Dialog.FileName.clear();
   try {
     if (index == 0) print.txtBorders = m_context.Boxes.ChooseColor(print.txtBorders);
     if (index == 1) print.txtData = m_context.Boxes.ChooseColor(print.txtData);

@@ -8,6 +8,25 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Whether the key only leads elsewhere, or waits for another.
+bool OnlyLeads(const QKeyEvent& press) {
+  switch (press.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+      return true;
+    default:
+      return press.modifiers().testFlag(Qt::AltModifier) ||
+             (press.key() >= Qt::Key_Shift && press.key() <= Qt::Key_ScrollLock);
+  }
+}
+
+}  // namespace
+
 void frmSetup::ConnectTaxes() {
   TaxConfiguration& tax = m_context.Live.Tax;
   for (const QString& entry : TaxHeading1Entries()) m_ui->cboTaxHeading1->AddEntry(entry);
@@ -86,11 +105,8 @@ void frmSetup::GraduatedTaxClick(int index) {
 bool frmSetup::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && (watched == (*m_graduated)[0] || watched == (*m_graduated)[1])) {
     const auto* press = static_cast<QKeyEvent*>(event);
-    const bool leads = press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab ||
-                       press->modifiers().testFlag(Qt::AltModifier) ||
-                       (press->key() >= Qt::Key_Shift && press->key() <= Qt::Key_ScrollLock);
     auto* box = static_cast<QLineEdit*>(watched);
-    if (!leads && box->text() == ZeroCurrencyText()) box->clear();
+    if (!OnlyLeads(*press) && box->text() == ZeroCurrencyText()) Run([box] { box->clear(); });
   }
   return Screen::eventFilter(watched, event);
 }

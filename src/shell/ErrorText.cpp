@@ -40,7 +40,12 @@ QString ErrorBoxText(const RuntimeError& error, bool ends) {
   QString text = error.Text();
   if (!error.Subject().isEmpty()) text = error.Subject() + u": "_s + text;
   text += u" (error "_s + QString::number(error.Number()) + u")\n\n"_s;
-  if (error.From() == RuntimeError::Origin::FileContent) {
+  if (error.Number() == ErrorNumber::InvalidPicture && ends) {
+    // The picture is the user's own, and a path that is removed alone comes back from the Backup folder.
+    text +=
+        u"The program ends and leaves all files as they are. Put a picture in that place, or move what stands there "
+        u"elsewhere; or remove CompanyLogo.txt and its copy in the Backup folder. Then start the program again."_s;
+  } else if (error.From() == RuntimeError::Origin::FileContent) {
     text +=
         u"The file can't be read as what it must be. The program ends and leaves all files as they are. Put the copy "
         u"from the Backup folder in its place, or remove the file, then start the program again."_s;

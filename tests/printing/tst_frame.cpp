@@ -32,6 +32,7 @@ class TestFrame : public QObject {
   void onlyTheFirstFieldOfTheWebSiteIsPrinted();
   void anEmptyWebSiteFileIsAnError();
   void theLogoHasItsOwnSizeAndIsCentredByItsFrame();
+  void theLogosSizeIsRoundedToWholeTwipsOnThePaper();
   void withoutALogoNoPictureIsDrawn();
 };
 
@@ -280,6 +281,16 @@ void TestFrame::theLogoHasItsOwnSizeAndIsCentredByItsFrame() {
   QCOMPARE(f.Paper.Pictures(1).at(0).Picture, QByteArray("picture"));
   // The cursor stays: the block below the logo is where it is without one.
   QCOMPARE(Described(f.Paper.Texts(1)).at(1), u"1080 576.0 12b 204080 Orchard Supply"_s);
+}
+
+void TestFrame::theLogosSizeIsRoundedToWholeTwipsOnThePaper() {
+  PageFixture f;
+  f.Look.Logo = "picture";
+  f.Look.LogoWidth = 899.6F;
+  f.Look.LogoHeight = 1260.4F;
+  f.Pages.PrintPageFrame(u"INVOICE"_s, 0.4F, u"2500"_s);
+  f.Paper.EndDoc();
+  QCOMPARE(f.Paper.Pictures(1).at(0).Place, QRect(5400, 720, 900, 1260));
 }
 
 void TestFrame::withoutALogoNoPictureIsDrawn() {

@@ -60,7 +60,7 @@ struct Printed {
 
   void Print() {
     Fixture.Pages.PrintInvoice(Fixture.Page, Fixture.Draft);
-    PrinterRoutines routines(Paper, Fixture.Look);
+    PrinterRoutines routines(Paper, Fixture.Look, Fixture.Dialog);
     KVPrint pages(routines, Fixture.Disk, Fixture.Messages, Fixture.Now, {Fixture.Business, Fixture.Look, Fixture.Tax});
     pages.PrintInvoice(Fixture.Page, Fixture.Draft);
   }

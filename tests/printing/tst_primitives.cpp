@@ -23,6 +23,8 @@ class TestPrimitives : public QObject {
   void anyOtherOrientationIsLandscape();
   void aJobBeginsWithTheDialogThenTheSetup();
   void aCancelledDialogSetsNothingUp();
+  void thePrinterDialogForgetsTheFileFoundBefore_data();
+  void thePrinterDialogForgetsTheFileFoundBefore();
   void aJobWithoutDialogSetsUpOnlyAFreshSurface();
   void aLineEndMovesDownByTheLineHeightUnrounded();
   void aJoinedPrintStaysBehindItsText();
@@ -157,6 +159,28 @@ void TestPrimitives::aCancelledDialogSetsNothingUp() {
   f.Paper.DialogError = 32755;
   QVERIFY_THROWS_EXCEPTION(RuntimeError, f.Routines.BeginPrintJob());
   QCOMPARE(f.Paper.ColorMode, 2);
+}
+
+void TestPrimitives::thePrinterDialogForgetsTheFileFoundBefore_data() {
+  QTest::addColumn<int>("dialogError");
+  QTest::newRow("accepted") << 0;
+  QTest::newRow("cancelled") << 32755;
+}
+
+void TestPrimitives::thePrinterDialogForgetsTheFileFoundBefore() {
+  QFETCH(int, dialogError);
+  PageFixture f;
+  f.Dialog.FileName = u"/pictures/logo.png"_s;
+  f.Routines.BeginPrintJobWithoutDialog();
+  QCOMPARE(f.Dialog.FileName, u"/pictures/logo.png"_s);
+  f.Paper.DialogError = dialogError;
+  try {
+    f.Routines.BeginPrintJob();
+  } catch (const RuntimeError& error) {
+    QCOMPARE(error.Number(), dialogError);
+  }
+  QCOMPARE(f.Paper.DialogsShown, 1);
+  QCOMPARE(f.Dialog.FileName, QString());
 }
 
 void TestPrimitives::aJobWithoutDialogSetsUpOnlyAFreshSurface() {

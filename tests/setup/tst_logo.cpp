@@ -51,15 +51,30 @@ class LogoTest : public QObject {
     QCOMPARE(print.Logo, "picture kept");
   }
 
-  void aFileThatIsNoPictureIsRefusedByItsName() {
+  void aFileThatIsNoPictureIsDamageOfTheFileThatNamesIt() {
     DataFolder folder;
     folder.Put(u"/logo.png"_s, "letters");
     folder.Put(u"/CompanyLogo.txt"_s, Quoted(folder.Path(u"/logo.png"_s)));
     PrintAppearance print;
     const RuntimeError error = CaughtFrom([&] { LoadLogo(folder.Disk, print, SaysPicture); });
     QCOMPARE(error.Number(), 481);
-    QCOMPARE(error.Subject(), folder.Path(u"/logo.png"_s));
+    QCOMPARE(error.Subject(), u"/CompanyLogo.txt"_s);
+    QVERIFY2(error.Text().contains(folder.Path(u"/logo.png"_s)), qPrintable(error.Text()));
+    QCOMPARE(error.From(), RuntimeError::Origin::FileContent);
     QVERIFY(print.Logo.isEmpty());
+  }
+
+  void aPictureFileThatIsNoneIsRefusedByItsOwnName() {
+    DataFolder folder;
+    folder.Put(u"/logo.png"_s, "letters");
+    PrintAppearance print;
+    print.Logo = "picture kept";
+    const RuntimeError error =
+        CaughtFrom([&] { LoadPicture(folder.Disk, print, folder.Path(u"/logo.png"_s), SaysPicture); });
+    QCOMPARE(error.Number(), 481);
+    QCOMPARE(error.Subject(), folder.Path(u"/logo.png"_s));
+    QCOMPARE(error.From(), RuntimeError::Origin::Event);
+    QCOMPARE(print.Logo, "picture kept");
   }
 
   void anEmptyPathFileIsDamage() {
@@ -71,13 +86,29 @@ class LogoTest : public QObject {
     QCOMPARE(error.From(), RuntimeError::Origin::FileContent);
   }
 
-  void theSizeIsReadWidthFirstInWholeTwips() {
+  void theSizeIsReadWidthFirstAndWrittenBackAsItWasRead_data() {
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<float>("width");
+    QTest::addColumn<float>("height");
+    QTest::newRow("whole") << QByteArray("1710,180\r\n") << 1710.0F << 180.0F;
+    QTest::newRow("fractions") << QByteArray("1710.25,899.6\r\n") << 1710.25F << 899.6F;
+    QTest::newRow("seven digits") << QByteArray("1439.999,0.1\r\n") << 1439.999F << 0.1F;
+    QTest::newRow("least and most") << QByteArray("0,15840\r\n") << 0.0F << 15840.0F;
+  }
+  void theSizeIsReadWidthFirstAndWrittenBackAsItWasRead() {
+    QFETCH(QByteArray, line);
+    QFETCH(float, width);
+    QFETCH(float, height);
     DataFolder folder;
-    folder.Put(u"/LogoSettings.txt"_s, "1710,899.6\r\n");
+    folder.Put(u"/LogoSettings.txt"_s, line);
     PrintAppearance print;
     LoadLogoSettings(folder.Disk, print);
-    QCOMPARE(print.LogoWidth, 1710);
-    QCOMPARE(print.LogoHeight, 900);
+    // To the last bit: the comparison of the test library would let nearly equal ones pass.
+    QVERIFY2(print.LogoWidth == width && print.LogoHeight == height, line.constData());
+    print.Logo = "picture";
+    folder.Put(u"/LogoSettings.txt"_s, "");
+    SaveLogoSettings(folder.Disk, print);
+    QCOMPARE(folder.Bytes(u"/LogoSettings.txt"_s), line);
   }
 
   void aSizeThatIsNoneIsDamage_data() {
@@ -87,7 +118,13 @@ class LogoTest : public QObject {
     QTest::newRow("width alone") << QByteArray("1440\r\n") << 62;
     QTest::newRow("letters") << QByteArray("wide,high\r\n") << 13;
     QTest::newRow("below zero") << QByteArray("1440,-90\r\n") << 6;
-    QTest::newRow("too large") << QByteArray("1E+30,1440\r\n") << 6;
+    QTest::newRow("height below zero by a fraction") << QByteArray("1440,-0.25\r\n") << 6;
+    QTest::newRow("wider than a sheet") << QByteArray("15840.5,1440\r\n") << 6;
+    QTest::newRow("higher than a sheet") << QByteArray("1440,15841\r\n") << 6;
+    QTest::newRow("the largest whole number") << QByteArray("2147483647,2147483647\r\n") << 6;
+    QTest::newRow("beyond whole numbers") << QByteArray("1E+30,1440\r\n") << 6;
+    QTest::newRow("beyond single precision") << QByteArray("1440,1E+300\r\n") << 6;
+    QTest::newRow("beyond any number") << QByteArray("1E400,1440\r\n") << 6;
   }
   void aSizeThatIsNoneIsDamage() {
     QFETCH(QByteArray, content);
@@ -95,10 +132,13 @@ class LogoTest : public QObject {
     DataFolder folder;
     folder.Put(u"/LogoSettings.txt"_s, content);
     PrintAppearance print;
+    print.LogoWidth = print.LogoHeight = 270;
     const RuntimeError error = CaughtFrom([&] { LoadLogoSettings(folder.Disk, print); });
     QCOMPARE(error.Number(), number);
     QCOMPARE(error.From(), RuntimeError::Origin::FileContent);
     QCOMPARE(error.Subject(), u"/LogoSettings.txt"_s);
+    QCOMPARE(print.LogoWidth, 270.0F);
+    QCOMPARE(print.LogoHeight, 270.0F);
   }
 
   void withoutTheSizeFileItIs1440By1440AndIsSavedWhereThereIsALogo() {
@@ -106,8 +146,8 @@ class LogoTest : public QObject {
     PrintAppearance print;
     print.LogoWidth = print.LogoHeight = 180;
     LoadLogoSettings(folder.Disk, print);
-    QCOMPARE(print.LogoWidth, 1440);
-    QCOMPARE(print.LogoHeight, 1440);
+    QCOMPARE(print.LogoWidth, 1440.0F);
+    QCOMPARE(print.LogoHeight, 1440.0F);
     QVERIFY(!folder.Has(u"/LogoSettings.txt"_s));
     print.Logo = "picture";
     LoadLogoSettings(folder.Disk, print);
@@ -164,18 +204,32 @@ class LogoTest : public QObject {
     ClearLogo(folder.Disk, print);
     QVERIFY(print.Logo.isEmpty());
     QCOMPARE(print.LogoFrameWidth, 1440);
-    QCOMPARE(print.LogoWidth, 1710);
+    QCOMPARE(print.LogoWidth, 1710.0F);
     QCOMPARE(folder.Files(), QStringList{u"LogoSettings.txt"_s});
     QVERIFY(folder.Files(u"/Backup"_s).isEmpty());
   }
 
+  void aPathThatCannotBeRemovedLeavesTheLogo() {
+    DataFolder folder;
+    folder.Put(u"/CompanyLogo.txt"_s, "p");
+    PrintAppearance print;
+    print.Logo = "picture";
+    print.LogoFrameWidth = 900;
+    folder.Device.FailAlways(FailingDevice::Call::Remove, EACCES);
+    const RuntimeError error = CaughtFrom([&] { ClearLogo(folder.Disk, print); });
+    QCOMPARE(error.Number(), ErrorNumber::PermissionDenied);
+    QCOMPARE(print.Logo, "picture");
+    QCOMPARE(print.LogoFrameWidth, 900);
+    QCOMPARE(folder.Bytes(u"/CompanyLogo.txt"_s), "p");
+  }
+
   void theSizingButtonsGoRoundFrom180To1800() {
-    QCOMPARE(NextLogoSize(1440), 1530);
-    QCOMPARE(NextLogoSize(1710), 1800);
-    QCOMPARE(NextLogoSize(1800), 180);
-    QCOMPARE(NextLogoSize(180), 270);
-    QCOMPARE(NextLogoSize(1799), 1889);
-    QCOMPARE(NextLogoSize(2500), 180);
+    QCOMPARE(NextLogoSize(1440), 1530.0F);
+    QCOMPARE(NextLogoSize(1710), 1800.0F);
+    QCOMPARE(NextLogoSize(1800), 180.0F);
+    QCOMPARE(NextLogoSize(180), 270.0F);
+    QCOMPARE(NextLogoSize(1799.5F), 1889.5F);
+    QCOMPARE(NextLogoSize(2500), 180.0F);
   }
 };
 

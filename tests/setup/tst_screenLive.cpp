@@ -5,6 +5,7 @@
 
 #include "desktop/Style.h"
 #include "setup/frmSetup.h"
+#include "shell/CommonDialog.h"
 #include "shell/Screens.h"
 #include "support/DataFolder.h"
 #include "support/QueuedAnswers.h"
@@ -39,7 +40,7 @@ struct Bench {
   Bench() {
     ApplyStyle(*qApp);
     LoadSetup(Folder.Disk, Live, [](const QByteArray&) { return true; }, {});
-    Setup = std::make_unique<frmSetup>(Around, Around, SetupContext{Folder.Disk, Boxes, Live, u"/program"_s});
+    Setup = std::make_unique<frmSetup>(Around, Around, SetupContext{Folder.Disk, Boxes, Live, Dialog, u"/program"_s});
     Setup->Activate();
     Setup->show();
     Setup->resize(1180, 760);
@@ -57,6 +58,7 @@ struct Bench {
   TestDialogs Boxes;
   NotedScreens Around;
   LiveSettings Live;
+  CommonDialog Dialog;
   std::unique_ptr<frmSetup> Setup;
 };
 

@@ -165,6 +165,28 @@ class ScreenTaxesTest : public QObject {
     QVERIFY(Ticked(setup, u"ckApplyGraduated"_s));
   }
 
+  void anAmountTooLargeForANumberIsToldAndStaysAsItWasTyped() {
+    SetupScreen program;
+    const ScreenDriver setup = OpenTaxation(program);
+    setup.Click(u"ckApplyGraduated"_s);
+    setup.Click(u"cmdGraduatedTax_0"_s);
+    setup.Fill(u"txtGradulated_0"_s, u"1000"_s);
+    setup.Fill(u"txtGradulated_1"_s, u"1E400"_s);
+    program.Answers.Ok();
+    setup.Click(u"cmdGraduatedTax_1"_s);
+    QVERIFY2(program.Answers.Last().Text.startsWith(u"Graduated Tax Levels: "_s) &&
+                 program.Answers.Last().Text.contains(u"(error 6)"_s),
+             qPrintable(program.Answers.Last().Text));
+    QVERIFY(setup.IsVisible(u"fraGraduated"_s));
+    QCOMPARE(setup.Text(u"txtGradulated_0"_s), u"1000"_s);
+    QCOMPARE(setup.Text(u"txtGradulated_1"_s), u"1E400"_s);
+    QVERIFY(Ticked(setup, u"ckApplyGraduated"_s));
+    // What the screen shows is what a save writes.
+    SetupScreen::SaveAndReturn(setup);
+    QCOMPARE(program.Tree.Bytes(u"/KarvexInvoicerSettings.txt"_s),
+             "1,0,0,0,1,\"0.0\",\"0\",#TRUE#,#FALSE#,\"1000\",\"1E400\"\r\n");
+  }
+
   void clearRedoSetsBothToZero() {
     SetupScreen program;
     const ScreenDriver setup = OpenTaxation(program);
@@ -178,7 +200,29 @@ class ScreenTaxesTest : public QObject {
     QVERIFY(setup.IsVisible(u"fraGraduated"_s));
   }
 
-  void aKeyTypesOverTheZeroAndNothingElse() {
+  void aKeyTypesOverTheZeroOfEitherAmount_data() {
+    QTest::addColumn<QString>("box");
+    QTest::newRow("limit") << u"txtGradulated_0"_s;
+    QTest::newRow("surcharge") << u"txtGradulated_1"_s;
+  }
+  void aKeyTypesOverTheZeroOfEitherAmount() {
+    QFETCH(QString, box);
+    SetupScreen program;
+    const ScreenDriver setup = OpenTaxation(program);
+    setup.Click(u"cmdGraduatedTax_0"_s);
+    setup.Click(box);
+    setup.Type(u"7"_s);
+    QCOMPARE(setup.Text(box), u"7"_s);
+    setup.Type(u"5"_s);
+    QCOMPARE(setup.Text(box), u"75"_s);
+    // An amount that isn't zero is typed on.
+    setup.Fill(box, u"$1.00"_s);
+    setup.PressKey(Qt::Key_End);
+    setup.Type(u"5"_s);
+    QCOMPARE(setup.Text(box), u"$1.005"_s);
+  }
+
+  void theKeysThatLeadElsewhereLeaveTheZero() {
     SetupScreen program;
     const ScreenDriver setup = OpenTaxation(program);
     setup.Click(u"cmdGraduatedTax_0"_s);

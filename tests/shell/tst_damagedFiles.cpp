@@ -32,6 +32,8 @@ class DamagedFiles : public QObject {
   void aDamagedFileEndsTheStartAndChangesNothing_data();
   void aDamagedFileEndsTheStartAndChangesNothing();
   void aLogoThatIsNoPictureEndsTheStartAndChangesNothing();
+  void eachAdviceOfTheLogosBoxLetsTheProgramStart_data();
+  void eachAdviceOfTheLogosBoxLetsTheProgramStart();
   void aLogoThatIsGoneIsPassedOver();
   void aDamagedSettingIsToldBeforeAnyWindowShows();
   void aDamagedCatalogueIsToldOverTheStartUpScreen();
@@ -58,6 +60,8 @@ void DamagedFiles::aDamagedFileEndsTheStartAndChangesNothing_data() {
   QTest::newRow("logo, empty") << u"/CompanyLogo.txt"_s << QByteArray();
   QTest::newRow("logo size, empty") << u"/LogoSettings.txt"_s << QByteArray();
   QTest::newRow("logo size, garbled") << u"/LogoSettings.txt"_s << QByteArray("wide,1440\r\n");
+  QTest::newRow("logo size, below zero") << u"/LogoSettings.txt"_s << QByteArray("1440,-90\r\n");
+  QTest::newRow("logo size, beyond a sheet") << u"/LogoSettings.txt"_s << QByteArray("2147483647,2147483647\r\n");
   QTest::newRow("labor, cut short") << u"/Labor.txt"_s << QByteArray("\"General Labor\",\"$0.00\"\r\n");
   QTest::newRow("services, beyond the limit") << u"/Services.txt"_s << QByteArray(256 * 72, ' ');
   QTest::newRow("items, beyond the limit") << u"/KVInventoriedItems.txt"_s << QByteArray(256 * 104, ' ');
@@ -90,9 +94,44 @@ void DamagedFiles::aLogoThatIsNoPictureEndsTheStartAndChangesNothing() {
   const auto before = program.Tree.Everything();
   program.Answers.Ok({}, u"Karvex Invoicer"_s);
   QVERIFY(!program.Start());
-  QVERIFY2(program.Answers.Last().Text.startsWith(path), qPrintable(program.Answers.Last().Text));
+  // The file of the tree that names it comes first: the picture is the user's own, and stays his.
+  QCOMPARE(
+      program.Answers.Last().Text,
+      u"/CompanyLogo.txt: It names "_s + path +
+          u" as the logo, and that file can't be read as a picture. (error 481)\n\nThe program ends and leaves all "
+          u"files as they are. Put a picture in that place, or move what stands there elsewhere; or remove "
+          u"CompanyLogo.txt and its copy in the Backup folder. Then start the program again."_s);
   QCOMPARE(program.Tree.Everything(), before);
   QCOMPARE(pictures.Bytes(u"/logo.png"_s), "no picture");
+}
+
+void DamagedFiles::eachAdviceOfTheLogosBoxLetsTheProgramStart_data() {
+  QTest::addColumn<int>("advice");
+  QTest::newRow("a picture in that place") << 0;
+  QTest::newRow("what stands there moved") << 1;
+  QTest::newRow("the path and its copy removed") << 2;
+}
+
+void DamagedFiles::eachAdviceOfTheLogosBoxLetsTheProgramStart() {
+  QFETCH(int, advice);
+  ProgramFixture program;
+  program.Tree.Write(u"/logo.png"_s, "no picture");
+  const QString path = program.Tree.Path(u"/logo.png"_s);
+  program.Tree.Write(u"/CompanyLogo.txt"_s, '"' + path.toUtf8() + "\"\r\n");
+  program.Tree.Write(u"/Backup/CompanyLogo.txt"_s, '"' + path.toUtf8() + "\"\r\n");
+  program.Answers.Ok();
+  QVERIFY(!program.Start());
+  if (advice == 0) {
+    QImage picture(6, 3, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    QVERIFY(picture.save(path));
+  } else if (advice == 1) {
+    QVERIFY(QFile::rename(path, program.Tree.Path(u"/elsewhere.png"_s)));
+  } else {
+    program.Tree.Remove(u"/CompanyLogo.txt"_s);
+    program.Tree.Remove(u"/Backup/CompanyLogo.txt"_s);
+  }
+  QVERIFY(program.Start());
 }
 
 void DamagedFiles::aLogoThatIsGoneIsPassedOver() {

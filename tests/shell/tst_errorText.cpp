@@ -38,6 +38,15 @@ class ErrorTextTest : public QObject {
     QVERIFY(text.contains(u"Backup"_s));
   }
 
+  void aLogoThatIsNoPictureIsNotAdvisedAway() {
+    const RuntimeError damage(481, u"/CompanyLogo.txt"_s, u"It names /home/me/logo.png."_s,
+                              RuntimeError::Origin::FileContent);
+    QCOMPARE(ErrorBoxText(damage, true),
+             u"/CompanyLogo.txt: It names /home/me/logo.png. (error 481)\n\nThe program ends and leaves all files as "
+             u"they are. Put a picture in that place, or move what stands there elsewhere; or remove CompanyLogo.txt "
+             u"and its copy in the Backup folder. Then start the program again."_s);
+  }
+
   void anErrorAtTheStartTellsThatNothingWasChanged() {
     const QString text = ErrorBoxText(RuntimeError(70, u"/data/AuxFiles"_s), true);
     QVERIFY(text.contains(u"can't start"_s));

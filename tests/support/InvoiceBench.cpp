@@ -79,12 +79,13 @@ InvoiceBench::InvoiceBench()
     : Store(Device),
       Disk(Store, Tree.Root(), u"KarvexInvoicer"_s),
       Prices(Disk, Lists, SalesItems),
-      m_routines(Paper, Live.Print),
+      m_routines(Paper, Live.Print, m_dialog),
       m_pages(m_routines, Disk, Dialogs, Calendar, {Live.Business, Live.Print, Live.Tax}) {
   ApplyStyle(*qApp);
-  for (const auto& folder : {u"/Backup/KVActiveAccounts"_s, u"/CompletedInvoices"_s, u"/KVActiveAccounts"_s, u"/KarvexInvoicer"_s,
-                             u"/KarvexInvoicer/IncompleteInvoices"_s, u"/KarvexInvoicer/Narratives"_s,
-                             u"/KarvexInvoicer/Templates"_s, u"/KarvexInvoicer/Templates/Invoices"_s}) {
+  for (const auto& folder :
+       {u"/Backup/KVActiveAccounts"_s, u"/CompletedInvoices"_s, u"/KVActiveAccounts"_s, u"/KarvexInvoicer"_s,
+        u"/KarvexInvoicer/IncompleteInvoices"_s, u"/KarvexInvoicer/Narratives"_s, u"/KarvexInvoicer/Templates"_s,
+        u"/KarvexInvoicer/Templates/Invoices"_s}) {
     Tree.MakeFolder(folder);
   }
   Tree.Write(u"/Services.txt"_s, Service("Cleaning", "$40.00") + Service("Repair", "$80.00"));

@@ -16,6 +16,7 @@
 #include "printing/PrinterRoutines.h"
 #include "runtime/FileStore.h"
 #include "setup/LiveSettings.h"
+#include "shell/CommonDialog.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/Screens.h"
 #include "support/FailingDevice.h"
@@ -95,6 +96,7 @@ class InvoiceBench {
   NotingProgram Around;
 
  private:
+  CommonDialog m_dialog;
   PrinterRoutines m_routines;
   KVPrint m_pages;
   std::unique_ptr<frmInvoice> m_screen;

@@ -30,7 +30,7 @@ void MessageRecorder::OpenPage(const QString&) {
 PageFixture::PageFixture()
     : Store(Device),
       Disk(Store, Root.path(), u"KarvexInvoicer"_s),
-      Routines(Paper, Look),
+      Routines(Paper, Look, Dialog),
       Pages(Routines, Disk, Messages, Now, {Business, Look, Tax}),
       Lines(u"^QTY|<Description|^Date|>Price|>Total|^Tax"_s, 101) {
   Business.BusinessName = u"Orchard Supply"_s;

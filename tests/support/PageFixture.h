@@ -14,6 +14,7 @@
 #include "setup/BusinessProfile.h"
 #include "setup/PrintAppearance.h"
 #include "setup/TaxConfiguration.h"
+#include "shell/CommonDialog.h"
 #include "shell/CommonDiskRoutines.h"
 #include "support/RecordingPrinter.h"
 
@@ -50,6 +51,7 @@ class PageFixture {
   PrintAppearance Look;
   TaxConfiguration Tax;
   RecordingPrinter Paper;
+  CommonDialog Dialog;
   PrinterRoutines Routines;
 
   class FixedClock final : public Clock {
