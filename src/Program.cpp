@@ -4,6 +4,7 @@
 #include "customers/frmNewCustomer.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
+#include "printing/frmBlanks.h"
 #include "ProgramObjects.h"
 #include "records/PartialList.h"
 #include "setup/frmSetup.h"
@@ -67,6 +68,10 @@ std::unique_ptr<Screen> Program::Build(ScreenName screen) {
     case ScreenName::frmNewCustomer:
       return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
                                               m_objects->Live.Business, m_objects->Customer);
+    case ScreenName::frmBlanks:
+      return std::make_unique<frmBlanks>(*this, *this,
+                                         BlanksDesk{m_objects->Routines, m_objects->Pages, m_objects->Live.Print,
+                                                    *m_platform.Boxes, *m_platform.Calendar});
     default:
       return nullptr;
   }
@@ -87,7 +92,10 @@ MainMenuContext Program::MenuContext() {
             LoadPartialList(m_objects->Partials, m_objects->Disk);
             return m_objects->Partials.Count();
           },
-          [](ScreenName screen) { return screen == ScreenName::frmNewCustomer || screen == ScreenName::frmServices; }};
+          [](ScreenName screen) {
+            return screen == ScreenName::frmNewCustomer || screen == ScreenName::frmServices ||
+                   screen == ScreenName::frmBlanks;
+          }};
 }
 
 Screen* Program::Built(ScreenName screen) const {

@@ -10,6 +10,7 @@
 #include "invoice/LaborEntry.h"
 #include "invoice/WorkingInvoice.h"
 #include "printing/KVPrint.h"
+#include "printing/PackingSlip.h"
 #include "printing/PrinterRoutines.h"
 #include "runtime/Clock.h"
 #include "setup/LiveSettings.h"
@@ -103,7 +104,10 @@ void frmInvoice::cmdInvoiceContinue() {
   steps.ReloadItems = [this] { m_desk.Prices.LoadAdditionalItems(); };
   steps.SelectedPartial = m_desk.SelectedPartial;
   steps.ReloadPartials = m_desk.ReloadPartials;
-  steps.PrintPackingSlip = [] {};
+  steps.PrintPackingSlip = [this] {
+    m_invoice.Show();
+    PrintPackingSlip({m_desk.Printing, m_desk.Pages, m_desk.Boxes}, m_invoice.fgInvoice);
+  };
   steps.ToCreationView = [this] { mnuCreate(); };
   steps.Leave = [this] { cmdExit(); };
   PrintAndCommit(

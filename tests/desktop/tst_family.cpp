@@ -13,7 +13,8 @@ const std::initializer_list<std::pair<ScreenName, const char*>> AllScreens{
     {ScreenName::frmSetup, "frmSetup"},
     {ScreenName::frmServices, "frmServices"},
     {ScreenName::frmNewCustomer, "frmNewCustomer"},
-    {ScreenName::frmInvoice, "frmInvoice"}};
+    {ScreenName::frmInvoice, "frmInvoice"},
+    {ScreenName::frmBlanks, "frmBlanks"}};
 
 bool IsOwnControl(const QWidget* widget) {
   const QString name = widget->objectName();

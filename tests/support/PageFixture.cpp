@@ -11,8 +11,10 @@ using namespace Qt::StringLiterals;
 void MessageRecorder::ShowMessage(const QString& text, const QString& title) {
   Messages.append(title + u": "_s + text);
 }
-bool MessageRecorder::AskYesNo(const QString&, const QString&) {
-  throw std::logic_error("no question expected");
+bool MessageRecorder::AskYesNo(const QString& text, const QString& title) {
+  if (Answers.isEmpty()) throw std::logic_error("no question expected");
+  Messages.append(title + u"? "_s + text);
+  return Answers.takeFirst();
 }
 QString MessageRecorder::ChooseFile(const QString&, const QString&) {
   throw std::logic_error("no dialog expected");

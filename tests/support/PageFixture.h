@@ -18,7 +18,8 @@
 #include "shell/CommonDiskRoutines.h"
 #include "support/RecordingPrinter.h"
 
-/// Keeps messages as "title: text"; a question or dialog that nobody expects is an exception.
+/// Keeps messages as "title: text" and questions as "title? text"; a question without a queued answer and a dialog that
+/// nobody expects are exceptions.
 class MessageRecorder final : public Dialogs {
  public:
   void ShowMessage(const QString& text, const QString& title) override;
@@ -30,6 +31,7 @@ class MessageRecorder final : public Dialogs {
   void OpenPage(const QString& address) override;
 
   QStringList Messages;
+  QList<bool> Answers;
 };
 
 class PageFixture {

@@ -17,6 +17,7 @@ std::vector<Mark> MarksOf(const PaperPage& page) {
 
 void RecordingPrinter::ShowPrinter() {
   ++DialogsShown;
+  if (OnDialog) OnDialog();
   if (const int error = std::exchange(DialogError, 0)) throw RuntimeError(error, {});
 }
 

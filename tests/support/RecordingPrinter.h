@@ -2,6 +2,7 @@
 /// paper, each text run and rule with its place, font and colour.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <QStringList>
 #include <vector>
@@ -13,8 +14,9 @@ class RecordingPrinter final : public PaperSurface {
   void ShowPrinter() override;
 
   int DialogsShown = 0;
-  int DialogError = 0;  ///< Thrown by the next `ShowPrinter`, once: 32755 is the user's Cancel.
-  int SendError = 0;    ///< Thrown by the next `EndDoc`, once.
+  int DialogError = 0;             ///< Thrown by the next `ShowPrinter`, once: 32755 is the user's Cancel.
+  std::function<void()> OnDialog;  ///< Runs as the dialog comes up.
+  int SendError = 0;               ///< Thrown by the next `EndDoc`, once.
   std::vector<PaperJob> Jobs;
 
   /// A page of the last job, from 1. Fails the test by an exception where there is none.
