@@ -47,6 +47,10 @@ void Screen::OnClick(QAbstractButton* button, std::function<void()> handler, Whe
   connect(button, &QAbstractButton::clicked, this, [this, handler = std::move(handler)] { Run(handler); });
 }
 
+void Screen::PressButton(QAbstractButton* button) {
+  m_state->press.Press(button);
+}
+
 void Screen::SetEnterButton(QAbstractButton* button) {
   m_state->enterButton = button;
 }

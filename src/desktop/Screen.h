@@ -58,6 +58,10 @@ class Screen : public QMainWindow {
   void OnClick(QAbstractButton* button, std::function<void()> handler,
                WhenLeaveRefused rule = WhenLeaveRefused::Dropped);
 
+  /// Runs the button as its access key does: where the box that is left takes the focus back or fails, a click that
+  /// would use it is dropped.
+  void PressButton(QAbstractButton* button);
+
   /// The button that Enter runs where no control has a use for that key, and the one that Escape runs: the obvious
   /// next thing, and the way back where it loses nothing. Null for none. They are run as by their access keys.
   void SetEnterButton(QAbstractButton* button);

@@ -51,6 +51,12 @@ RuntimeError::RuntimeError(int number, QString subject, QString text, Origin ori
   m_what = u"error %1, %2: %3"_s.arg(m_number).arg(m_subject, m_text).toUtf8();
 }
 
+RuntimeError RuntimeError::WithAdvice(const QString& advice) const {
+  RuntimeError advised = *this;
+  advised.m_advice = advice;
+  return advised;
+}
+
 RuntimeError RuntimeError::AsFileContent(const QString& fileName) const {
   return RuntimeError(m_number, fileName, m_text, Origin::FileContent);
 }

@@ -39,6 +39,9 @@ class RuntimeError : public std::exception {
   /// One sentence for the user, without the subject.
   const QString& Text() const { return m_text; }
   Origin From() const { return m_origin; }
+  /// The same error with its own word on what the user can do, where the number alone would say the wrong thing.
+  RuntimeError WithAdvice(const QString& advice) const;
+  const QString& Advice() const { return m_advice; }
   /// The same error, seen as damage of the named data file.
   RuntimeError AsFileContent(const QString& fileName) const;
 
@@ -48,6 +51,7 @@ class RuntimeError : public std::exception {
   int m_number;
   QString m_subject;
   QString m_text;
+  QString m_advice;
   Origin m_origin;
   QByteArray m_what;
 };

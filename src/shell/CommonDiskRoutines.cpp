@@ -19,11 +19,13 @@ QString Rooted(QString name) {
 
 }  // namespace
 
-RandomFile::RandomFile(FileStore& store, QString name, QString path, int recordLength, std::shared_ptr<bool> open)
+RandomFile::RandomFile(FileStore& store, QString name, QString path, int recordLength, bool created,
+                       std::shared_ptr<bool> open)
     : m_store(store),
       m_name(std::move(name)),
       m_path(std::move(path)),
       m_recordLength(recordLength),
+      m_created(created),
       m_open(std::move(open)) {}
 
 void RandomFile::RequireOpen() const {
@@ -40,7 +42,14 @@ void RandomFile::Put(qsizetype number, const QByteArray& record) {
   RequireOpen();
   if (number < 1) throw RuntimeError(ErrorNumber::OutOfRange, m_name);
   Q_ASSERT(record.size() == m_recordLength);
-  m_store.WriteInPlace(m_path, (number - 1) * m_recordLength, record);
+  try {
+    m_store.WriteInPlace(m_path, (number - 1) * m_recordLength, record);
+    m_created = false;
+  } catch (const RuntimeError&) {
+    // An empty file would pass for one that was begun: a ledger without its opening record, a list without entries.
+    if (m_created) m_store.Device().Remove(m_path);
+    throw;
+  }
 }
 
 RecordBuffer RandomFile::ReadAll() const {
@@ -96,8 +105,9 @@ ListReader CommonDiskRoutines::OpenInputFile(const QString& name) {
 
 RandomFile CommonDiskRoutines::OpenRandomFile(const QString& name, int recordLength) {
   const QString path = PathOf(name);
-  if (!m_store.IsFile(path)) m_store.WriteInPlace(path, 0, {});
-  return RandomFile(m_store, name, path, recordLength, NewOpenMark());
+  const bool created = !m_store.IsFile(path);
+  if (created) m_store.WriteInPlace(path, 0, {});
+  return RandomFile(m_store, name, path, recordLength, created, NewOpenMark());
 }
 
 void CommonDiskRoutines::CloseAllFiles() {

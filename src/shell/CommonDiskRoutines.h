@@ -18,10 +18,12 @@ enum class BackupCopy { Kept, Dropped };
 /// A random file: fixed-length records numbered from 1, in place.
 class RandomFile {
  public:
-  RandomFile(FileStore& store, QString name, QString path, int recordLength, std::shared_ptr<bool> open);
+  /// `created`: the opening made the file.
+  RandomFile(FileStore& store, QString name, QString path, int recordLength, bool created, std::shared_ptr<bool> open);
   /// One record, read anew; blank past the end.
   QByteArray Get(qsizetype number) const;
-  /// One write; extends the file where needed. Throws RuntimeError 61, 70, 75.
+  /// One write; extends the file where needed. Throws RuntimeError 61, 70, 75. The creation of a file and its first
+  /// record are one thing: where that record fails, the file that was made for it goes again.
   void Put(qsizetype number, const QByteArray& record);
   /// The whole file in one read, for a scan.
   RecordBuffer ReadAll() const;
@@ -32,6 +34,7 @@ class RandomFile {
   QString m_name;
   QString m_path;
   int m_recordLength;
+  bool m_created;  ///< And holds no record yet.
   std::shared_ptr<bool> m_open;
 };
 

@@ -5,6 +5,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString WhatToDo(const RuntimeError& error) {
+  if (!error.Advice().isEmpty()) return error.Advice();
   switch (error.Number()) {
     case ErrorNumber::DiskFull:
       return u"Make room on it and try again. Nothing was lost."_s;

@@ -233,6 +233,30 @@ class DiskRoutinesTest : public QObject {
     QCOMPARE(Bytes(u"/TaxRecords.txt"_s), "");
   }
 
+  void aFileMadeForARecordThatFailsGoesAgain() {
+    m_device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+    RandomFile file = m_disk->OpenRandomFile(u"/TaxRecords.txt"_s, 4);
+    QCOMPARE(ErrorOf([&] { file.Put(1, "AAAA"); }), 61);
+    QVERIFY(Absent(u"/TaxRecords.txt"_s));
+    file.Put(1, "AAAA");
+    QCOMPARE(Bytes(u"/TaxRecords.txt"_s), "AAAA");
+  }
+
+  void aFileThatHoldsARecordStaysWhereTheNextOneFails() {
+    RandomFile file = m_disk->OpenRandomFile(u"/TaxRecords.txt"_s, 4);
+    file.Put(1, "AAAA");
+    m_device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+    QCOMPARE(ErrorOf([&] { file.Put(2, "BBBB"); }), 61);
+    QCOMPARE(Bytes(u"/TaxRecords.txt"_s), "AAAA");
+  }
+
+  void anEmptyFileThatWasThereBeforeStaysWhereItsFirstRecordFails() {
+    Put(u"/TaxRecords.txt"_s, "");
+    m_device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+    QCOMPARE(ErrorOf([&] { m_disk->OpenRandomFile(u"/TaxRecords.txt"_s, 4).Put(1, "AAAA"); }), 61);
+    QCOMPARE(Bytes(u"/TaxRecords.txt"_s), "");
+  }
+
   void recordsAreReadAndWrittenByNumber() {
     RandomFile file = m_disk->OpenRandomFile(u"/Records.txt"_s, 4);
     file.Put(2, "BBBB");

@@ -53,6 +53,11 @@ class ErrorTextTest : public QObject {
     QVERIFY(!text.contains(u"Backup"_s));
   }
 
+  void anErrorsOwnAdviceStandsInPlaceOfTheUsualOne() {
+    const RuntimeError error = RuntimeError(6, u"/Services.txt"_s, u"It is full."_s).WithAdvice(u"Delete one."_s);
+    QCOMPARE(ErrorBoxText(error, false), u"/Services.txt: It is full. (error 6)\n\nDelete one."_s);
+  }
+
   void everyErrorSaysWhatToDo_data() {
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("advice");
