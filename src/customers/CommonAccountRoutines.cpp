@@ -1,6 +1,7 @@
 #include "customers/CommonAccountRoutines.h"
 
 #include "runtime/Clock.h"
+#include "runtime/CodePage.h"
 #include "runtime/Currency.h"
 #include "runtime/Dates.h"
 #include "runtime/Numbers.h"
@@ -26,13 +27,15 @@ QByteArray LedgerRecord::Bytes() const {
 
 bool IsSafeAccount(const QString& account) {
   const QString trimmed = TrimBlanks(account);
-  return trimmed.isEmpty() || CanNameAFile(trimmed);
+  // Two numbers with characters that a record can't hold would be one number there, and share a ledger.
+  return trimmed.isEmpty() || (CanNameAFile(trimmed) && FromCodePage(ToCodePage(trimmed)) == trimmed);
 }
 
 QString LedgerName(const QString& account) {
   if (!IsSafeAccount(account)) {
     throw RuntimeError(ErrorNumber::BadFileName, account,
-                       u"The account number names the account's files, so it cannot hold / or \\."_s);
+                       u"The account number names the account's files, so it cannot be . or .. and cannot hold / or \\ "
+                       u"or characters outside the Western alphabets."_s);
   }
   return u"/KVActiveAccounts/"_s + TrimBlanks(account) + u".txt"_s;
 }
@@ -49,7 +52,7 @@ void CommonAccountRoutines::CreateLedger(const QString& account, const QString& 
 void CommonAccountRoutines::PostLedgerEntry(const QString& account, const QString& name, const QString& amount,
                                             const QString& description, QDate date) {
   const QString file = LedgerName(account);
-  if (!m_disk.FileExists(file)) {
+  if (!m_disk.FileExists(file) || m_disk.RecordCount(file, LedgerRecord::Length) == 0) {
     CreateLedger(account, name);
   }
   m_record = {.LedgerName = name,
@@ -78,7 +81,9 @@ void CommonAccountRoutines::WritePaymentRecord(const QString& account, const QSt
 void CommonAccountRoutines::Append(const QString& file) {
   const int count = m_disk.RecordCount(file, LedgerRecord::Length);
   if (count == MaximumRecords) {
-    throw RuntimeError(ErrorNumber::Overflow, file, u"The file holds 32,767 records and takes no more."_s);
+    throw RuntimeError(ErrorNumber::Overflow, file, u"The file holds 32,767 records and takes no more."_s)
+        .WithAdvice(
+            u"Move it, and its copy in the Backup folder, elsewhere: the next entry starts a new one. Nothing was lost."_s);
   }
   m_disk.OpenRandomFile(file, LedgerRecord::Length).Put(count + 1, m_record.Bytes());
 }

@@ -22,8 +22,8 @@ struct LedgerRecord {
   QByteArray Bytes() const;
 };
 
-/// Whether the account's number can name its files without leaving their folder. The empty account has a ledger too,
-/// named ".txt".
+/// Whether the account's number can name its files without leaving their folder, and reads back from a record as what
+/// it is. The empty account has a ledger too, named ".txt".
 bool IsSafeAccount(const QString& account);
 /// The root-relative name of the account's ledger. Throws RuntimeError 64 for an account that isn't safe.
 QString LedgerName(const QString& account);
@@ -34,7 +34,7 @@ class CommonAccountRoutines {
 
   /// Writes the opening record, over any record 1 that is there.
   void CreateLedger(const QString& account, const QString& name);
-  /// Appends one entry to the account's ledger; the first one starts it.
+  /// Appends one entry to the account's ledger; the first one starts it, also where a kill left an empty file.
   void PostLedgerEntry(const QString& account, const QString& name, const QString& amount, const QString& description,
                        QDate date);
   /// Refreshes the ledger's copy in /Backup.

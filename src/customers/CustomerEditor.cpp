@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "customers/CommonAccountRoutines.h"
+#include "runtime/CodePage.h"
 #include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
@@ -154,16 +155,19 @@ bool CustomerEditor::CheckNames() {
   return true;
 }
 
-/// The number names the account's ledger and folders: one that would leave their folder is never stored.
+/// The number names the account's ledger and folders: one that would leave their folder is never stored, nor one that
+/// a record would hold as another.
 bool CustomerEditor::CheckFileName() {
   const QString number = Text(CustomerBox::txtCustomer0);
   if (IsSafeAccount(number)) {
     return true;
   }
+  const bool storable = FromCodePage(ToCodePage(number)) == number;
   m_dialogs.ShowMessage(
       u"The Account Number \"%1\" cannot be used.\n"
-      "It also names the files of this account, so it cannot hold / or \\.\n"
-      "Nothing was saved: enter a different Number"_s.arg(number),
+      "It also names the files of this account, so it cannot %2.\n"
+      "Nothing was saved: enter a different Number"_s.arg(
+          number, storable ? u"hold / or \\, nor be . or .. alone"_s : u"hold letters outside the Western alphabets"_s),
       u"Invalid Account Number"_s);
   m_view.FocusOn(CustomerBox::txtCustomer0);
   return false;
@@ -184,14 +188,22 @@ void CustomerEditor::FillBuffer() {
   record.SetAcctFlag(m_acctFlagValue);
 }
 
-void CustomerEditor::RequireRoom() const {
+/// After a cancelled add that had been saved the file holds more than is counted: what is added or deleted then must
+/// not take that record's place.
+void CustomerEditor::CountStoredCustomers() {
+  m_customerCount = qMax(m_customerCount, m_file.Count());
+}
+
+void CustomerEditor::RequireRoom() {
+  CountStoredCustomers();
   if (m_customerCount >= MaximumCustomers) {
     throw RuntimeError(ErrorNumber::Overflow, u"/CustomerData.txt"_s,
-                       u"The customer file holds 32,767 customers and takes no more."_s);
+                       u"The customer file is full: it holds 32,767 customers."_s)
+        .WithAdvice(u"Delete one first. Nothing was lost."_s);
   }
 }
 
-void CustomerEditor::AddNewCustomer(const QString& telephone) {
+bool CustomerEditor::AddNewCustomer(const QString& telephone) {
   if (Text(CustomerBox::txtCustomer0).isEmpty()) {
     if (BeepOnError) {
       m_dialogs.Beep();
@@ -199,7 +211,7 @@ void CustomerEditor::AddNewCustomer(const QString& telephone) {
     if (PromptOnError) {
       m_dialogs.ShowMessage(u"Enter an Account Number"_s);
     }
-    return;
+    return false;
   }
   RequireRoom();
   SaveCustomer();  // Whatever comes of it.
@@ -207,6 +219,7 @@ void CustomerEditor::AddNewCustomer(const QString& telephone) {
   SetPointer(m_customerCount);
   m_file.Buffer.Blank();
   StartBlankRecord(telephone);
+  return true;
 }
 
 /// The boxes of a record that isn't in the file yet. The account type and the state stay what they show.
@@ -232,7 +245,9 @@ void CustomerEditor::DeleteCustomer() {
     m_view.FocusOn(CustomerBox::txtCustomer0);
     return;
   }
-  m_file.Remove(m_customerPointer, m_customerCount, Text(CustomerBox::txtCustomer0));
+  CountStoredCustomers();
+  const std::optional<RuntimeError> failed =
+      m_file.Remove(m_customerPointer, m_customerCount, Text(CustomerBox::txtCustomer0));
   if (m_customerCount > 1) {
     --m_customerCount;
   }
@@ -240,6 +255,9 @@ void CustomerEditor::DeleteCustomer() {
   LoadCustomer();
   m_view.FocusOn(CustomerBox::txtCustomer0);
   BuildAccountList();
+  if (failed) {
+    throw *failed;
+  }
 }
 
 bool CustomerEditor::IsDuplicateAcctNo(const QString& number) {

@@ -32,12 +32,13 @@ class CustomerEditor {
   /// record as it was and the boxes as typed.
   void SaveCustomer();
   /// Throws RuntimeError 6 where the file is full.
-  void RequireRoom() const;
-  /// Saves, then starts the record after the last one. Throws RuntimeError 6 before anything is done where the file is
-  /// full.
-  void AddNewCustomer(const QString& telephone);
+  void RequireRoom();
+  /// Saves, then starts the record after the last one, and answers whether it did: not without an account number.
+  /// Throws RuntimeError 6 before anything is done where the file is full.
+  bool AddNewCustomer(const QString& telephone);
   /// Takes the count back and drops what was typed for the new record.
   void CancelAddNew();
+  /// An error after the customer is gone is thrown once the screen shows who took the place.
   void DeleteCustomer();
   bool IsDuplicateAcctNo(const QString& number);
   void BuildAccountList();
@@ -76,6 +77,7 @@ class CustomerEditor {
  private:
   QString Text(CustomerBox box) const { return m_view.Text(box); }
   void SetPointer(qint32 number) { m_customerPointer = qMax(1, number); }
+  void CountStoredCustomers();
   bool SettleAccountNo();
   bool CheckNames();
   bool CheckFileName();

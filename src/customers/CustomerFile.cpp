@@ -111,6 +111,9 @@ void CustomerFile::Write(int number) {
 }
 
 bool CustomerFile::HasAccount(const QString& number, int count, int skip) {
+  if (!Exists()) {
+    return false;
+  }
   const RecordBuffer records = m_disk.OpenCustomerFile().ReadAll();
   const QByteArray wanted = ToCodePage(number);
   // A text that no record can hold as it stands equals none: one with blanks around, or with a foreign character.
@@ -151,7 +154,7 @@ CustomerLists CustomerFile::ReadLists(int count) {
   return lists;
 }
 
-void CustomerFile::Remove(int number, int count, const QString& account) {
+std::optional<RuntimeError> CustomerFile::Remove(int number, int count, const QString& account) {
   const QString temporary = u"/CUSTOMER.TMP"_s;
   m_disk.KillDataFile(temporary);
   QByteArray kept;
@@ -165,11 +168,29 @@ void CustomerFile::Remove(int number, int count, const QString& account) {
       }
     }
   }
-  // The new file stands whole on the disk before anything that can't be had back goes.
   m_disk.SaveFile(temporary, kept, BackupCopy::Kept);
-  if (IsSafeAccount(account)) {
-    m_disk.KillWithBackup(LedgerName(account));
+  try {
+    m_disk.RenameDataFile(temporary, FileName());
+  } catch (const RuntimeError& error) {
+    if (m_disk.Store().IsFile(m_disk.PathOf(temporary))) {
+      throw;
+    }
+    // The shorter file is in place, but it isn't sure to outlast a power failure: ledger and copy stay.
+    return error;
   }
-  m_disk.RenameDataFile(temporary, FileName());
-  m_disk.KillDataFile(u"/Backup"_s + FileName());
+  // The ledger goes last: until the shorter file stands, its customer may come back and needs it.
+  std::optional<RuntimeError> failed;
+  const auto kill = [&](const QString& name) {
+    try {
+      m_disk.KillDataFile(name);
+    } catch (const RuntimeError& error) {
+      failed = failed ? failed : error;
+    }
+  };
+  if (IsSafeAccount(account)) {
+    kill(u"/Backup"_s + LedgerName(account));
+    kill(LedgerName(account));
+  }
+  kill(u"/Backup"_s + FileName());
+  return failed;
 }

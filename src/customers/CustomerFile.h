@@ -2,10 +2,12 @@
 /// records are read and written in place; a scan is one pass over the file, and a delete rewrites it.
 #pragma once
 
+#include <optional>
 #include <QList>
 #include <QStringList>
 
 #include "customers/CustomerRecord.h"
+#include "runtime/RuntimeError.h"
 
 class CommonDiskRoutines;
 
@@ -32,11 +34,12 @@ class CustomerFile {
   void Write(int number);
 
   /// Whether one of the first `count` records but `skip` has the account number, exactly; the scan stops there.
+  /// A file that isn't there isn't made for it.
   bool HasAccount(const QString& number, int count, int skip);
   CustomerLists ReadLists(int count);
-  /// Takes one of `count` records out, and the ledger of `account` with it, live and copied. On a failure the file is
-  /// as it was.
-  void Remove(int number, int count, const QString& account);
+  /// Takes one of `count` records out, and the ledger of `account` with it, live and copied. What it throws leaves the
+  /// file and the ledger as they were; what fails once the shorter file stands is answered instead.
+  std::optional<RuntimeError> Remove(int number, int count, const QString& account);
 
  private:
   CommonDiskRoutines& m_disk;

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScopeGuard>
 
 #include "customers/StatesList.h"
 #include "shell/CommonDiskRoutines.h"
@@ -86,12 +87,7 @@ void frmNewCustomer::ConnectMenu() {
   auto* popup = new QMenu(this);
   popup->setObjectName(u"mnupopup"_s);
   popup->addAction(m_ui->mnuSelect);
-  On(m_ui->mnuAdd, &QAction::triggered, [this] {
-    m_editor.RequireRoom();
-    m_cmdCustomer[13]->show();
-    m_editor.AddNewCustomer({});
-    HideSearchFrames();
-  });
+  On(m_ui->mnuAdd, &QAction::triggered, [this] { AddNew(); });
   On(m_ui->mnuDelete, &QAction::triggered, [this] { m_editor.DeleteCustomer(); });
   On(m_ui->mnuAux, &QAction::triggered, [this] { ToggleAux(); });
 }
@@ -113,6 +109,17 @@ void frmNewCustomer::LeaveScreen(bool forInvoice) {
     m_screens.Show(ScreenName::frmStartup);
   }
   m_screens.Hide(ScreenName::frmNewCustomer);
+}
+
+void frmNewCustomer::AddNew() {
+  m_editor.RequireRoom();
+  const bool adding = !m_cmdCustomer[13]->isHidden();
+  bool started = false;
+  // Cancel takes one customer off the count: where none was started, it would be a stored one.
+  const auto settle = qScopeGuard([&] { m_cmdCustomer[13]->setVisible(adding || started); });
+  m_cmdCustomer[13]->show();
+  started = m_editor.AddNewCustomer({});
+  HideSearchFrames();
 }
 
 void frmNewCustomer::CancelAddNew() {
@@ -140,8 +147,7 @@ void frmNewCustomer::keyPressEvent(QKeyEvent* event) {
   } else if (m_ui->nameList->isVisible()) {
     Run([this] { ToggleNameList(); });
   } else if (m_cmdCustomer[13]->isHidden()) {
-    SetFocusTo(m_cmdCustomer[0]);
-    m_cmdCustomer[0]->click();
+    PressButton(m_cmdCustomer[0]);
   }
 }
 

@@ -34,6 +34,7 @@ class frmNewCustomer final : public Screen, private CustomerView {
   void ConnectMenu();
   void DrawTelephone();
   void LeaveScreen(bool forInvoice);
+  void AddNew();
   void CancelAddNew();
   void ToggleAux();
 

@@ -124,6 +124,7 @@ class AccountRoutinesTest : public QObject {
     QTest::newRow("below") << u"1001/2"_s;
     QTest::newRow("backslash") << u"..\\Services"_s;
     QTest::newRow("dots") << u".."_s;
+    QTest::newRow("beyond the code page") << u"\u04161"_s;
   }
   void anAccountThatWouldLeaveTheFolderIsRefusedAndNothingIsWritten() {
     QFETCH(QString, account);
@@ -140,6 +141,26 @@ class AccountRoutinesTest : public QObject {
     m_tree->Device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
     QCOMPARE(ErrorOf([&] { m_accounts->PostLedgerEntry(u"7"_s, u"A"_s, u"1"_s, u"x"_s, QDate(2026, 3, 7)); }), 61);
     QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/7.txt"_s), before);
+  }
+
+  void aFirstPostingThatFailsLeavesNoLedgerAndTheNextOneOpensIt() {
+    const QByteArray opening = Entry("A", "7", "3/7/2026", "Previous Balance", "$0.00");
+    for (const int failing : {1, 2}) {
+      init();
+      m_tree->Device.FailAt(FailingDevice::Call::Write, failing, ENOSPC);
+      const auto post = [&] { m_accounts->PostLedgerEntry(u"7"_s, u"A"_s, u"5"_s, u"x"_s, QDate(2026, 3, 7)); };
+      QCOMPARE(ErrorOf(post), 61);
+      QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/7.txt"_s), failing == 1 ? QByteArray("(absent)") : opening);
+      post();
+      QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/7.txt"_s), opening + Entry("A", "7", "3/7/2026", "x", "5"));
+    }
+  }
+
+  void aLedgerThatAKillLeftEmptyIsOpenedByTheNextPosting() {
+    m_tree->Put(u"/KVActiveAccounts/7.txt"_s, "");
+    m_accounts->PostLedgerEntry(u"7"_s, u"A"_s, u"5"_s, u"x"_s, QDate(2026, 3, 7));
+    QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/7.txt"_s),
+             Entry("A", "7", "3/7/2026", "Previous Balance", "$0.00") + Entry("A", "7", "3/7/2026", "x", "5"));
   }
 
   void aFullLedgerTakesNoMoreRecords() {

@@ -123,6 +123,29 @@ class CustomerBoxesTest : public QObject {
     QCOMPARE(desk.Customers(), CustomerDesk::Many(3));
   }
 
+  void aDuplicateNumberThatIsReplacedStartsNoInvoice() {
+    CustomerDesk desk(CustomerDesk::Many(3));
+    desk.Program.Tree.Write(u"/KVInvoiceNo.txt"_s, "20260017\r\n");
+    desk.Open();
+    desk.Fill(u"txtCustomer_0"_s, u"2"_s);
+    desk.Program.Answers.Yes({}, u"Duplicate Account Number"_s);
+    desk.Click(u"cmdCustomer_1"_s);
+    QVERIFY(desk.Shown());
+    QVERIFY(!ScreenDriver::IsShown(u"frmInvoice"_s));
+    QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
+    QCOMPARE(desk.Customers(), CustomerDesk::Many(3));
+  }
+
+  void leavingTheNumberWithoutAFileMakesNone() {
+    CustomerDesk desk;
+    desk.Program.StartAtMenu();
+    desk.Program.Answers.Ok();
+    desk.GoFromMenu();
+    desk.Fill(u"txtCustomer_0"_s, u"1001"_s);
+    desk.Driver().PressKey(Qt::Key_Tab);
+    QVERIFY(!desk.Program.Tree.Exists(u"/CustomerData.txt"_s));
+  }
+
   void aDuplicateNumberThatIsKeptIsSaved() {
     CustomerDesk desk(CustomerDesk::Many(3));
     desk.Open();

@@ -270,14 +270,23 @@ class CustomerEditorTest : public QObject {
     QCOMPARE(Customers(), before);
   }
 
-  void aNumberThatWouldLeaveItsFolderIsRefused() {
+  void aNumberThatCannotNameItsFilesIsRefused_data() {
+    QTest::addColumn<QString>("number");
+    QTest::addColumn<QString>("cannot");
+    QTest::newRow("separator") << u"1001/2"_s << u"hold / or \\, nor be . or .. alone"_s;
+    QTest::newRow("the folder above") << u".."_s << u"hold / or \\, nor be . or .. alone"_s;
+    QTest::newRow("beyond the code page") << u"\u04161"_s << u"hold letters outside the Western alphabets"_s;
+  }
+  void aNumberThatCannotNameItsFilesIsRefused() {
+    QFETCH(QString, number);
+    QFETCH(QString, cannot);
     const QByteArray before = BusinessRecord("1", "One");
     OpenWith(before);
-    Type(Box::txtCustomer0, u"1001/2"_s);
+    Type(Box::txtCustomer0, number);
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"Invalid Account Number|The Account Number \"1001/2\" cannot be used.\n"
-                                  "It also names the files of this account, so it cannot hold / or \\.\n"
-                                  "Nothing was saved: enter a different Number"_s});
+    QCOMPARE(Shown(), QStringList{u"Invalid Account Number|The Account Number \"%1\" cannot be used.\n"
+                                  "It also names the files of this account, so it cannot %2.\n"
+                                  "Nothing was saved: enter a different Number"_s.arg(number, cannot)});
     QVERIFY(!Editor().SaveAccepted());
     QCOMPARE(m_desk->View.Focus, u"box 0"_s);
     QCOMPARE(Customers(), before);
@@ -378,10 +387,78 @@ class CustomerEditorTest : public QObject {
     QCOMPARE(Customers(), before);
   }
 
+  void addingBlanksEveryBoxInBothStyles() {
+    m_desk->Profile.AddressStyleCaption = u"International Style Address"_s;
+    OpenWith(BusinessRecord("1", "One"));
+    for (int i = 0; i <= static_cast<int>(Box::txtAdd4); ++i) Type(static_cast<Box>(i), u"typed"_s);
+    QVERIFY(Editor().AddNewCustomer({}));
+    for (int i = 0; i <= static_cast<int>(Box::txtAdd4); ++i) {
+      const auto box = static_cast<Box>(i);
+      const bool stays = box == Box::cboStates || box == Box::cboTitle;
+      const QString expected = stays ? u"typed"_s : box == Box::cboCity ? u"Sparks"_s : QString();
+      QVERIFY2(Text(box) == expected, qPrintable(QString::number(i)));
+    }
+  }
+
+  void aNewCustomerTakesNoNameFromTheRecordBefore() {
+    OpenWith(PersonRecord("1", "Ann", "Q", "Bell"));
+    Editor().AddNewCustomer({});
+    QCOMPARE(Text(Box::lbLType), u"Individual"_s);
+    Type(Box::txtCustomer0, u"2"_s);
+    Editor().ToggleAccountType();
+    QCOMPARE(Text(Box::lbLType), u"Business"_s);
+    Editor().SaveCustomer();
+    QCOMPARE(Shown(), QStringList{u"|The Account Name Cannot be Blank"_s});
+    QCOMPARE(Customers(), PersonRecord("1", "Ann", "Q", "Bell"));
+  }
+
+  void afterACancelTheNextCustomerTakesNoStoredRecordsPlace() {
+    OpenWith(Many(2));
+    Editor().AddNewCustomer({});
+    Type(Box::txtCustomer0, u"3"_s);
+    Type(Box::txtCustomer1, u"Name 3"_s);
+    Editor().Navigate(0);
+    Editor().CancelAddNew();
+    QCOMPARE(Editor().CustomerCount(), 2);
+    Editor().AddNewCustomer({});
+    QCOMPARE(Editor().CustomerPointer(), 4);
+    Type(Box::txtCustomer0, u"4"_s);
+    Type(Box::txtCustomer1, u"Four"_s);
+    Editor().Navigate(0);
+    QCOMPARE(Customers().size(), 4 * 328);
+    QCOMPARE(Customers().mid(2 * 328, 28), "3                   Name 3  ");
+    QCOMPARE(Customers().mid(3 * 328, 25), "4                   Four ");
+  }
+
+  void afterACancelADeleteDropsNoOtherRecord() {
+    OpenWith(Many(2));
+    Editor().AddNewCustomer({});
+    Type(Box::txtCustomer0, u"3"_s);
+    Type(Box::txtCustomer1, u"Name 3"_s);
+    Editor().Navigate(0);
+    const QByteArray third = Customers().mid(2 * 328);
+    Editor().CancelAddNew();
+    Editor().ShowRecord(1);
+    m_desk->Boxes.Answers = {true};
+    Editor().DeleteCustomer();
+    QCOMPARE(Customers(), BusinessRecord("2", "Name 2") + third);
+    QCOMPARE(Editor().CustomerCount(), 2);
+  }
+
+  void deletingTheCustomerBeingAddedKeepsTheOthers() {
+    OpenWith(Many(2));
+    Editor().AddNewCustomer({});
+    m_desk->Boxes.Answers = {true};
+    Editor().DeleteCustomer();
+    QCOMPARE(Customers(), Many(2));
+    QCOMPARE(Editor().CustomerCount(), 2);
+    QCOMPARE(Editor().CustomerPointer(), 2);
+  }
+
   void addingWithoutANumberIsSilentWhileTheSwitchesAreOff() {
     OpenWith(BusinessRecord("1", "One"));
     Type(Box::txtCustomer0, {});
-    Editor().AddNewCustomer({});
+    QVERIFY(!Editor().AddNewCustomer({}));
     QCOMPARE(Shown(), QStringList());
     QCOMPARE(Editor().CustomerCount(), 1);
     QCOMPARE(Text(Box::txtCustomer1), u"One"_s);
@@ -394,7 +471,10 @@ class CustomerEditorTest : public QObject {
   void aFullFileTakesNoMoreCustomers() {
     OpenWith(BusinessRecord("1", "One") + QByteArray(328 * 32766, ' '));
     QCOMPARE(Editor().CustomerCount(), 32767);
-    QCOMPARE(ErrorOf([&] { Editor().AddNewCustomer({}); }), 6);
+    const RuntimeError error = CaughtFrom([&] { Editor().AddNewCustomer({}); });
+    QCOMPARE(error.Number(), 6);
+    QCOMPARE(error.Text(), u"The customer file is full: it holds 32,767 customers."_s);
+    QCOMPARE(error.Advice(), u"Delete one first. Nothing was lost."_s);
     QCOMPARE(Editor().CustomerCount(), 32767);
     QCOMPARE(Text(Box::txtCustomer1), u"One"_s);
     QCOMPARE(Customers().size(), 328 * 32767);
@@ -557,6 +637,29 @@ class CustomerEditorTest : public QObject {
     QVERIFY(m_desk->Has(u"/KVActiveAccounts/1.txt"_s));
     QVERIFY(!m_desk->Has(u"/KVActiveAccounts/77.txt"_s));
     QVERIFY(!m_desk->Has(u"/Backup/KVActiveAccounts/77.txt"_s));
+  }
+
+  void aDeleteThatFailsOnceTheCustomerIsGoneShowsWhoTookThePlace() {
+    OpenWith(Many(3));
+    Editor().ShowRecord(2);
+    m_desk->Boxes.Answers = {true};
+    m_desk->Device.FailAt(FailingDevice::Call::FlushFolder, 2, EIO);
+    QCOMPARE(ErrorOf([&] { Editor().DeleteCustomer(); }), 75);
+    QCOMPARE(Editor().CustomerCount(), 2);
+    QCOMPARE(Editor().CustomerPointer(), 2);
+    QCOMPARE(Text(Box::txtCustomer0), u"3"_s);
+    QCOMPARE(m_desk->View.Accounts, (QStringList{u"Name 1"_s, u"Name 3"_s}));
+  }
+
+  void aFirstSaveThatFailsLeavesNoFile() {
+    Activate();
+    Type(Box::txtCustomer0, u"1001"_s);
+    Type(Box::txtCustomer1, u"Acme"_s);
+    m_desk->Device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+    QCOMPARE(ErrorOf([&] { Editor().SaveCustomer(); }), 61);
+    QVERIFY(!m_desk->Has(u"/CustomerData.txt"_s));
+    Editor().SaveCustomer();
+    QCOMPARE(Customers().size(), 328);
   }
 
   void aDuplicateNumberIsReplacedOrKept() {

@@ -220,6 +220,61 @@ class CustomerFileTest : public QObject {
     }
   }
 
+  /// The first rename puts the shorter file beside the old one, the second in its place.
+  void aRenameThatFailsLeavesFileAndLedger() {
+    const QByteArray before = BusinessRecord("1", "One") + BusinessRecord("2", "Two");
+    for (const int nth : {1, 2}) {
+      init();
+      PutCustomers(before);
+      m_tree->Put(u"/Backup/CustomerData.txt"_s, "older");
+      m_tree->Put(u"/KVActiveAccounts/2.txt"_s, "ledger");
+      m_tree->Put(u"/Backup/KVActiveAccounts/2.txt"_s, "ledger copy");
+      m_tree->Device.FailAt(FailingDevice::Call::Rename, nth, EACCES);
+      QCOMPARE(ErrorOf([&] { m_file->Remove(2, 2, u"2"_s); }), 70);
+      QCOMPARE(Customers(), before);
+      QCOMPARE(m_tree->Bytes(u"/Backup/CustomerData.txt"_s), "older");
+      QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/2.txt"_s), "ledger");
+      QCOMPARE(m_tree->Bytes(u"/Backup/KVActiveAccounts/2.txt"_s), "ledger copy");
+    }
+  }
+
+  void aFolderThatIsNotFlushedAfterTheRenameIsAnsweredAndTheLedgerStays() {
+    PutCustomers(BusinessRecord("1", "One") + BusinessRecord("2", "Two"));
+    m_tree->Put(u"/Backup/CustomerData.txt"_s, "older");
+    m_tree->Put(u"/KVActiveAccounts/2.txt"_s, "ledger");
+    // The first one is that of the shorter file beside the old one.
+    m_tree->Device.FailAt(FailingDevice::Call::FlushFolder, 2, EIO);
+    const std::optional<RuntimeError> failed = m_file->Remove(2, 2, u"2"_s);
+    QVERIFY(failed.has_value());
+    QCOMPARE(failed->Number(), 75);
+    QCOMPARE(Customers(), BusinessRecord("1", "One"));
+    QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/2.txt"_s), "ledger");
+    QCOMPARE(m_tree->Bytes(u"/Backup/CustomerData.txt"_s), "older");
+  }
+
+  void whatCannotBeRemovedAfterTheRenameIsAnsweredAndTheRestGoes() {
+    const QStringList gone{u"/Backup/KVActiveAccounts/2.txt"_s, u"/KVActiveAccounts/2.txt"_s,
+                           u"/Backup/CustomerData.txt"_s};
+    for (int kept = 0; kept < gone.size(); ++kept) {
+      init();
+      PutCustomers(BusinessRecord("1", "One") + BusinessRecord("2", "Two"));
+      for (const QString& name : gone) m_tree->Put(name, "old");
+      // Before these: what earlier deletes may have left, and the name that the rename took away.
+      constexpr int before = 3;
+      m_tree->Device.FailAt(FailingDevice::Call::Remove, before + kept + 1, EACCES);
+      const std::optional<RuntimeError> failed = m_file->Remove(2, 2, u"2"_s);
+      QVERIFY(failed.has_value());
+      QCOMPARE(failed->Number(), 70);
+      QCOMPARE(Customers(), BusinessRecord("1", "One"));
+      for (int i = 0; i < gone.size(); ++i) QCOMPARE(m_tree->Has(gone.at(i)), i == kept);
+    }
+  }
+
+  void aDuplicateSearchWithoutAFileFindsNoneAndMakesNone() {
+    QVERIFY(!m_file->HasAccount(u"1"_s, 2, 1));
+    QVERIFY(!m_tree->Has(u"/CustomerData.txt"_s));
+  }
+
   void aKillAtAnyStepOfADeleteLeavesTheOldFileOrTheNewOne() {
     const QByteArray kept = BusinessRecord("1", "One");
     const QByteArray before = kept + BusinessRecord("2", "Two");
@@ -229,6 +284,7 @@ class CustomerFileTest : public QObject {
       PutCustomers(before);
       m_tree->Put(u"/Backup/CustomerData.txt"_s, "older");
       m_tree->Put(u"/KVActiveAccounts/2.txt"_s, "ledger");
+      m_tree->Put(u"/Backup/KVActiveAccounts/2.txt"_s, "ledger copy");
       m_tree->Device.KillAt(++steps);
       try {
         m_file->Remove(2, 2, u"2"_s);
@@ -237,6 +293,10 @@ class CustomerFileTest : public QObject {
         const QByteArray now = Customers();
         QVERIFY2(now == before || now == kept, qPrintable(u"step %1"_s.arg(steps)));
         QVERIFY2(now == kept || m_tree->Has(u"/Backup/CustomerData.txt"_s), qPrintable(u"step %1"_s.arg(steps)));
+        QVERIFY2(now == kept || m_tree->Bytes(u"/KVActiveAccounts/2.txt"_s) == "ledger",
+                 qPrintable(u"step %1"_s.arg(steps)));
+        QVERIFY2(now == kept || m_tree->Bytes(u"/Backup/KVActiveAccounts/2.txt"_s) == "ledger copy",
+                 qPrintable(u"step %1"_s.arg(steps)));
       }
     }
     QCOMPARE(Customers(), kept);

@@ -250,8 +250,97 @@ class CustomerScreenTest : public QObject {
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     QCOMPARE(desk.BoxesShown(), 0);
-    QVERIFY(desk.Sees(u"cmdCustomer_13"_s));
+    QVERIFY2(!desk.Sees(u"cmdCustomer_13"_s), "nothing was added that could be cancelled");
     QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 1"_s);
+  }
+
+  void addingWithoutANumberCostsNoStoredCustomer() {
+    CustomerDesk desk(CustomerDesk::Many(2));
+    desk.Open();
+    desk.Click(u"cmdNav_3"_s);
+    const QByteArray before = desk.Customers();
+    desk.Fill(u"txtCustomer_0"_s, QString());
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
+    desk.Fill(u"txtCustomer_0"_s, u"2"_s);
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 3"_s);
+    QCOMPARE(desk.Customers(), before);
+  }
+
+  void addingAgainWithoutANumberKeepsTheCancelOfTheFirst() {
+    CustomerDesk desk(CustomerDesk::Many(2));
+    desk.Open();
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QVERIFY(desk.Sees(u"cmdCustomer_13"_s));
+    desk.Click(u"cmdCustomer_13"_s);
+    QCOMPARE(desk.Box(0), u"2"_s);
+  }
+
+  void addingOnAFullDiskCostsNoStoredCustomer() {
+    CustomerDesk desk(CustomerDesk::Many(2));
+    desk.Open();
+    desk.Click(u"cmdNav_3"_s);
+    const QByteArray before = desk.Customers();
+    desk.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+    desk.Program.Answers.Ok();
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
+    desk.Program.Files.Reset();
+    desk.Click(u"cmdCustomer_0"_s);
+    desk.GoFromMenu();
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 3"_s);
+    desk.Driver().Type(u"3"_s);
+    desk.Fill(u"txtCustomer_1"_s, u"Three"_s);
+    desk.Click(u"cmdNav_0"_s);
+    QCOMPARE(desk.Customers().size(), 3 * 328);
+    QCOMPARE(desk.Customers().first(2 * 328), before);
+  }
+
+  void aFullFileTakesNoMoreAndOffersNoCancel() {
+    CustomerDesk desk(BusinessRecord("1", "One") + QByteArray(328 * 32766, ' '));
+    desk.Open();
+    desk.Program.Answers.Ok(
+        u"/CustomerData.txt: The customer file is full: it holds 32,767 customers. (error 6)\n\n"
+        "Delete one first. Nothing was lost."_s);
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
+    QCOMPARE(desk.Box(0), u"1"_s);
+    QCOMPARE(desk.Customers().size(), 328 * 32767);
+  }
+
+  void aDeleteThatFailsLateNeverSavesTheDeletedOverAnother() {
+    CustomerDesk desk(CustomerDesk::Many(3));
+    desk.Open();
+    desk.Click(u"cmdNav_2"_s);
+    desk.Program.Files.FailAt(FailingDevice::Call::FlushFolder, 2, EIO);
+    desk.Program.Answers.Yes();
+    desk.Program.Answers.Ok();
+    desk.Driver().Trigger(u"mnuDelete"_s);
+    QVERIFY(desk.Program.Answers.Last().Text.contains(u"CustomerData.txt"));
+    QCOMPARE(desk.Box(0), u"3"_s);
+    const QByteArray left = CustomerDesk::Many(1) + BusinessRecord("3", "Name 3");
+    QCOMPARE(desk.Customers(), left);
+    desk.Program.Files.Reset();
+    desk.Click(u"cmdNav_2"_s);
+    QCOMPARE(desk.Box(0), u"1"_s);
+    QCOMPARE(desk.Customers(), left);
+  }
+
+  void anActivationAppliesBusinessToTheFirstCustomer() {
+    CustomerDesk desk(PersonRecord("1", "Ann", "Q", "Bell"));
+    desk.Open();
+    QCOMPARE(desk.Text(u"lbLType"_s), u"Individual"_s);
+    desk.Click(u"cmdCustomer_0"_s);
+    desk.Program.Tree.Remove(u"/CustomerData.txt"_s);
+    desk.Program.Tree.Remove(u"/Backup/CustomerData.txt"_s);
+    desk.Program.Answers.Ok({}, u"Create Customers"_s);
+    desk.GoFromMenu();
+    QCOMPARE(desk.Text(u"lbLType"_s), u"Business"_s);
+    QVERIFY(desk.Sees(u"txtCustomer_1"_s));
+    QVERIFY(!desk.Sees(u"txtCustomer_8"_s));
   }
 
   void menuDuringAnAddDropsTheNewCustomer() {

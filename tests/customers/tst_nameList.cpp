@@ -128,6 +128,16 @@ class NameListTest : public QObject {
     QCOMPARE(desk.Box(0), u"1"_s);
   }
 
+  void anEmptyTextIsNoNameThoughACustomerHasNone() {
+    CustomerDesk desk(BusinessRecord("1", "Zeta Works") + BusinessRecord("2", ""));
+    desk.Open();
+    QCOMPARE(List(desk)->itemText(0), QString());
+    desk.Click(u"Command1_1"_s);
+    desk.Click(u"txtCustomer_2"_s);
+    QVERIFY(desk.Sees(u"cboAccounts"_s));
+    QCOMPARE(desk.Box(0), u"1"_s);
+  }
+
   void enterShowsTheCompletedName() {
     CustomerDesk desk(People());
     desk.Open();
