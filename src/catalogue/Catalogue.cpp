@@ -127,6 +127,7 @@ void Catalogue::LoadServices() {
   }
   // The grid, and with it the file's next image, is ordered otherwise than the invoice's list; this is meant.
   fgServices.SortGenericAscending(ServiceColumn::Description);
+  fgServices.SetRow(0);
   m_lists.Announce(0);
 }
 
@@ -158,6 +159,7 @@ void Catalogue::LoadAdditionalItems() {
     m_lists.ItemBreaks[static_cast<std::size_t>(number)] = {record.DiscountPrice, record.DiscountQty};
   }
   fgItems.SortGenericAscending(ItemColumn::Category);
+  fgItems.SetRow(0);
   m_lists.Announce(1);
 }
 
@@ -177,6 +179,7 @@ void Catalogue::LoadCustomItems() {
     m_lists.CustomBreaks[static_cast<std::size_t>(number)] = {record.DiscountPrice, record.DiscountQty};
   }
   fgCustom.SortGenericAscending(CustomColumn::Description);
+  fgCustom.SetRow(0);
   m_lists.Announce(2);
 }
 

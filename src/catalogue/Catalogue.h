@@ -44,6 +44,7 @@ class Catalogue {
   void Load();
 
   /// Each of the four replaces what it fills. A file that can't be read as what it must be throws and changes nothing.
+  /// A loaded grid is sorted anew and has no current row: a Save that meant the row before must not hit another.
   void LoadServices();
   void LoadAdditionalItems();
   void LoadCustomItems();

@@ -22,6 +22,15 @@ QString GridNameOf(CatalogueList list) {
   return u"fgCustom"_s;
 }
 
+/// A grid of which no row has a description holds nothing to keep. One such row, as a damaged record gives it, sorts
+/// first and must not take the others with it: nothing on disk is lost by a blank first row.
+bool HoldsNothing(const TextMatrix& grid) {
+  for (int row = 1; row < grid.Rows(); ++row) {
+    if (!TrimBlanks(grid.Text(row, 0)).isEmpty()) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 void Catalogue::SaveCatalogue() {
@@ -38,16 +47,15 @@ void Catalogue::RequireRoom(CatalogueList list) {
   if (count > CatalogueLimit) {
     throw RuntimeError(
         ErrorNumber::Overflow, CatalogueFileOf(list),
-        u"The list holds %1 entries, and its file can take %2. Nothing was saved; delete some first."_s.arg(count).arg(
-            CatalogueLimit));
+        u"The list holds %1 entries, and its file can take %2. Nothing was saved."_s.arg(count).arg(CatalogueLimit))
+        .WithAdvice(u"Delete some first. Nothing was lost."_s);
   }
 }
 
 void Catalogue::SaveList(CatalogueList list) {
   const QString name = CatalogueFileOf(list);
   const TextMatrix& grid = Grid(list);
-  // The first row alone tells whether there is anything to keep.
-  if (grid.Rows() < 2 || grid.Text(1, 0).isEmpty()) {
+  if (HoldsNothing(grid)) {
     m_disk.KillWithBackup(name);
     return;
   }

@@ -121,7 +121,7 @@ void frmServices::keyPressEvent(QKeyEvent* event) {
   for (const int save : {4, 13, 22}) {
     if ((*m_cmdServices)[save]->isEnabled()) return;
   }
-  (*m_cmdServices)[0]->click();
+  PressButton((*m_cmdServices)[0]);
 }
 
 GridView* frmServices::View(CatalogueList list) const {

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Throws RuntimeError 6 that names the box for an amount too large.
+/// Throws RuntimeError that names the box: 6 for an amount too large, 13 for what is none, as a point alone.
 void Reformat(QLineEdit* box) {
   box->setText(CurrencyText(Currency::FromText(box->text(), box->accessibleName())));
 }
@@ -51,9 +51,9 @@ void frmServices::LeaveCharge(int index) {
   if (IsNumeric(box->text())) return Reformat(box);
   m_dialogs.Beep();
   if (index == 2) {
-    // A discount price left blank is the sell price; blank as well while there is none.
+    // A discount price left blank is the sell price; zero while there is none.
     const QString price = (*m_txtCharge)[1]->text();
-    return box->setText(IsNumeric(price) ? CurrencyText(Currency::FromText(price)) : QString());
+    return box->setText(IsNumeric(price) ? CurrencyText(Currency::FromText(price)) : ZeroCurrencyText());
   }
   box->setText(ZeroCurrencyText());
   SetFocusTo(box);
@@ -81,7 +81,7 @@ void frmServices::ConnectLabor() {
 
 void frmServices::LeaveLaborRate(int index) {
   QLineEdit* box = (*m_txtLaborRate)[index];
-  if (IsNumeric(box->text())) return Reformat(box);
+  if (!box->text().isEmpty()) return Reformat(box);
   m_dialogs.ShowMessage(u"Labor Rate must be greater than Zero"_s);
   SetFocusTo(box);
 }
@@ -108,11 +108,8 @@ void frmServices::FilterDecimals(QLineEdit* box) {
   FilterKeys(box, [box](int key) { return key == 13 ? key : VerifyDecimalKey(key, box->text()); });
 }
 
-/// Enter saves where Save is live: the focus goes to the button first, so that the box settles.
+/// Enter saves where Save is live, as a press of the button does: the box settles first, and where it can't, nothing is
+/// saved.
 void frmServices::SaveOnReturn(QLineEdit* box, int command) {
-  On(box, &QLineEdit::returnPressed, [this, command] {
-    QPushButton* save = (*m_cmdServices)[command];
-    SetFocusTo(save);
-    if (focusWidget() == save) save->click();
-  });
+  On(box, &QLineEdit::returnPressed, [this, command] { PressButton((*m_cmdServices)[command]); });
 }

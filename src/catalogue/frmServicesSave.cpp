@@ -18,8 +18,9 @@ QString CurrencyTextOf(const QLineEdit* box) {
 
 }  // namespace
 
+/// Blanks alone count as empty: a description of them would be read back as none.
 bool frmServices::RefusesEmpty(QLineEdit* box) {
-  if (!box->text().isEmpty()) return false;
+  if (!TrimBlanks(box->text()).isEmpty()) return false;
   SetFocusTo(box);
   m_dialogs.Beep();
   return true;

@@ -51,6 +51,7 @@ class RecordFiles : public QObject {
   void categoriesAreOfferedOnceAndCaseCounts();
   void anItemWithoutCategoryAddsNone();
   void aLoadReplacesWhatAnEarlierOneFilled();
+  void aReloadOfCustomItemsReplacesTheInvoicesList();
   void aLoadTellsWhoShowsItsList();
   void aLoadMakesItsModifyButtonLive();
   void loadingAnAbsentItemFileByHandEmptiesTheListsAndCreatesTheFile();
@@ -247,6 +248,19 @@ void RecordFiles::aLoadReplacesWhatAnEarlierOneFilled() {
   QCOMPARE(tree.Lists.lstCategories.size(), std::size_t(2));
   QCOMPARE(tree.Lists.ItemBreaks.size(), std::size_t(2));
   QCOMPARE(tree.Catalog.fgItems.Rows(), 2);
+}
+
+void RecordFiles::aReloadOfCustomItemsReplacesTheInvoicesList() {
+  CatalogueTree tree;
+  const QByteArray numbers(20, '\0');
+  tree.Write(CatalogueFile::Custom(), Padded("a", 50) + numbers + Padded("b", 50) + numbers);
+  tree.Catalog.LoadCustomItems();
+  QCOMPARE(Offered(tree.Lists, 2), (QStringList{u"a"_s, u"b"_s}));
+  tree.Write(CatalogueFile::Custom(), Padded("c", 50) + numbers);
+  tree.Catalog.LoadCustomItems();
+  QCOMPARE(Offered(tree.Lists, 2), QStringList{u"c"_s});
+  QCOMPARE(tree.Lists.Entries[2][0].Data, 0);
+  QCOMPARE(tree.Lists.CustomBreaks.size(), std::size_t(2));
 }
 
 void RecordFiles::aLoadTellsWhoShowsItsList() {

@@ -67,7 +67,9 @@ class CatalogueSaves : public QObject {
   void aSaveDropsTheBackupCopies();
   void anEmptyGridLeavesNeitherFileNorBackup();
   void anEmptiedListStaysOnTheInvoice();
-  void aFirstRowWithoutDescriptionCountsAsAnEmptyGrid();
+  void nothingOnDiskIsLostByABlankFirstRow();
+  void aGridWithoutAnyDescriptionCountsAsEmpty();
+  void aLoadedGridHasNoCurrentRow();
   void filesTakeTheOrderOfTheirGridsAndAnAddedRowComesLastUntilTheSecondSave();
   void twoHundredFiftyFiveRowsSave();
   void aTwoHundredFiftySixthRowIsAnOverflowBeforeAnyFileIsTouched();
@@ -143,13 +145,41 @@ void CatalogueSaves::anEmptiedListStaysOnTheInvoice() {
   QCOMPARE(tree.Catalog.cboCategory(), QStringList{u"Parts"_s});
 }
 
-void CatalogueSaves::aFirstRowWithoutDescriptionCountsAsAnEmptyGrid() {
+void CatalogueSaves::nothingOnDiskIsLostByABlankFirstRow() {
   CatalogueTree tree;
   tree.Write(Services, Service("a") + Service(""));
-  tree.Catalog.LoadServices();
+  tree.Write(Items, Item("b", "Parts") + Item(""));
+  tree.Write(Custom, CustomItem("c") + CustomItem(""));
+  tree.Catalog.Load();
   QCOMPARE(Column(tree.Catalog.fgServices, 0), (QStringList{QString(), u"a"_s}));
   tree.Catalog.SaveCatalogue();
+  QCOMPARE(tree.Read(Services), Service("") + Service("a"));
+  QCOMPARE(tree.Read(Items), Item("") + Item("b", "Parts"));
+  QCOMPARE(tree.Read(Custom), CustomItem("") + CustomItem("c"));
+}
+
+void CatalogueSaves::aGridWithoutAnyDescriptionCountsAsEmpty() {
+  CatalogueTree tree;
+  tree.Write(Services, Service("") + Service(""));
+  tree.Write(u"/Backup"_s + Services, "old");
+  tree.Catalog.LoadServices();
+  tree.Catalog.SaveCatalogue();
   QVERIFY(!tree.Has(Services));
+  QVERIFY(!tree.Has(u"/Backup"_s + Services));
+}
+
+void CatalogueSaves::aLoadedGridHasNoCurrentRow() {
+  CatalogueTree tree;
+  for (const QString& name : {u"b"_s, u"a"_s}) {
+    AddService(tree, name);
+    AddItem(tree, name);
+    AddCustom(tree, name);
+  }
+  tree.Catalog.fgServices.SetRow(1);
+  tree.Catalog.SaveCatalogue();
+  QCOMPARE(tree.Catalog.fgServices.Row(), 0);
+  QCOMPARE(tree.Catalog.fgItems.Row(), 0);
+  QCOMPARE(tree.Catalog.fgCustom.Row(), 0);
 }
 
 void CatalogueSaves::filesTakeTheOrderOfTheirGridsAndAnAddedRowComesLastUntilTheSecondSave() {

@@ -21,10 +21,12 @@ class ScreenBoxes : public QObject {
   void leavingAnEmptySellPriceTakesTheFocusBack();
   void aWayOutRunsThoughTheChargeIsEmpty();
   void leavingAnEmptyDiscountPriceTakesTheSellPrice();
+  void aDiscountPriceOfAPointAloneTakesTheSellPriceToo();
   void customPricesAreNotCheckedOnLeaving();
   void leavingCostReformatsItAndLeavesAnEmptyOneAlone();
   void quantityBoxesEmptyAZeroAndOnlyTheDiscountQuantityPutsItBack();
   void anEmptyLaborRateIsToldAndKeepsTheFocus();
+  void aLaborRateOfAPointAloneIsNoAmount();
   void aLaborRateIsReformattedOnLeaving();
   void laborNamesRefuseTheDoubleQuote();
   void createGeneralLaborEmptiesTheNamesAndTheFirstRate();
@@ -35,6 +37,7 @@ class ScreenBoxes : public QObject {
   void theCloseBoxSavesBothAndThenTheBackupRuns();
   void anActivationShutsTheBoxes();
   void aDiskThatIsFullIsToldAndTheScreenStays();
+  void aCloseThatCannotSaveTheListsLeavesTheLaborRatesForTheNextOne();
   void theZeroTimeOfAServiceComesBackAsAQuarterOfAnHour();
   void aDamagedFileEndsTheStartAndStaysAsItIs();
 };
@@ -159,12 +162,24 @@ void ScreenBoxes::leavingAnEmptyDiscountPriceTakesTheSellPrice() {
   screen.SetFocus("txtReorderAt");
   QCOMPARE(screen.TakeBeeps(), 0);
   QCOMPARE(screen.Text("txtCharge_2"), u"$11.00"_s);
-  // Without a sell price it stays empty, for Save to refuse.
+  // Without a sell price it is zero.
   screen.Click(8);
+  QCOMPARE(screen.Text("txtCharge_1"), QString());
   screen.Fill("txtCharge_2", "");
   screen.SetFocus("txtReorderAt");
   QCOMPARE(screen.TakeBeeps(), 1);
-  QCOMPARE(screen.Text("txtCharge_2"), QString());
+  QCOMPARE(screen.Text("txtCharge_2"), u"$0.00"_s);
+}
+
+void ScreenBoxes::aDiscountPriceOfAPointAloneTakesTheSellPriceToo() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  screen.Click(8);
+  screen.Fill("txtCharge_1", "12.5");
+  screen.Fill("txtCharge_2", ".");
+  screen.SetFocus("txtReorderAt");
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Text("txtCharge_2"), u"$12.50"_s);
 }
 
 void ScreenBoxes::customPricesAreNotCheckedOnLeaving() {
@@ -218,11 +233,33 @@ void ScreenBoxes::anEmptyLaborRateIsToldAndKeepsTheFocus() {
   CatalogueScreen screen;
   screen.Program.Tree.Write(u"/Labor.txt"_s, LaborFile);
   screen.Open(2);
-  for (const char* text : {"", "."}) {
-    screen.Fill("txtLaborRate_1", text);
-    screen.Program.Answers.Ok(u"Labor Rate must be greater than Zero"_s, u"Karvex Invoicer"_s);
-    screen.Click(17);
-    QCOMPARE(screen.Focus(), u"txtLaborRate_1"_s);
+  screen.Fill("txtLaborRate_1", "");
+  screen.Program.Answers.Ok(u"Labor Rate must be greater than Zero"_s, u"Karvex Invoicer"_s);
+  screen.Click(17);
+  QCOMPARE(screen.Focus(), u"txtLaborRate_1"_s);
+  QCOMPARE(screen.ShownTab(), 2);
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Labor.txt"_s), LaborFile);
+}
+
+void ScreenBoxes::aLaborRateOfAPointAloneIsNoAmount() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Labor.txt"_s, LaborFile);
+  screen.Open(2);
+  const QString name = screen.Driver().Control(u"txtLaborRate_1"_s)->accessibleName();
+  QVERIFY(!name.isEmpty());
+  for (const bool byEnter : {false, true}) {
+    // The point of an amount that stands there would refuse another.
+    screen.Fill("txtLaborRate_1", "");
+    screen.Fill("txtLaborRate_1", ".");
+    screen.Program.Answers.Ok();
+    if (byEnter) {
+      screen.Driver().PressKey(Qt::Key_Return);
+    } else {
+      screen.Click(17);
+    }
+    QVERIFY(screen.Program.Answers.Last().Text.startsWith(name + u": "_s));
+    QVERIFY(screen.Program.Answers.Last().Text.contains(u"(error 13)"_s));
+    QCOMPARE(screen.Text("txtLaborRate_1"), u"."_s);
     QCOMPARE(screen.ShownTab(), 2);
     QCOMPARE(screen.Program.Tree.Bytes(u"/Labor.txt"_s), LaborFile);
   }
@@ -390,6 +427,25 @@ void ScreenBoxes::aDiskThatIsFullIsToldAndTheScreenStays() {
   screen.Click(0);
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
   QCOMPARE(screen.Program.Tree.Size(u"/Services.txt"_s), 144);
+}
+
+void ScreenBoxes::aCloseThatCannotSaveTheListsLeavesTheLaborRatesForTheNextOne() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Labor.txt"_s, LaborFile);
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("b"));
+  screen.Open(2);
+  screen.Fill("txtLabor_1", "Fitting");
+  screen.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+  screen.Program.Answers.Ok();
+  screen.Driver().CloseByUser();
+  QVERIFY(!screen.Program.Running().HasEnded());
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Labor.txt"_s), LaborFile);
+  QCOMPARE(screen.Text("txtLabor_1"), u"Fitting"_s);
+  screen.Program.Files.Reset();
+  screen.Driver().CloseByUser();
+  QVERIFY(screen.Program.Running().HasEnded());
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Labor.txt"_s),
+           QByteArray("\"General Labor\",\"$45.00\"\r\n\"Fitting\",\"$60.00\"\r\n\"Painting\",\"$30.00\"\r\n"));
 }
 
 void ScreenBoxes::theZeroTimeOfAServiceComesBackAsAQuarterOfAnHour() {

@@ -34,6 +34,7 @@ class ScreenCommands : public QObject {
   void deletingTheLastRowLeavesNoFile();
   void deleteWithoutACurrentRowDoesNothing();
   void escapeGoesBackUnlessARecordIsBeingEntered();
+  void escapeSettlesTheBoxThatIsLeft();
   void everyControlHasANameForThoseWhoHearTheScreen();
 };
 
@@ -545,6 +546,16 @@ void ScreenCommands::escapeGoesBackUnlessARecordIsBeingEntered() {
   screen.Driver().PressKey(Qt::Key_Escape);
   QVERIFY(!ScreenDriver::IsShown(u"frmServices"_s));
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
+}
+
+void ScreenCommands::escapeSettlesTheBoxThatIsLeft() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  screen.Fill("txtCost", "3.5");
+  screen.Driver().PressKey(Qt::Key_Escape);
+  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
+  screen.GoFromMenu();
+  QCOMPARE(screen.Text("txtCost"), u"$3.50"_s);
 }
 
 void ScreenCommands::everyControlHasANameForThoseWhoHearTheScreen() {

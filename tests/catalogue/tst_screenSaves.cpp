@@ -54,6 +54,10 @@ class ScreenSaves : public QObject {
   void modifyModeWithoutALineThereAsksForOne();
   void aSaveThatStopsLeavesBoxesAndMode();
   void enterInABoxSaves();
+  void enterInABoxThatHoldsNoAmountSavesNothing();
+  void aDescriptionOfBlanksIsRefusedInEveryList();
+  void addNewAfterAModifyAddsARowAndLeavesTheOther();
+  void aDeleteDuringAModifyAsksForTheLineAgain();
   void theTwoHundredFiftySixthRecordIsToldAndTheScreenStays();
 };
 
@@ -450,6 +454,112 @@ void ScreenSaves::enterInABoxSaves() {
   QCOMPARE(screen.Focus(), u"txtCharge_0"_s);
 }
 
+void ScreenSaves::enterInABoxThatHoldsNoAmountSavesNothing() {
+  CatalogueScreen screen;
+  screen.Open(1);
+  BeginItem(screen);
+  screen.Fill("txtCost", ".");
+  // One box tells of it: that of the leaving, none of a save.
+  screen.Program.Answers.Ok();
+  screen.Driver().PressKey(Qt::Key_Return);
+  QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"Cost per unit: "_s));
+  QCOMPARE(screen.Program.Answers.Boxes().size(), 1);
+  QCOMPARE(screen.Rows("fgItems"), 0);
+  QCOMPARE(screen.Text("txtDescription_1"), u"Hose"_s);
+}
+
+void ScreenSaves::aDescriptionOfBlanksIsRefusedInEveryList() {
+  CatalogueScreen screen;
+  screen.Open(0);
+  screen.Click(1);
+  screen.Fill("txtCharge_0", "1");
+  screen.Fill("txtDescription_0", "  ");
+  screen.Click(4);
+  QCOMPARE(screen.Focus(), u"txtDescription_0"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgServices"), 0);
+  screen.ShowTab(1);
+  BeginItem(screen);
+  screen.Fill("txtDescription_1", "  ");
+  screen.TakeBeeps();
+  screen.Click(13);
+  QCOMPARE(screen.Focus(), u"txtDescription_1"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgItems"), 0);
+  screen.ShowTab(3);
+  screen.Click(18);
+  screen.Fill("txtCharge_3", "5");
+  screen.Fill("txtCharge_4", "4");
+  screen.Fill("txtDescription_2", "  ");
+  screen.Click(22);
+  QCOMPARE(screen.Focus(), u"txtDescription_2"_s);
+  QCOMPARE(screen.TakeBeeps(), 1);
+  QCOMPARE(screen.Rows("fgCustom"), 0);
+}
+
+void ScreenSaves::addNewAfterAModifyAddsARowAndLeavesTheOther() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("Advice"));
+  screen.Program.Tree.Write(u"/KVInventoriedItems.txt"_s, CatalogueScreen::Item("Hose", "Air"));
+  screen.Program.Tree.Write(u"/CustomItems.txt"_s, CatalogueScreen::CustomItem("Engraving"));
+  screen.Open();
+  screen.SelectRow("fgServices", 1);
+  for (const int command : {3, 7, 1}) screen.Click(command);
+  screen.Fill("txtDescription_0", "More");
+  screen.Fill("txtCharge_0", "2");
+  screen.PickTime("0:30");
+  screen.Click(4);
+  QCOMPARE(screen.Rows("fgServices"), 2);
+  QCOMPARE(screen.Row("fgServices", 1), u"Advice|$1.00|0:15"_s);
+  QCOMPARE(screen.Row("fgServices", 2), u"More|$2.00|0:30"_s);
+
+  screen.ShowTab(1);
+  screen.SelectRow("fgItems", 1);
+  for (const int command : {9, 14, 8}) screen.Click(command);
+  screen.Fill("txtDescription_1", "Filter");
+  screen.Fill("txtCharge_1", "5");
+  screen.Fill("txtCharge_2", "4.5");
+  screen.Fill("txtOnHand", "7");
+  screen.Click(13);
+  QCOMPARE(screen.Rows("fgItems"), 2);
+  QCOMPARE(screen.Row("fgItems", 1), u"Hose|Air|$1.25|$12.50|10|$11.00|6|24|4"_s);
+  QCOMPARE(screen.Row("fgItems", 2), u"Filter|Air|$1.25|$5.00|7|$4.50|0|0|0"_s);
+
+  screen.ShowTab(3);
+  screen.SelectRow("fgCustom", 1);
+  for (const int command : {19, 23, 18}) screen.Click(command);
+  screen.Fill("txtDescription_2", "Welding");
+  screen.Fill("txtCharge_3", "5");
+  screen.Fill("txtCharge_4", "4");
+  screen.Click(22);
+  QCOMPARE(screen.Rows("fgCustom"), 2);
+  QCOMPARE(screen.Row("fgCustom", 1), u"Engraving|$100.00|$90.50|3"_s);
+  QCOMPARE(screen.Row("fgCustom", 2), u"Welding|$5.00|$4.00|0"_s);
+}
+
+void ScreenSaves::aDeleteDuringAModifyAsksForTheLineAgain() {
+  CatalogueScreen screen;
+  screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("a") + CatalogueScreen::Service("b") +
+                                                    CatalogueScreen::Service("c"));
+  screen.Open();
+  screen.SelectRow("fgServices", 2);
+  screen.Click(3);
+  screen.Fill("txtDescription_0", "changed");
+  screen.Program.Answers.Yes();
+  screen.Click(2);
+  QCOMPARE(screen.Rows("fgServices"), 2);
+  screen.Program.Answers.Ok(u"Select the line to modify, or click Add New"_s);
+  screen.Click(4);
+  QCOMPARE(screen.Row("fgServices", 1), u"a|$1.00|0:15"_s);
+  QCOMPARE(screen.Row("fgServices", 2), u"c|$1.00|0:15"_s);
+  QCOMPARE(screen.Text("txtDescription_0"), u"changed"_s);
+  QVERIFY(screen.Open("fgServices"));
+  screen.SelectRow("fgServices", 2);
+  screen.Click(4);
+  QCOMPARE(screen.Row("fgServices", 1), u"a|$1.00|0:15"_s);
+  QCOMPARE(screen.Row("fgServices", 2), u"changed|$1.00|0:15"_s);
+}
+
 void ScreenSaves::theTwoHundredFiftySixthRecordIsToldAndTheScreenStays() {
   CatalogueScreen screen;
   const QByteArray full = CatalogueScreen::Service("a").repeated(255);
@@ -460,6 +570,7 @@ void ScreenSaves::theTwoHundredFiftySixthRecordIsToldAndTheScreenStays() {
   screen.Program.Answers.Ok();
   screen.Click(0);
   QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"/Services.txt: The list holds 256 entries"_s));
+  QVERIFY(screen.Program.Answers.Last().Text.endsWith(u"Delete some first. Nothing was lost."_s));
   QVERIFY(ScreenDriver::IsShown(u"frmServices"_s));
   QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), full);
   // The window's close box doesn't lose it either.
