@@ -6,6 +6,7 @@
 #include "invoice/InvoiceHeaderData.h"
 #include "printing/frmBlanks.h"
 #include "ProgramObjects.h"
+#include "records/frmIncomplete.h"
 #include "records/PartialList.h"
 #include "setup/frmSetup.h"
 #include "shell/ErrorText.h"
@@ -72,6 +73,10 @@ std::unique_ptr<Screen> Program::Build(ScreenName screen) {
       return std::make_unique<frmBlanks>(*this, *this,
                                          BlanksDesk{m_objects->Routines, m_objects->Pages, m_objects->Live.Print,
                                                     *m_platform.Boxes, *m_platform.Calendar});
+    case ScreenName::frmIncomplete:
+      return std::make_unique<frmIncomplete>(
+          *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
+                             *m_platform.Calendar, *this, m_objects->Reports});
     default:
       return nullptr;
   }
@@ -94,7 +99,7 @@ MainMenuContext Program::MenuContext() {
           },
           [](ScreenName screen) {
             return screen == ScreenName::frmNewCustomer || screen == ScreenName::frmServices ||
-                   screen == ScreenName::frmBlanks;
+                   screen == ScreenName::frmBlanks || screen == ScreenName::frmIncomplete;
           }};
 }
 
@@ -107,6 +112,8 @@ void Program::Show(ScreenName screen) {
   std::unique_ptr<Screen>& slot = m_screens[screen];
   if (!slot) slot = Build(screen);
   if (!slot || slot->isVisible() || m_ended) return;
+  // Without a partial invoice their screen hides at once: no window is left then, and the program lives on. Meant.
+  if (screen == ScreenName::frmIncomplete && !LoadPartialList(m_objects->Partials, m_objects->Disk)) return;
   slot->Activate();
   Open(*slot);
 }

@@ -12,7 +12,8 @@ Program::Objects::Objects(const Platform& platform)
       Instance(Store, platform.LockFolder, platform.DataRoot),
       Prices(Disk, Lists, SalesItems),
       Routines(*platform.Paper, Live.Print, Dialog),
-      Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}) {}
+      Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}),
+      Reports(Routines, Pages, *platform.Calendar) {}
 
 void Program::Objects::LoadSettings() {
   LoadSetup(Disk, Live, &IsPicture, [this] {

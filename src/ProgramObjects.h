@@ -9,6 +9,7 @@
 #include "printing/KVPrint.h"
 #include "printing/PrinterRoutines.h"
 #include "Program.h"
+#include "records/GridReport.h"
 #include "records/PartialList.h"
 #include "runtime/Clock.h"
 #include "runtime/Dialogs.h"
@@ -40,4 +41,5 @@ struct Program::Objects {
   CommonDialog Dialog;
   PrinterRoutines Routines;
   KVPrint Pages;
+  GridReport Reports;
 };

@@ -4,8 +4,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// What couldn't be read as what it must be: the content of a file that the user asked for, which a path names.
+bool IsUnreadableFile(const RuntimeError& error) {
+  const bool read = error.Number() == ErrorNumber::InputPastEnd || error.Number() == ErrorNumber::TypeMismatch ||
+                    error.Number() == ErrorNumber::Overflow || error.Number() == ErrorNumber::OutOfRange;
+  return read && error.Subject().startsWith(u'/');
+}
+
 QString WhatToDo(const RuntimeError& error) {
   if (!error.Advice().isEmpty()) return error.Advice();
+  if (IsUnreadableFile(error)) return u"Mend the file or remove it, then try again. Nothing was lost."_s;
   switch (error.Number()) {
     case ErrorNumber::DiskFull:
       return u"Make room on it and try again. Nothing was lost."_s;

@@ -14,7 +14,11 @@ const std::initializer_list<std::pair<ScreenName, const char*>> AllScreens{
     {ScreenName::frmServices, "frmServices"},
     {ScreenName::frmNewCustomer, "frmNewCustomer"},
     {ScreenName::frmInvoice, "frmInvoice"},
-    {ScreenName::frmBlanks, "frmBlanks"}};
+    {ScreenName::frmBlanks, "frmBlanks"},
+    {ScreenName::frmIncomplete, "frmIncomplete"}};
+
+/// Both purges bear the P on purpose: the letter moves the focus between them and runs neither.
+const QSet<QString> SharedLetter{u"Command1_2"_s, u"Command1_3"_s};
 
 bool IsOwnControl(const QWidget* widget) {
   const QString name = widget->objectName();
@@ -50,6 +54,11 @@ class Family : public QObject {
   static QWidget* Open(ProgramFixture& program, ScreenName screen) {
     // Without customers their screen says so at its first showing.
     if (screen == ScreenName::frmNewCustomer) program.Answers.Ok();
+    // Without a partial invoice their screen doesn't come up.
+    if (screen == ScreenName::frmIncomplete) {
+      program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/20260001.txt"_s,
+                         "20260001\r\n7\r\nSmith\r\n3/7/2026\r\n");
+    }
     if (screen == ScreenName::frmSplash) {
       program.Start();
     } else {
@@ -95,6 +104,7 @@ class Family : public QObject {
     for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
       const QString key = button->shortcut().toString();
       if (!button->isVisible() || key.isEmpty()) continue;
+      if (SharedLetter.contains(button->objectName()) && SharedLetter.contains(owners.value(key))) continue;
       QVERIFY2(!owners.contains(key), qPrintable(u"%1: %2 and %3"_s.arg(key, owners.value(key), button->objectName())));
       owners.insert(key, button->objectName());
     }

@@ -47,6 +47,13 @@ class ErrorTextTest : public QObject {
              u"and its copy in the Backup folder. Then start the program again."_s);
   }
 
+  void aFileThatWasAskedForAndCannotBeReadIsToBeMended() {
+    for (const int number : {6, 9, 13, 62}) {
+      const QString text = ErrorBoxText(RuntimeError(number, u"/a/20260001.txt"_s), false);
+      QVERIFY2(text.endsWith(u"\n\nMend the file or remove it, then try again. Nothing was lost."_s), qPrintable(text));
+    }
+  }
+
   void anErrorAtTheStartTellsThatNothingWasChanged() {
     const QString text = ErrorBoxText(RuntimeError(70, u"/data/AuxFiles"_s), true);
     QVERIFY(text.contains(u"can't start"_s));

@@ -1,0 +1,87 @@
+#include "records/GridReport.h"
+
+#include <array>
+
+#include "printing/KVPrint.h"
+#include "printing/PrinterRoutines.h"
+#include "runtime/Clock.h"
+#include "runtime/Dates.h"
+#include "runtime/TextMatrix.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// In inches: number, account number, account, date.
+constexpr std::array<float, 4> ColumnX{1.0F, 2.25F, 3.5F, 5.5F};
+constexpr float AmountEdge = 10800;  ///< In twips.
+constexpr int AmountColumn = 4;
+
+}  // namespace
+
+GridReport::GridReport(PrinterRoutines& routines, KVPrint& pages, const Clock& clock)
+    : m_routines(routines), m_pages(pages), m_clock(clock) {}
+
+void GridReport::PrintGridReport(const QString& title, const TextMatrix& grid, const QString& /*tag*/) {
+  m_routines.DrawJob([&] {
+    m_routines.BeginPrintJob();
+    PrintReportHeading(title);
+    PrintReportRows(title, grid);
+    m_routines.Surface().EndDoc();
+  });
+}
+
+void GridReport::PrintReportHeading(const QString& title) {
+  Printer& printer = m_routines.Surface();
+  m_routines.SetPrintFont(14, true, false);
+  printer.PrintLine({});
+  m_routines.PrintLineCentred(static_cast<float>(printer.Width) / 2, title);
+  m_routines.SetPrintFont(10, true, false);
+  m_pages.PrintBusinessBlock(0.75F, 0.4F, 12);
+  m_routines.PrintAt(6.5F, 0.75F);
+  printer.PrintLine(ShortDateText(m_clock.Today()));
+  PrintReportColumns(title);
+}
+
+void GridReport::PrintReportColumns(const QString& title) {
+  Printer& printer = m_routines.Surface();
+  const std::array<QString, ColumnX.size()> headings{u"Invoice No."_s, u"Account No"_s, u"Account"_s, u"Date"_s};
+  printer.SetFontBold(true);
+  for (std::size_t i = 0; i < ColumnX.size(); ++i) {
+    m_routines.PrintAt(ColumnX[i], 2.2F);
+    printer.PrintJoined(headings[i]);
+  }
+  EndReportLine(title, u"Amount"_s);
+  printer.SetFontBold(false);
+}
+
+void GridReport::PrintReportRows(const QString& title, const TextMatrix& grid) {
+  Printer& printer = m_routines.Surface();
+  m_routines.PrintAt(1.0F, 2.5F);
+  for (int row = 1; row < grid.Rows(); ++row) {
+    // Down to the edge of the sheet: there is no bottom margin, which is meant.
+    if (printer.TextHeight(grid.Text(row, 1)) + printer.CurrentY >= static_cast<float>(printer.Height)) {
+      PrintReportNewPage(title);
+    }
+    for (std::size_t i = 0; i < ColumnX.size(); ++i) {
+      m_routines.PrintAt(ColumnX[i], 0);
+      printer.PrintJoined(grid.Text(row, static_cast<int>(i)));
+    }
+    EndReportLine(title, grid.Cols() > AmountColumn ? grid.Text(row, AmountColumn) : QString());
+  }
+}
+
+void GridReport::PrintReportNewPage(const QString& title) {
+  m_routines.Surface().NewPage();
+  PrintReportHeading(title);
+  // Above the column headings, which the rows then overprint: that is how the page is.
+  m_routines.PrintAt(1.0F, 1.75F);
+}
+
+void GridReport::EndReportLine(const QString& title, const QString& amount) {
+  if (title == u"Invoices Report") {
+    m_routines.PrintLineRight(AmountEdge, amount);
+  } else {
+    m_routines.Surface().PrintLine({});
+  }
+}
