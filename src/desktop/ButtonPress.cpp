@@ -43,7 +43,10 @@ bool IsEnter(const QKeyEvent& event) {
 
 void ButtonPress::Watch(QAbstractButton* button, bool dropWhenRefused) {
   if (dropWhenRefused) {
-    m_dropping.insert(button);
+    if (m_dropping.insert(button).second) {
+      // The address may become another button's.
+      connect(button, &QObject::destroyed, this, [this](QObject* gone) { m_dropping.erase(gone); });
+    }
   } else {
     m_dropping.erase(button);
   }

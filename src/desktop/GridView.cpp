@@ -57,24 +57,24 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
 
 GridView::~GridView() {
   if (m_alive != nullptr) {
-    m_alive->RowChanged = m_priorRowChanged;
+    m_alive->ForgetRowChanged(this);
   }
 }
 
 void GridView::SetMatrix(TextMatrix* matrix) {
+  if (m_alive != nullptr) {
+    m_alive->ForgetRowChanged(this);
+    disconnect(m_alive, nullptr, this, nullptr);
+  }
   m_matrix = matrix;
   m_alive = matrix;
-  m_priorRowChanged = matrix->RowChanged;
   setModel(matrix);
-  matrix->RowChanged = [this](int row) {
+  matrix->OnRowChanged(this, [this](int row) {
     ShowRow();
-    if (m_priorRowChanged) {
-      m_priorRowChanged(row);
-    }
     if (RowChanged) {
       RowChanged(row);
     }
-  };
+  });
   for (auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
     connect(matrix, signal, this, [this] {
       ShowRow();

@@ -13,8 +13,8 @@ class GridView : public QTableView {
   explicit GridView(QWidget* parent = nullptr);
   ~GridView() override;
   /// The matrix must outlive the view. Columns are at least as wide as the format string says and as their texts, and
-  /// the widest takes what is left. The view follows the matrix's `RowChanged` and passes it on to whoever had set it
-  /// before; who wants to be told after that sets the view's own `RowChanged`.
+  /// the widest takes what is left. Several views may follow one matrix, and go in any order; who wants to be told when
+  /// this one has followed sets its `RowChanged`.
   void SetMatrix(TextMatrix* matrix);
   TextMatrix* Matrix() const { return m_matrix; }
   int TopRow() const;
@@ -53,7 +53,6 @@ class GridView : public QTableView {
   int NeededWidth(int col) const;
 
   TextMatrix* m_matrix = nullptr;
-  std::function<void(int)> m_priorRowChanged;
   QPointer<TextMatrix> m_alive;
   QPersistentModelIndex m_pressed;
   int m_pressedKey = 0;

@@ -1,6 +1,7 @@
 #include "desktop/Style.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QPalette>
 
 #include "desktop/FamilyStyle.h"
@@ -92,6 +93,7 @@ QColor HintText(const QPalette& palette) {
 }
 
 void ApplyStyle(QApplication& application) {
+  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
   const bool dark = IsDark(QGuiApplication::palette());
   application.setStyle(new FamilyStyle);
   application.setPalette(dark ? DarkPalette() : LightPalette());

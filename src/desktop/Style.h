@@ -18,7 +18,8 @@ class QApplication;
 class QColor;
 class QPalette;
 
-/// Sets style, palette (light or dark, as the platform's) and fonts.
+/// Sets style, palette (light or dark, as the platform's) and fonts; and the one regional setting, United States, which
+/// date boxes and calendars follow whatever the machine's own is.
 void ApplyStyle(QApplication& application);
 
 /// The two palettes; every text on its ground has a contrast of at least 4.5 to 1.

@@ -18,9 +18,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Beside the target, so that the rename stays on one disk; one fixed name, so that what a kill leaves behind is gone
-/// after the next save. No wildcard that the program lists by matches it.
+/// after the next save. No list of files shows it.
+constexpr auto TemporaryEnding = ".new"_L1;
+
 QString TemporaryNameOf(const QString& path) {
-  return path + u".new"_s;
+  return path + TemporaryEnding;
+}
+
+/// Some file systems, network ones above all, can't flush a folder and say so: there is nothing to flush then.
+void FlushFolderOf(FileDevice& device, const QString& path) {
+  const int flushed = device.FlushFolder(FolderOf(path));
+  if (flushed != -EINVAL) CheckFile(flushed, path);
 }
 
 /// An open file that is closed whatever happens.
@@ -67,20 +75,26 @@ QByteArray ReadUpTo(FileDevice& device, int descriptor, qint64 size, qint64 offs
 }
 
 /// Calls `found` with each file of the folder that matches until it answers false. The kind of an entry comes with
-/// its name; only where the file system doesn't tell it is the file itself looked at.
+/// its name; only where the file system doesn't tell it is the file itself looked at. A folder that isn't there is
+/// empty; one that can't be read throws.
 void EachMatch(const QString& folder, const QString& wildcard, const std::function<bool(const QString&)>& found) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);
-  if (!listing) return;
+  if (!listing && errno == ENOENT) return;
+  if (!listing) RaiseFileError(-errno, folder);
   const auto pattern =
       QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::wildcardToRegularExpression(wildcard)),
                          QRegularExpression::CaseInsensitiveOption);
-  while (const dirent* entry = ::readdir(listing.get())) {
+  while (true) {
+    errno = 0;
+    const dirent* entry = ::readdir(listing.get());
+    if (entry == nullptr) break;
     if (entry->d_type == DT_DIR) continue;
     const QString name = QFile::decodeName(entry->d_name);
-    if (!pattern.match(name).hasMatch()) continue;
+    if (name.endsWith(TemporaryEnding) || !pattern.match(name).hasMatch()) continue;
     if (entry->d_type != DT_REG && !IsFileAt(folder + u'/' + name)) continue;
     if (!found(name)) return;
   }
+  if (errno != 0) RaiseFileError(-errno, folder);
 }
 
 }  // namespace
@@ -156,7 +170,7 @@ void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
     m_device.Remove(temporary);
     throw;
   }
-  CheckFile(m_device.FlushFolder(FolderOf(path)), path);
+  FlushFolderOf(m_device, path);
 }
 
 void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArray& bytes) {
@@ -203,7 +217,7 @@ void FileStore::Copy(const QString& from, const QString& to) {
 
 void FileStore::Rename(const QString& from, const QString& to) {
   CheckFile(m_device.Rename(from, to), from);
-  CheckFile(m_device.FlushFolder(FolderOf(to)), to);
+  FlushFolderOf(m_device, to);
 }
 
 void FileStore::Remove(const QString& path) {

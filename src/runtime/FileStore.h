@@ -19,7 +19,9 @@ class FileStore {
   bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one.
   bool IsFolder(const QString& path) const;
   qint64 Size(const QString& path) const;  ///< In bytes; error 53 if absent.
-  /// Names of the files (not folders) in `folder` that match the wildcard (`*.txt`, whatever the case), in name order.
+  /// Names of the files (not folders) in `folder` that match the wildcard (`*.txt`, whatever the case), in name order;
+  /// what the checked writer is just writing isn't among them. A folder that isn't there is empty, one that can't be
+  /// read throws.
   QStringList List(const QString& folder, const QString& wildcard) const;
   /// Whether any file matches, without reading the rest of the folder.
   bool AnyMatch(const QString& folder, const QString& wildcard) const;

@@ -114,7 +114,19 @@ void TextMatrix::SetRow(int row) {
   Require(row, 0);
   if (row == m_row) return;
   m_row = row;
-  if (RowChanged) RowChanged(row);
+  // A copy: whoever is told may ask for more, or take a listener with it.
+  for (const Listener& listener : std::vector<Listener>(m_listeners)) {
+    if (listener.Context != nullptr) listener.Told(row);
+  }
+}
+
+void TextMatrix::OnRowChanged(QObject* context, std::function<void(int)> told) {
+  std::erase_if(m_listeners, [](const Listener& listener) { return listener.Context == nullptr; });
+  m_listeners.push_back({context, std::move(told)});
+}
+
+void TextMatrix::ForgetRowChanged(const QObject* context) {
+  std::erase_if(m_listeners, [context](const Listener& listener) { return listener.Context == context; });
 }
 
 void TextMatrix::SetCol(int col) {
@@ -201,7 +213,8 @@ int TextMatrix::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant TextMatrix::data(const QModelIndex& index, int role) const {
-  if (!index.isValid()) return {};
+  // A view may ask for what it saw before the last change.
+  if (!index.isValid() || index.row() >= m_rows - 1 || index.column() >= m_cols) return {};
   if (role == Qt::DisplayRole || role == Qt::EditRole) return Text(index.row() + 1, index.column());
   if (role == Qt::TextAlignmentRole) return static_cast<int>(Alignment(index.column()));
   return {};

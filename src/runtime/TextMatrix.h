@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <QAbstractTableModel>
+#include <QPointer>
 #include <QStringList>
 #include <vector>
 
@@ -33,8 +34,11 @@ class TextMatrix : public QAbstractTableModel {
   void SortGenericAscending(int col);
   /// Text order ignoring case.
   void SortTextIgnoringCase(int col);
-  /// Told whenever the current row changes, by code or by hand.
-  std::function<void(int row)> RowChanged;
+  /// `told` whenever the current row changes, by code or by hand, as long as `context` lives; in the order in which
+  /// they asked to be told. It is a plain call, so it may throw; the ones after it aren't told then.
+  void OnRowChanged(QObject* context, std::function<void(int row)> told);
+  /// Nothing is told to what came with `context` any more.
+  void ForgetRowChanged(const QObject* context);
 
   Qt::Alignment Alignment(int col) const;
   /// How many characters the format string gave the column, its blanks counted: a measure for its width.
@@ -42,10 +46,16 @@ class TextMatrix : public QAbstractTableModel {
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
+  /// To the views: what isn't there is an empty value, never an error, since none may cross the toolkit.
   QVariant data(const QModelIndex& index, int role) const override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
  private:
+  struct Listener {
+    QPointer<QObject> Context;
+    std::function<void(int)> Told;
+  };
+
   void Require(int row, int col) const;
   void Reorder(const std::vector<int>& order);  ///< Of the data rows, counted from 0.
   int m_rows;
@@ -55,4 +65,5 @@ class TextMatrix : public QAbstractTableModel {
   std::vector<QStringList> m_cells;
   std::vector<Qt::Alignment> m_alignments;
   std::vector<int> m_formatWidths;
+  std::vector<Listener> m_listeners;
 };

@@ -1,4 +1,4 @@
-/// Two small services on a grid: moving the current line, and the rule of the mouse wheel.
+/// A small service on a grid: moving the current line.
 #pragma once
 
 #include "runtime/TextMatrix.h"

@@ -99,10 +99,36 @@ class GridViews : public QObject {
     QCOMPARE(told, (QList<int>{90, 0}));
   }
 
+  void viewsOnOneMatrixGoInAnyOrder() {
+    TextMatrix matrix(u"A"_s, 5);
+    auto first = std::make_unique<GridView>(), second = std::make_unique<GridView>();
+    first->SetMatrix(&matrix);
+    second->SetMatrix(&matrix);
+    first.reset();
+    matrix.SetRow(2);
+    QCOMPARE(second->currentIndex().row(), 1);
+    second.reset();
+    matrix.SetRow(3);
+    QCOMPARE(matrix.Row(), 3);
+  }
+
+  void aViewThatGotAnotherMatrixFollowsOnlyThat() {
+    TextMatrix former(u"A"_s, 5), matrix(u"A"_s, 5);
+    GridView grid;
+    QList<int> told;
+    grid.RowChanged = [&](int row) { told.append(row); };
+    grid.SetMatrix(&former);
+    grid.SetMatrix(&matrix);
+    former.SetRow(4);
+    matrix.SetRow(2);
+    QCOMPARE(told, QList<int>{2});
+    QCOMPARE(grid.currentIndex().row(), 1);
+  }
+
   void whoeverFollowedTheMatrixBeforeIsStillTold() {
     TextMatrix matrix(u"A"_s, 5);
     QList<int> told;
-    matrix.RowChanged = [&](int row) { told.append(row); };
+    matrix.OnRowChanged(this, [&](int row) { told.append(row); });
     {
       GridView grid;
       grid.SetMatrix(&matrix);

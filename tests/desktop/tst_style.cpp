@@ -229,6 +229,16 @@ class Styles : public QObject {
     }
   }
 
+  void datesFollowTheUnitedStatesWhateverTheMachineDoes() {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    ApplyStyle(*qApp);
+    QDateEdit box(QDate(2026, 3, 7));
+    box.setCalendarPopup(true);
+    box.setDisplayFormat(u"MMMM d, yyyy"_s);
+    QCOMPARE(box.text(), u"March 7, 2026"_s);
+    QCOMPARE(box.calendarWidget()->firstDayOfWeek(), Qt::Sunday);
+  }
+
   void captionsKeepClearOfTheEdges() {
     ApplyStyle(*qApp);
     QPushButton button(u"Cancel Add New or Modify"_s);

@@ -127,6 +127,16 @@ class CheckedWriterTest : public QObject {
     QCOMPARE(Files(), QStringList{u"Labor.txt"_s});
   }
 
+  void aFileSystemThatCannotFlushAFolderHasNothingToFlush() {
+    m_device.FailAlways(Call::FlushFolder, EINVAL);
+    Save();
+    QCOMPARE(m_device.Count(Call::FlushFolder), 1);
+    QCOMPARE(Content(), newContent);
+    m_store.Rename(m_path, m_path + u"2"_s);
+    QCOMPARE(m_device.Count(Call::FlushFolder), 2);
+    QCOMPARE(Files(), QStringList{u"Labor.txt2"_s});
+  }
+
   void aShortWriteIsContinued() {
     m_device.WriteShortAt(1, 1, 0);
     Save();

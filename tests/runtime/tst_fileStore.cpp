@@ -79,6 +79,25 @@ class FileStoreTest : public QObject {
     QCOMPARE(m_store.List(Path(u"/none"_s), u"*.txt"_s), QStringList{});
   }
 
+  void whatTheWriterIsWritingIsNotListed() {
+    m_tree->Write(u"/Standard.new"_s, "");
+    QVERIFY(!m_store.AnyMatch(Path(u""_s), u"*"_s));
+    m_tree->Write(u"/Standard"_s, "");
+    QCOMPARE(m_store.List(Path(u""_s), u"*"_s), QStringList{u"Standard"_s});
+  }
+
+  void aFolderThatCannotBeReadIsNoEmptyOne() {
+    m_tree->Write(u"/file"_s, "");
+    QVERIFY(QFile::link(Path(u"/round"_s), Path(u"/round"_s)));
+    const QString tooLong = Path(u'/' + QString(300, u'x'));
+    for (const auto& [folder, number] : {std::pair{Path(u"/file"_s), 76}, {Path(u"/round"_s), 75}, {tooLong, 64}}) {
+      const RuntimeError listed = CaughtFrom([&] { m_store.List(folder, u"*"_s); });
+      QCOMPARE(listed.Number(), number);
+      QCOMPARE(listed.Subject(), folder);
+      QCOMPARE(ErrorOf([&] { m_store.AnyMatch(folder, u"*"_s); }), number);
+    }
+  }
+
   void aWildcardMatchesWithoutRegardToCase() {
     m_tree->Write(u"/A.TXT"_s, "");
     QVERIFY(m_store.AnyMatch(Path(u""_s), u"*.txt"_s));

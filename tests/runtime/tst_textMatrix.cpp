@@ -87,7 +87,7 @@ class TextMatrixTest : public QObject {
   void theCurrentRowStaysInsideAndIsTold() {
     TextMatrix matrix(u"<A"_s, 5);
     QList<int> told;
-    matrix.RowChanged = [&](int row) { told.append(row); };
+    matrix.OnRowChanged(this, [&](int row) { told.append(row); });
     QCOMPARE(matrix.Row(), 0);
     matrix.SetRow(4);
     matrix.SetRow(4);
@@ -97,6 +97,46 @@ class TextMatrixTest : public QObject {
     QCOMPARE(matrix.Row(), 1);
     matrix.SetRow(0);
     QCOMPARE(told, (QList<int>{4, 3, 1, 0}));
+  }
+
+  void whoeverHasGoneOrAskedToBeForgottenIsNotTold() {
+    TextMatrix matrix(u"<A"_s, 5);
+    QStringList told;
+    auto first = std::make_unique<QObject>(), second = std::make_unique<QObject>();
+    QObject third;
+    matrix.OnRowChanged(first.get(), [&](int row) { told.append(u"first %1"_s.arg(row)); });
+    matrix.OnRowChanged(second.get(), [&](int row) { told.append(u"second %1"_s.arg(row)); });
+    matrix.OnRowChanged(&third, [&](int row) { told.append(u"third %1"_s.arg(row)); });
+    matrix.SetRow(1);
+    first.reset();
+    matrix.SetRow(2);
+    matrix.ForgetRowChanged(&third);
+    matrix.SetRow(3);
+    QCOMPARE(told,
+             (QStringList{u"first 1"_s, u"second 1"_s, u"third 1"_s, u"second 2"_s, u"third 2"_s, u"second 3"_s}));
+  }
+
+  void aListenerMayTakeAnotherWithIt() {
+    TextMatrix matrix(u"<A"_s, 5);
+    QList<int> told;
+    auto second = std::make_unique<QObject>();
+    matrix.OnRowChanged(this, [&](int) { second.reset(); });
+    matrix.OnRowChanged(second.get(), [&](int row) { told.append(row); });
+    matrix.SetRow(1);
+    QCOMPARE(told, QList<int>{});
+  }
+
+  void aViewThatAsksForWhatIsNotThereGetsNothing() {
+    TextMatrix matrix(u"<A|<B"_s, 3);
+    const QModelIndex last = matrix.index(1, 1);
+    QCOMPARE(matrix.data(last, Qt::DisplayRole), QVariant(QString()));
+    matrix.SetRows(2);
+    for (const int role : {Qt::DisplayRole, Qt::TextAlignmentRole}) {
+      QVERIFY(!matrix.data(last, role).isValid());
+      QVERIFY(!matrix.headerData(2, Qt::Horizontal, role).isValid());
+      QVERIFY(!matrix.headerData(-1, Qt::Horizontal, role).isValid());
+      QVERIFY(!matrix.headerData(0, Qt::Vertical, role).isValid());
+    }
   }
 
   void removingARowMovesTheOthersUp() {
