@@ -34,6 +34,7 @@ frmInvoice::frmInvoice(ScreenHost& host, const InvoiceDesk& desk)
   WireMemo();
   WirePrintReady();
   WireFlow();
+  WireSave();
   HideFrames();
   ShowInstructions(0);
   m_invoice.Refresh = [this] { ShowInvoice(); };

@@ -141,6 +141,7 @@ class frmInvoice final : public Screen {
 
   // Flow.
   void WireFlow();
+  void WireSave();
   void ShowInvoiceMode();
   void Continue();
   void cmdRedo();
@@ -148,6 +149,7 @@ class frmInvoice final : public Screen {
   void ReturnToMenu();
   void PrintInvoice();
   void cmdInvoiceContinue();
+  void cmdSave();
 
   InvoiceDesk m_desk;
   WorkingInvoice& m_invoice;
