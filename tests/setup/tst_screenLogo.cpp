@@ -9,102 +9,46 @@ using namespace Qt::StringLiterals;
 class ScreenLogoTest : public QObject {
   Q_OBJECT
 
-  /// A picture file in the tree; answers its full path.
-  static QString Picture(const SetupScreen& program, const QString& name, QColor color = Qt::darkGreen) {
-    QImage image(60, 30, QImage::Format_RGB32);
-    image.fill(color);
-    const QString path = program.Tree.Path(name);
-    if (!image.save(path)) qFatal("the picture isn't written");
-    return path;
-  }
-  static QByteArray Line(const QString& path) { return '"' + path.toLatin1() + "\"\r\n"; }
-  static bool ShowsPicture(const ScreenDriver& setup, const QString& name) {
-    return !setup.Control<QLabel>(name)->pixmap(Qt::ReturnByValue).isNull();
-  }
-  static ScreenDriver OpenLogo(SetupScreen& program) {
-    const ScreenDriver setup = program.Open();
-    SetupScreen::FillNameAndTelephone(setup);
-    SetupScreen::GoToTab(setup, 3);
-    return setup;
-  }
-
  private Q_SLOTS:
   void storingIsOfferedOnlyAfterAFind() {
     SetupScreen program;
-    const ScreenDriver setup = OpenLogo(program);
+    const ScreenDriver setup = program.OpenLogo();
     QVERIFY(!setup.IsEnabled(u"cmdLogo_1"_s));
     QCOMPARE(setup.Text(u"cmdLogo_1"_s), u"&Store"_s);
   }
 
   void aFoundPictureShowsInBothFramesAndCanBeStored() {
     SetupScreen program;
-    const QString path = Picture(program, u"/my logo.png"_s);
-    const ScreenDriver setup = OpenLogo(program);
+    const QString path = program.Picture(u"/my logo.png"_s);
+    const ScreenDriver setup = program.OpenLogo();
     program.Answers.File(path);
     setup.Click(u"cmdLogo_0"_s);
-    QVERIFY(ShowsPicture(setup, u"Image2"_s));
-    QVERIFY(ShowsPicture(setup, u"Image3"_s));
+    QVERIFY(SetupScreen::ShowsPicture(setup, u"Image2"_s));
+    QVERIFY(SetupScreen::ShowsPicture(setup, u"Image3"_s));
     QVERIFY(!program.Tree.Exists(u"/CompanyLogo.txt"_s));
     QVERIFY(setup.IsEnabled(u"cmdLogo_1"_s));
     program.Answers.Ok(u"Your Logo has been Stored"_s, u"Karvex Invoicer"_s);
     setup.Click(u"cmdLogo_1"_s);
-    QCOMPARE(program.Tree.Bytes(u"/CompanyLogo.txt"_s), Line(path));
+    QCOMPARE(program.Tree.Bytes(u"/CompanyLogo.txt"_s), SetupScreen::LogoLine(path));
     QCOMPARE(program.Tree.Bytes(u"/LogoSettings.txt"_s), "1440,1440\r\n");
     QVERIFY(!setup.IsEnabled(u"cmdLogo_1"_s));
   }
 
   void aCancelledFindChangesNothing() {
     SetupScreen program;
-    const ScreenDriver setup = OpenLogo(program);
+    const ScreenDriver setup = program.OpenLogo();
     program.Answers.CancelDialog();
     setup.Click(u"cmdLogo_0"_s);
-    QVERIFY(!ShowsPicture(setup, u"Image3"_s));
+    QVERIFY(!SetupScreen::ShowsPicture(setup, u"Image3"_s));
     QVERIFY(!setup.IsEnabled(u"cmdLogo_1"_s));
-  }
-
-  void aFileThatIsNoPictureEndsTheFindQuietly() {
-    SetupScreen program;
-    program.Tree.Write(u"/logo.jpg"_s, "these are letters");
-    const ScreenDriver setup = OpenLogo(program);
-    program.Answers.File(program.Tree.Path(u"/logo.jpg"_s));
-    setup.Click(u"cmdLogo_0"_s);
-    QVERIFY(!ShowsPicture(setup, u"Image2"_s));
-    QVERIFY(!setup.IsEnabled(u"cmdLogo_1"_s));
-  }
-
-  void anotherUseOfTheSharedDialogForgetsTheFoundFile() {
-    SetupScreen program;
-    const QString path = Picture(program, u"/logo.png"_s);
-    const ScreenDriver setup = OpenLogo(program);
-    program.Answers.File(path);
-    setup.Click(u"cmdLogo_0"_s);
-    SetupScreen::GoToOptions(setup, 0);
-    program.Answers.Color(255);
-    setup.Click(u"cmdChange_0"_s);
-    SetupScreen::GoToTab(setup, 3);
-    setup.Click(u"cmdLogo_1"_s);
-    QVERIFY(!program.Tree.Exists(u"/CompanyLogo.txt"_s));
-    QVERIFY(!program.Tree.Exists(u"/LogoSettings.txt"_s));
-  }
-
-  void aPathThatTheFileCannotHoldIsRefusedInPlainWords() {
-    SetupScreen program;
-    const QString path = Picture(program, u"/\u65E5.png"_s);
-    const ScreenDriver setup = OpenLogo(program);
-    program.Answers.File(path);
-    setup.Click(u"cmdLogo_0"_s);
-    program.Answers.Ok();
-    setup.Click(u"cmdLogo_1"_s);
-    QVERIFY(program.Answers.Last().Text.contains(u"can't be stored"_s));
-    QVERIFY(!program.Tree.Exists(u"/CompanyLogo.txt"_s));
   }
 
   void theSizingButtonsStepByNinetyAndWrapAround() {
     SetupScreen program;
-    const QString path = Picture(program, u"/logo.png"_s);
-    program.Tree.Write(u"/CompanyLogo.txt"_s, Line(path));
+    const QString path = program.Picture(u"/logo.png"_s);
+    program.Tree.Write(u"/CompanyLogo.txt"_s, SetupScreen::LogoLine(path));
     program.Tree.Write(u"/LogoSettings.txt"_s, "1710,1800\r\n");
-    ScreenDriver setup = OpenLogo(program);
+    ScreenDriver setup = program.OpenLogo();
     const int narrow = setup.Control<QLabel>(u"Image3"_s)->pixmap(Qt::ReturnByValue).width();
     setup.Click(u"cmdLogo_3"_s);
     QVERIFY(setup.Control<QLabel>(u"Image3"_s)->pixmap(Qt::ReturnByValue).width() > narrow);
@@ -120,26 +64,26 @@ class ScreenLogoTest : public QObject {
 
   void clearingAnsweredWithNoChangesNothing() {
     SetupScreen program;
-    const QString path = Picture(program, u"/logo.png"_s);
-    program.Tree.Write(u"/CompanyLogo.txt"_s, Line(path));
-    const ScreenDriver setup = OpenLogo(program);
+    const QString path = program.Picture(u"/logo.png"_s);
+    program.Tree.Write(u"/CompanyLogo.txt"_s, SetupScreen::LogoLine(path));
+    const ScreenDriver setup = program.OpenLogo();
     program.Answers.No(u"This will Delete your Company Logo"_s, u"Delete Logo"_s);
     setup.Click(u"cmdLogo_2"_s);
-    QVERIFY(ShowsPicture(setup, u"Image3"_s));
-    QCOMPARE(program.Tree.Bytes(u"/CompanyLogo.txt"_s), Line(path));
+    QVERIFY(SetupScreen::ShowsPicture(setup, u"Image3"_s));
+    QCOMPARE(program.Tree.Bytes(u"/CompanyLogo.txt"_s), SetupScreen::LogoLine(path));
   }
 
   void clearingTakesThePicturesAndThePathAndLeavesTheSize() {
     SetupScreen program;
-    const QString path = Picture(program, u"/logo.png"_s);
-    program.Tree.Write(u"/CompanyLogo.txt"_s, Line(path));
-    program.Tree.Write(u"/Backup/CompanyLogo.txt"_s, Line(path));
+    const QString path = program.Picture(u"/logo.png"_s);
+    program.Tree.Write(u"/CompanyLogo.txt"_s, SetupScreen::LogoLine(path));
+    program.Tree.Write(u"/Backup/CompanyLogo.txt"_s, SetupScreen::LogoLine(path));
     program.Tree.Write(u"/LogoSettings.txt"_s, "1710,180\r\n");
-    const ScreenDriver setup = OpenLogo(program);
+    const ScreenDriver setup = program.OpenLogo();
     program.Answers.Yes(u"This will Delete your Company Logo"_s);
     setup.Click(u"cmdLogo_2"_s);
-    QVERIFY(!ShowsPicture(setup, u"Image2"_s));
-    QVERIFY(!ShowsPicture(setup, u"Image3"_s));
+    QVERIFY(!SetupScreen::ShowsPicture(setup, u"Image2"_s));
+    QVERIFY(!SetupScreen::ShowsPicture(setup, u"Image3"_s));
     QVERIFY(!program.Tree.Exists(u"/CompanyLogo.txt"_s));
     QVERIFY(!program.Tree.Exists(u"/Backup/CompanyLogo.txt"_s));
     QCOMPARE(program.Tree.Bytes(u"/LogoSettings.txt"_s), "1710,180\r\n");
@@ -148,22 +92,13 @@ class ScreenLogoTest : public QObject {
   void aPictureThatVanishedIsSkippedAtTheStart() {
     SetupScreen program;
     program.Tree.Write(u"/CompanyLogo.txt"_s, "\"/no/such/logo.png\"\r\n");
-    const ScreenDriver setup = OpenLogo(program);
-    QVERIFY(!ShowsPicture(setup, u"Image3"_s));
-  }
-
-  void aStoredFileThatIsNoPictureAnyMoreStopsTheStartByItsName() {
-    SetupScreen program;
-    program.Tree.Write(u"/logo.png"_s, "these are letters");
-    program.Tree.Write(u"/CompanyLogo.txt"_s, Line(program.Tree.Path(u"/logo.png"_s)));
-    program.Answers.Ok();
-    QVERIFY(!program.Start());
-    QVERIFY(program.Answers.Last().Text.contains(program.Tree.Path(u"/logo.png"_s)));
+    const ScreenDriver setup = program.OpenLogo();
+    QVERIFY(!SetupScreen::ShowsPicture(setup, u"Image3"_s));
   }
 
   void theSampleIsThePageFrameWithoutAnyDialog() {
     SetupScreen program;
-    const ScreenDriver setup = OpenLogo(program);
+    const ScreenDriver setup = program.OpenLogo();
     QCOMPARE(setup.Control(u"cmdLogo_5"_s)->toolTip(), u"Print a sample to Review"_s);
     setup.Click(u"cmdLogo_5"_s);
     QCOMPARE(program.Paper.Jobs.size(), 1U);
@@ -173,31 +108,16 @@ class ScreenLogoTest : public QObject {
 
   void aSampleThatCannotBePrintedIsAPrintError() {
     SetupScreen program;
-    const ScreenDriver setup = OpenLogo(program);
+    const ScreenDriver setup = program.OpenLogo();
     program.Paper.SendError = ErrorNumber::PrinterError;
     program.Answers.Ok(u"A Print Error has occurred"_s, u"Print Error"_s);
     setup.Click(u"cmdLogo_5"_s);
     QVERIFY(ScreenDriver::IsShown(u"frmSetup"_s));
   }
 
-  void aFullDiskAtTheStoringIsToldAndTheOldPathStays() {
-    SetupScreen program;
-    const QString path = Picture(program, u"/logo.png"_s);
-    program.Tree.Write(u"/CompanyLogo.txt"_s, "\"/no/such/logo.png\"\r\n");
-    const ScreenDriver setup = OpenLogo(program);
-    program.Answers.File(path);
-    setup.Click(u"cmdLogo_0"_s);
-    program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
-    program.Answers.Ok();
-    setup.Click(u"cmdLogo_1"_s);
-    QVERIFY(program.Answers.Last().Text.contains(u"CompanyLogo.txt"_s));
-    QCOMPARE(program.Tree.Bytes(u"/CompanyLogo.txt"_s), "\"/no/such/logo.png\"\r\n");
-    QVERIFY(ScreenDriver::IsShown(u"frmSetup"_s));
-  }
-
   void theWarningsStandOnTheTab() {
     SetupScreen program;
-    const ScreenDriver setup = OpenLogo(program);
+    const ScreenDriver setup = program.OpenLogo();
     QStringList texts;
     for (const QLabel* label : setup.Control(u"pageLogo"_s)->findChildren<QLabel*>()) texts << label->text();
     QVERIFY(texts.contains(u"BEFORE SELECTING YOUR LOGO: COPY THE FILE INTO YOUR KARVEXSOFT FOLDER"_s));

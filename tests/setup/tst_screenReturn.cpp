@@ -38,10 +38,14 @@ class ScreenReturnTest : public QObject {
       setup.Click(u"Image1_0"_s);
       QCOMPARE(Tab(setup, u"tabInfo"_s), tab);
     }
-    SetupScreen::GoToTab(setup, 2);
-    for (const int tab : {1, 2, 0}) {
-      setup.Click(u"Image1_1"_s);
-      QCOMPARE(Tab(setup, u"SSTab2"_s), tab);
+    // On every tab, also where the sub-tabs don't show.
+    for (int tab = 0; tab < 4; ++tab) {
+      SetupScreen::GoToTab(setup, tab);
+      for (const int subTab : {1, 2, 0}) {
+        setup.Click(u"Image1_1"_s);
+        QCOMPARE(Tab(setup, u"SSTab2"_s), subTab);
+        QCOMPARE(Tab(setup, u"tabInfo"_s), tab);
+      }
     }
   }
 
@@ -140,20 +144,30 @@ class ScreenReturnTest : public QObject {
   }
 
   void aFullDiskAtAnySaveIsToldAndSetupStays_data() {
+    QTest::addColumn<bool>("withLogo");
+    QTest::addColumn<int>("write");
     QTest::addColumn<QString>("name");
-    int write = 0;
-    for (const QString& name : {u"MyBusinessData.txt"_s, u"KarvexInvoicerSettings.txt"_s, u"PrintColors.txt"_s,
-                                u"Phone.txt"_s, u"CallID.txt"_s, u"TaxSettings.txt"_s}) {
-      QTest::addRow("%d", ++write) << name;
+    for (const bool withLogo : {false, true}) {
+      QStringList names{u"MyBusinessData.txt"_s, u"KarvexInvoicerSettings.txt"_s,
+                        u"PrintColors.txt"_s,    u"Phone.txt"_s,
+                        u"CallID.txt"_s,         u"TaxSettings.txt"_s};
+      if (withLogo) names.insert(3, u"LogoSettings.txt"_s);
+      for (int i = 0; i < names.size(); ++i) {
+        QTest::addRow("%s%d", withLogo ? "with a logo, " : "", i + 1) << withLogo << i + 1 << names[i];
+      }
     }
   }
   void aFullDiskAtAnySaveIsToldAndSetupStays() {
+    QFETCH(bool, withLogo);
+    QFETCH(int, write);
     QFETCH(QString, name);
-    const int nth = QByteArray(QTest::currentDataTag()).toInt();
     SetupScreen program;
+    if (withLogo) {
+      program.Tree.Write(u"/CompanyLogo.txt"_s, SetupScreen::LogoLine(program.Picture(u"/logo.png"_s)));
+    }
     const ScreenDriver setup = program.Open();
     SetupScreen::FillNameAndTelephone(setup);
-    program.Files.FailAt(FailingDevice::Call::Write, nth, ENOSPC);
+    program.Files.FailAt(FailingDevice::Call::Write, write, ENOSPC);
     program.Answers.Ok();
     SetupScreen::SaveAndReturn(setup);
     QVERIFY2(program.Answers.Last().Text.contains(name), qPrintable(program.Answers.Last().Text));
@@ -162,6 +176,7 @@ class ScreenReturnTest : public QObject {
     // With room made, the next click saves everything.
     SetupScreen::SaveAndReturn(setup);
     QVERIFY(program.Tree.Exists(u"/TaxSettings.txt"_s));
+    QCOMPARE(program.Tree.Exists(u"/LogoSettings.txt"_s), withLogo);
     QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
   }
 

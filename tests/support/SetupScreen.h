@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QComboBox>
+#include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
 
@@ -37,5 +39,31 @@ class SetupScreen : public ProgramFixture {
     setup.Fill(QStringLiteral("txtBusiness_0"), QStringLiteral("Acme"));
     setup.Fill(QStringLiteral("txtBusiness_6"), QStringLiteral("555-1234"));
   }
+  /// A picture file in the tree; answers its full path.
+  QString Picture(const QString& name) const {
+    QImage image(60, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    const QString path = Tree.Path(name);
+    if (!image.save(path)) qFatal("the picture isn't written");
+    return path;
+  }
+  /// What /CompanyLogo.txt holds for a path.
+  static QByteArray LogoLine(const QString& path) { return '"' + path.toLatin1() + "\"\r\n"; }
+  static bool ShowsPicture(const ScreenDriver& setup, const QString& name) {
+    return !setup.Control<QLabel>(name)->pixmap(Qt::ReturnByValue).isNull();
+  }
+  /// With what it can be left by, at the logo's tab.
+  ScreenDriver OpenLogo() {
+    const ScreenDriver setup = Open();
+    FillNameAndTelephone(setup);
+    GoToTab(setup, 3);
+    return setup;
+  }
+  /// Find, and this file in the dialog.
+  void Find(const ScreenDriver& setup, const QString& path) {
+    Answers.File(path);
+    setup.Click(QStringLiteral("cmdLogo_0"));
+  }
+
   static void SaveAndReturn(const ScreenDriver& setup) { setup.Click(QStringLiteral("cmdQuit")); }
 };
