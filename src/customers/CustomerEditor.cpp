@@ -256,7 +256,8 @@ void CustomerEditor::DeleteCustomer() {
   m_view.FocusOn(CustomerBox::txtCustomer0);
   BuildAccountList();
   if (failed) {
-    throw *failed;
+    throw failed->WithAdvice(
+        u"The customer is gone from the file all the same: don't delete again. Nothing else was lost."_s);
   }
 }
 

@@ -320,6 +320,8 @@ class CustomerScreenTest : public QObject {
     desk.Program.Answers.Ok();
     desk.Driver().Trigger(u"mnuDelete"_s);
     QVERIFY(desk.Program.Answers.Last().Text.contains(u"CustomerData.txt"));
+    QVERIFY(desk.Program.Answers.Last().Text.endsWith(
+        u"The customer is gone from the file all the same: don't delete again. Nothing else was lost."_s));
     QCOMPARE(desk.Box(0), u"3"_s);
     const QByteArray left = CustomerDesk::Many(1) + BusinessRecord("3", "Name 3");
     QCOMPARE(desk.Customers(), left);
