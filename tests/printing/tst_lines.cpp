@@ -32,6 +32,12 @@ class TestLines : public QObject {
   void anEighthNarrativeLineIsToldAndDropped();
   void oneLongNarrativeLineRunsOverTheRuleUnseen();
   void narrativeCommasAndQuotesArePrinted();
+  void aNarrativesFirstWordThatIsTooWideStandsAlone();
+  void itemsStartBelowANarrativeWhateverItsLength_data();
+  void itemsStartBelowANarrativeWhateverItsLength();
+  void theTooBigMessageComesBeforeThePageIsFinished();
+  void aDraftPrintsTheNarrativeAndTellsOfItsLengthToo();
+  void aReprintPrintsTheNarrativeAsItStandsThen();
   void fewerRowsFitBelowANarrative();
   void continuationPagesStayLoweredAndHaveNoNarrative();
 };
@@ -322,6 +328,69 @@ void TestLines::oneLongNarrativeLineRunsOverTheRuleUnseen() {
 void TestLines::narrativeCommasAndQuotesArePrinted() {
   PageFixture f;
   QCOMPARE(WithNarrative(f, "Say \"hello\", twice\r\n").at(1), u"360 5551.0 10 204080 Say \"hello\", twice"_s);
+}
+
+void TestLines::aNarrativesFirstWordThatIsTooWideStandsAlone() {
+  PageFixture f;
+  const QString word(150, u'0');
+  QCOMPARE(WithNarrative(f, word.toLatin1() + " end\r\nnext\r\n").mid(1),
+           QStringList({u"360 5551.0 10 204080 "_s + word + u' ', u"360 5774.5 10 204080 end"_s,
+                        u"360 5998.0 10 204080 next"_s}));
+}
+
+void TestLines::itemsStartBelowANarrativeWhateverItsLength_data() {
+  QTest::addColumn<QByteArray>("narrative");
+  QTest::newRow("empty") << QByteArray();
+  QTest::newRow("one line") << QByteArray("1\r\n");
+  QTest::newRow("too big") << QByteArray("1\r\n").repeated(12);
+  QTest::newRow("one line over the rule") << QByteArray("1234567890 ").repeated(120);
+}
+
+void TestLines::itemsStartBelowANarrativeWhateverItsLength() {
+  QFETCH(QByteArray, narrative);
+  PageFixture f;
+  f.FillLines(1);
+  // Plain weight, one inch lower than without a narrative.
+  QCOMPARE(WithNarrative(f, narrative).last(), u"3312 8496.0 10 204080 Line 1"_s);
+}
+
+void TestLines::theTooBigMessageComesBeforeThePageIsFinished() {
+  PageFixture f;
+  f.FillLines(1);
+  f.Write(u"/KarvexInvoicer/Narratives/2500.txt"_s, QByteArray("1\r\n").repeated(12));
+  f.Paper.SendError = 482;
+  // A page that can't be sent has told of the narrative already.
+  QVERIFY_THROWS_EXCEPTION(RuntimeError, PrintInvoice(f));
+  QCOMPARE(f.Messages.Messages.size(), 1);
+  PrintInvoice(f);
+  QCOMPARE(f.Messages.Messages.size(), 2);
+  QCOMPARE(f.Paper.Find(u"1"_s).size(), 8U);  // Seven of the narrative, and the quantity.
+  QVERIFY(f.Paper.Words(1).contains(u"Line 1"_s));
+  QVERIFY(f.Paper.Words(1).contains(u"Sub-Total"_s));
+}
+
+void TestLines::aDraftPrintsTheNarrativeAndTellsOfItsLengthToo() {
+  PageFixture f;
+  f.Write(u"/KarvexInvoicer/Narratives/2500.txt"_s, QByteArray("1\r\n").repeated(12));
+  f.Draft = true;
+  PrintInvoice(f);
+  QCOMPARE(f.Paper.Words(1).filter(u"Details"_s).size(), 1);
+  QCOMPARE(f.Messages.Messages.size(), 1);
+}
+
+void TestLines::aReprintPrintsTheNarrativeAsItStandsThen() {
+  PageFixture f;
+  f.Write(u"/KarvexInvoicer/Narratives/2500.txt"_s, "Before\r\n");
+  PrintInvoice(f);
+  QCOMPARE(Described(f.Paper.Find(u"Before"_s).at(0)), u"360 5551.0 10 000000 Before"_s);
+  f.Write(u"/KarvexInvoicer/Narratives/2500.txt"_s, "Since then\r\n");
+  f.Pages.PrintReprint(f.Page);
+  QCOMPARE(f.Paper.Find(u"Before"_s).size(), 0U);
+  QCOMPARE(Described(f.Paper.Find(u"Since then"_s).at(0)), u"360 5551.0 10 000000 Since then"_s);
+  QVERIFY(QFile::remove(f.Root.path() + u"/KarvexInvoicer/Narratives/2500.txt"_s));
+  f.Pages.PrintReprint(f.Page);
+  QCOMPARE(f.Paper.Find(u"Details"_s).size(), 0U);
+  QCOMPARE(f.Paper.Rules(1).at(1).Y1, 5760);
 }
 
 void TestLines::fewerRowsFitBelowANarrative() {

@@ -1,11 +1,16 @@
 // The PDF as poppler's tools read it back, against the same page on the recording surface.
 #include <cmath>
+#include <QDialogButtonBox>
 #include <QPrinter>
+#include <QPushButton>
 
 #include "desktop/PaperDevice.h"
 #include "desktop/PaperPrinter.h"
+#include "printing/BlankInvoices.h"
+#include "printing/PackingSlip.h"
 #include "support/ErrorOf.h"
 #include "support/PageFixture.h"
+#include "support/QueuedAnswers.h"
 #include "support/TemporaryTree.h"
 
 using namespace Qt::StringLiterals;
@@ -23,6 +28,10 @@ class TestPdf : public QObject {
   void rulesAreSixTwipsWideAndBlack();
   void colorsAreOnPaperEvenInMonochromeMode();
   void theLogoFillsItsPlace();
+  void aPackingSlipOfThreePages();
+  void blankSheetsOnBothPapers();
+  void narratives_data();
+  void narratives();
 };
 
 namespace {
@@ -59,10 +68,21 @@ struct Printed {
   }
 
   void Print() {
-    Fixture.Pages.PrintInvoice(Fixture.Page, Fixture.Draft);
+    Print([this](PrinterRoutines&, KVPrint& pages) { pages.PrintInvoice(Fixture.Page, Fixture.Draft); });
+  }
+
+  /// A job of any kind, on both.
+  void Print(const std::function<void(PrinterRoutines&, KVPrint&)>& job) {
+    job(Fixture.Routines, Fixture.Pages);
     PrinterRoutines routines(Paper, Fixture.Look, Fixture.Dialog);
     KVPrint pages(routines, Fixture.Disk, Fixture.Messages, Fixture.Now, {Fixture.Business, Fixture.Look, Fixture.Tax});
-    pages.PrintInvoice(Fixture.Page, Fixture.Draft);
+    job(routines, pages);
+  }
+
+  /// The printer dialog comes up and is accepted as it stands: with the name of `Pdf`.
+  void AcceptDialog() {
+    Answers.Dialog(
+        [](QDialog& dialog) { dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click(); });
   }
 
   QString Pdf() const { return Folder.Path(u"/Documents/Karvex Invoicer.pdf"_s); }
@@ -76,6 +96,7 @@ struct Printed {
   }
 
   PageFixture Fixture;
+  QueuedAnswers Answers;
   TemporaryTree Folder;
   PaperPrinter Paper{Fixture.Store, Fixture.Messages, Folder.Path(u"/Documents"_s)};
 };
@@ -87,7 +108,8 @@ std::vector<Word> WordsOf(const QString& pdf, int page) {
   static const QRegularExpression pattern(u"<word xMin=\"([^\"]*)\" yMin=\"([^\"]*)\" [^>]*>([^<]*)</word>"_s);
   std::vector<Word> words;
   for (const QRegularExpressionMatch& match : pattern.globalMatch(html))
-    words.push_back({match.captured(3), match.captured(1).toDouble() * 20, match.captured(2).toDouble() * 20});
+    words.push_back({match.captured(3).replace(u"&quot;"_s, u"\""_s), match.captured(1).toDouble() * 20,
+                     match.captured(2).toDouble() * 20});
   return words;
 }
 
@@ -276,6 +298,59 @@ void TestPdf::theLogoFillsItsPlace() {
     QCOMPARE(PixelAt(picture, point.x(), point.y()), 0xC81E28U);
   for (const QPoint& point : {QPoint(5090, 1000), QPoint(6010, 1000), QPoint(5500, 710), QPoint(5500, 1990)})
     QCOMPARE(PixelAt(picture, point.x(), point.y()), 0xFFFFFFU);
+}
+
+void TestPdf::aPackingSlipOfThreePages() {
+  Printed printed(60);
+  printed.AcceptDialog();
+  printed.Fixture.Messages.Answers = {true, true};
+  printed.Print([&](PrinterRoutines& routines, KVPrint& pages) {
+    PrintPackingSlip({routines, pages, printed.Fixture.Messages}, printed.Fixture.Lines);
+  });
+  const QString info = QString::fromUtf8(Run(u"pdfinfo"_s, {printed.Pdf()}));
+  QVERIFY2(info.contains(QRegularExpression(u"Pages: +3\n"_s)), qPrintable(info));
+  PaperFonts fonts;
+  for (int page = 1; page <= 3; ++page) {
+    const PaperPage& recorded = printed.Fixture.Paper.PageOf(static_cast<std::size_t>(page));
+    QCOMPARE(Difference(WordsOf(recorded, fonts), WordsOf(printed.Pdf(), page)), QString());
+  }
+}
+
+void TestPdf::blankSheetsOnBothPapers() {
+  for (const bool perforated : {false, true}) {
+    Printed printed(0);
+    printed.AcceptDialog();
+    printed.Fixture.Look.optReturn = perforated;
+    PageFixture& f = printed.Fixture;
+    printed.Print([&](PrinterRoutines& routines, KVPrint& pages) {
+      PrintBlanks({routines, pages, f.Look, f.Messages, f.Now}, u"1"_s);
+    });
+    PaperFonts fonts;
+    QCOMPARE(Difference(WordsOf(f.Paper.PageOf(1), fonts), WordsOf(printed.Pdf(), 1)), QString());
+    QCOMPARE(Run(u"pdftotext"_s, {printed.Pdf(), u"-"_s}).contains("Detach Here"), perforated);
+  }
+}
+
+void TestPdf::narratives_data() {
+  QTest::addColumn<QByteArray>("narrative");
+  QTest::addColumn<bool>("tooBig");
+  QTest::newRow("fitting") << QByteArray("We pruned all the trees, \"gently\"\r\nand left.\r\n") << false;
+  QTest::newRow("overflowing") << QByteArray("a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\n") << true;
+  QTest::newRow("empty") << QByteArray() << false;
+  // A "w" is 144.4 twips wide: 80 of them pass the right rule at 11880 and end before the edge of the sheet.
+  QTest::newRow("one very long word") << QByteArray(80, 'w') << false;
+}
+
+void TestPdf::narratives() {
+  QFETCH(QByteArray, narrative);
+  QFETCH(bool, tooBig);
+  Printed printed(3);
+  printed.Fixture.Write(u"/KarvexInvoicer/Narratives/2500.txt"_s, narrative);
+  printed.Print();
+  PaperFonts fonts;
+  QCOMPARE(Difference(WordsOf(printed.Fixture.Paper.PageOf(1), fonts), WordsOf(printed.Pdf(), 1)), QString());
+  QVERIFY(Run(u"pdftotext"_s, {printed.Pdf(), u"-"_s}).contains("Details"));
+  QCOMPARE(!printed.Fixture.Messages.Messages.filter(u"Narrative is to Big"_s).isEmpty(), tooBig);
 }
 
 QTEST_MAIN(TestPdf)
