@@ -1,10 +1,13 @@
 #include "invoice/LaborEntry.h"
 
+#include <algorithm>
+
 #include "catalogue/CatalogueLists.h"
 #include "invoice/LineEntry.h"
 #include "invoice/WorkingInvoice.h"
 #include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +15,17 @@ namespace {
 
 constexpr size_t Slots = 3;
 constexpr size_t Total = 3;  ///< Element of `lblLaborCharge`.
+
+/// A rate that isn't an amount stops the invoice, so that the error tells where rates are entered.
+Currency RateOf(const LaborRates& rates, size_t slot) {
+  if (!IsNumeric(rates.txtLaborRate[slot])) {
+    throw RuntimeError(
+        ErrorNumber::TypeMismatch, u"txtLaborRate_%1"_s.arg(slot),
+        u"The rate of \"%1\" isn't an amount. Enter it on the Labor Rates tab of Create and Manage."_s.arg(
+            rates.txtLabor[slot]));
+  }
+  return Currency::FromText(rates.txtLaborRate[slot], u"txtLaborRate_%1"_s.arg(slot));
+}
 
 }  // namespace
 
@@ -23,7 +37,7 @@ void LoadLaborRates(WorkingInvoice& invoice, const LaborRates& rates) {
     invoice.LaborRate[i] = {};
     if (!shows) continue;
     invoice.Entry.lblLaborHeading[i] = rates.txtLabor[i] + u" at "_s + rates.txtLaborRate[i] + u" per Hour"_s;
-    invoice.LaborRate[i] = Currency::FromText(rates.txtLaborRate[i], u"txtLaborRate_%1"_s.arg(i));
+    invoice.LaborRate[i] = RateOf(rates, i);
     sum += invoice.LaborRate[i];
   }
   invoice.Controls.Enabled.mnuLabor = sum != Currency();
@@ -61,10 +75,13 @@ void SumLabor(WorkingInvoice& invoice) {
 
 void PostLabor(WorkingInvoice& invoice, const LaborRates& rates, const TaxConfiguration& tax) {
   TextMatrix& grid = invoice.fgInvoice;
-  // The limit of 100 lines isn't tested here, which is meant: only the grid refuses a row too many.
+  const auto charged = std::count_if(invoice.LaborAmount.begin(), invoice.LaborAmount.end(),
+                                     [](Currency amount) { return amount != Currency(); });
+  // The limit of 100 lines isn't tested here, which is meant: only the grid refuses rows too many, and then all of
+  // them.
+  RequireRoom(invoice, static_cast<int>(charged));
   for (size_t i = 0; i < Slots; ++i) {
     if (invoice.LaborAmount[i] == Currency()) continue;
-    RequireRoom(invoice);
     const int row = invoice.LineCount + 1;
     grid.SetText(row, LineColumn::Quantity, invoice.Entry.txtHours[i] + u" Hrs"_s);
     grid.SetText(row, LineColumn::Description, rates.txtLabor[i]);

@@ -137,8 +137,8 @@ void PostLine(const LineEntryDesk& desk, int kind, bool descriptionShows) {
   if (kind != LineKind::Manual && descriptionShows) SelectDescription(invoice, desk.Lists, ElementOf(kind), 0);
 }
 
-void RequireRoom(const WorkingInvoice& invoice) {
-  if (invoice.LineCount + 1 < invoice.fgInvoice.Rows()) return;
+void RequireRoom(const WorkingInvoice& invoice, int lines) {
+  if (invoice.LineCount + lines < invoice.fgInvoice.Rows()) return;
   throw RuntimeError(ErrorNumber::OutOfRange, u"fgInvoice"_s,
                      u"The Invoice is full: it has room for %1 lines."_s.arg(MaximumLines));
 }

@@ -37,8 +37,8 @@ struct LineEntryDesk {
 /// posted. After a post the boxes are cleared and, if `descriptionShows`, the first entry of the list is picked.
 void PostLine(const LineEntryDesk& desk, int kind, bool descriptionShows = true);
 
-/// Throws RuntimeError 9 where the grid has no row for one more line.
-void RequireRoom(const WorkingInvoice& invoice);
+/// Throws RuntimeError 9 where the grid has no rows for that many more lines.
+void RequireRoom(const WorkingInvoice& invoice, int lines = 1);
 /// Writes column 5 of the row after the last line, by the kind's tax switch.
 void SetApplyTax(WorkingInvoice& invoice, int kind, const TaxConfiguration& tax);
 /// Empties the boxes of a kind after its post.

@@ -56,6 +56,15 @@ class LaborEntryTest : public QObject {
     QCOMPARE(thrown.Subject(), u"txtLaborRate_2"_s);
   }
 
+  void theErrorOfAnEmptiedRateTellsWhereToEnterIt() {
+    m_desk->Prices.Labor.txtLaborRate[0].clear();
+    const RuntimeError thrown = CaughtFrom([&] { Load(); });
+    QCOMPARE(thrown.Number(), 13);
+    QCOMPARE(thrown.Text(),
+             u"The rate of \"General Labor\" isn't an amount. Enter it on the Labor Rates tab of Create and Manage."_s);
+    QCOMPARE(thrown.From(), RuntimeError::Origin::Event);
+  }
+
   void hoursMakeACharge() {
     Load();
     Enter(2, u"1.5"_s);
@@ -132,6 +141,19 @@ class LaborEntryTest : public QObject {
     QVERIFY(m_desk->Boxes.Said.isEmpty());
     QCOMPARE(ErrorOf([&] { Post(); }), 9);
     QCOMPARE(Invoice().LineCount, qint16(100));
+  }
+
+  void withoutRoomForAllSlotsNoneIsPosted() {
+    Load();
+    for (int i = 0; i < 99; ++i) m_desk->AddLine({u"1"_s, u"Rope"_s});
+    Enter(0, u"2"_s);
+    Enter(2, u"1"_s);
+    SumLabor(Invoice());
+    QCOMPARE(ErrorOf([&] { Post(); }), 9);
+    QCOMPARE(Invoice().LineCount, qint16(99));
+    QCOMPARE(m_desk->Row(100), QStringList(6, QString()));
+    QVERIFY(!Invoice().Controls.Enabled.cmdPrint);
+    QVERIFY(Invoice().Controls.Enabled.cmdLabor_1);
   }
 };
 

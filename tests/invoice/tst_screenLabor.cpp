@@ -38,6 +38,7 @@ class ScreenLabor : public QObject {
   void clearLaborSetsEverythingBack();
   void laborOntoAFullGridIsTheGridsError();
   void enterInTheHoursCalculates();
+  void laborForMoreSlotsThanThereIsRoomPostsNone();
 };
 
 void ScreenLabor::hoursAreChargedAndSummed() {
@@ -140,6 +141,25 @@ void ScreenLabor::enterInTheHoursCalculates() {
   QCOMPARE(bench.On().FocusName(), u"cmdLabor_1"_s);
   bench.On().PressKey(Qt::Key_Return);
   QCOMPARE(bench.Row(1)[0], u"2 Hrs"_s);
+}
+
+void ScreenLabor::laborForMoreSlotsThanThereIsRoomPostsNone() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  FillGrid(bench, 99);
+  bench.On().Type(u"2"_s);
+  bench.On().Fill(u"txtHours_0"_s, u"1"_s);
+  bench.On().Click(u"cmdLabor_0"_s);
+  bench.On().Click(u"cmdLabor_1"_s);
+  QCOMPARE(bench.Around.Errors, QList<int>{9});
+  QCOMPARE(bench.Invoice.LineCount, 99);
+  QCOMPARE(bench.Row(100), QStringList(6, QString()));
+  QVERIFY(bench.On().IsEnabled(u"cmdLabor_1"_s));
+  // With one slot emptied it fits.
+  bench.On().Fill(u"txtHours_0"_s, u".0"_s);
+  bench.On().Click(u"cmdLabor_0"_s);
+  bench.On().Click(u"cmdLabor_1"_s);
+  QCOMPARE(bench.Row(100)[0], u"2 Hrs"_s);
 }
 
 QTEST_MAIN(ScreenLabor)
