@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Backspace = 8;
+constexpr int Space = u' ';
 constexpr int Point = u'.';
 
 bool IsLaborRow(const TextMatrix& grid, int row) {
@@ -49,6 +50,10 @@ void TypeInGrid(WorkingInvoice& invoice, int key, Dialogs& dialogs) {
   TextMatrix& grid = invoice.fgInvoice;
   const int row = grid.Row();
   if (row == 0) return;
+  if (key == Space && grid.Col() == LineColumn::ApplyTax) {
+    ClickGrid(invoice);
+    return;
+  }
   if (IsLaborRow(grid, row)) {
     Tell(
         invoice, dialogs,
@@ -74,14 +79,20 @@ void RecalculateRow(WorkingInvoice& invoice) {
   grid.SetText(row, LineColumn::UnitPrice, shownPrice);
 }
 
+void SelectLine(WorkingInvoice& invoice) {
+  const TextMatrix& grid = invoice.fgInvoice;
+  if (grid.Row() == 0) return;
+  // A service line has no quantity: it isn't moved.
+  invoice.Controls.Enabled.UpDown1 = !grid.Text(grid.Row(), LineColumn::Quantity).isEmpty();
+}
+
 void ClickGrid(WorkingInvoice& invoice) {
   TextMatrix& grid = invoice.fgInvoice;
   const int row = grid.Row();
   if (row == 0) return;
-  // A service line has no quantity: it isn't moved, and its tax flag can't be flipped.
-  const bool hasQuantity = !grid.Text(row, LineColumn::Quantity).isEmpty();
-  invoice.Controls.Enabled.UpDown1 = hasQuantity;
-  if (!hasQuantity || grid.Col() != LineColumn::ApplyTax) return;
+  SelectLine(invoice);
+  // Nor can the tax flag of a service line be flipped.
+  if (grid.Text(row, LineColumn::Quantity).isEmpty() || grid.Col() != LineColumn::ApplyTax) return;
   const bool applies = grid.Text(row, LineColumn::ApplyTax) == u"True";
   grid.SetText(row, LineColumn::ApplyTax, applies ? u"False"_s : u"True"_s);
 }

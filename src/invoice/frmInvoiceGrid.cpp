@@ -9,6 +9,11 @@ void frmInvoice::WireGrid() {
   GridView* grid = ui->fgInvoice;
   grid->SetMatrix(&m_invoice.fgInvoice);
   grid->Click = [this] { Do([this] { ClickGrid(m_invoice); }); };
+  grid->RowChanged = [this](int) {
+    SelectLine(m_invoice);
+    // Inside another event the screen shows its values at that one's end.
+    if (m_depth == 0) ShowInvoice();
+  };
   grid->KeyPress = [this](int key) { Do([this, key] { TypeInGrid(m_invoice, key, m_desk.Boxes); }); };
   grid->KeyUp = [this](int key) {
     constexpr int enter = 13;

@@ -59,6 +59,8 @@ class ScreenGrid : public QObject {
   void noKeepsTheLine();
   void theWheelMovesOneRowANotch();
   void aKeyWithoutACurrentRowDoesNothing();
+  void theArrowsFollowTheLineThatTheKeysChoose();
+  void theSpaceBarFlipsApplyTaxAsAClickDoes();
 };
 
 void ScreenGrid::aPriceIsTypedDigitByDigitAndEnterRecalculates() {
@@ -320,6 +322,42 @@ void ScreenGrid::aKeyWithoutACurrentRowDoesNothing() {
   bench.On().Type(u"5"_s);
   QCOMPARE(bench.Around.Errors, QList<int>{});
   QCOMPARE(bench.Row(1)[0], u"2"_s);
+}
+
+void ScreenGrid::theArrowsFollowTheLineThatTheKeysChoose() {
+  InvoiceBench bench;
+  OpenWithLines(bench);
+  bench.On().Control(Grid)->setFocus();
+  bench.Invoice.fgInvoice.SetRow(3);
+  QVERIFY(!bench.On().IsEnabled(u"UpDown1_up"_s));
+  Press(bench, Qt::Key_Up);
+  QCOMPARE(bench.Invoice.fgInvoice.Row(), 2);
+  QVERIFY(bench.On().IsEnabled(u"UpDown1_up"_s));
+  QVERIFY(bench.On().IsEnabled(u"UpDown1_down"_s));
+  Press(bench, Qt::Key_Down);
+  QVERIFY(!bench.On().IsEnabled(u"UpDown1_up"_s));
+  QVERIFY(!bench.On().IsEnabled(u"UpDown1_down"_s));
+}
+
+void ScreenGrid::theSpaceBarFlipsApplyTaxAsAClickDoes() {
+  InvoiceBench bench;
+  OpenWithLines(bench);
+  bench.On().SelectRow(Grid, 1, 4);
+  Press(bench, Qt::Key_Space);
+  QCOMPARE(bench.Row(1)[5], u"False"_s);
+  Press(bench, Qt::Key_Right);
+  Press(bench, Qt::Key_Space);
+  QCOMPARE(bench.Row(1)[5], u"True"_s);
+  Press(bench, Qt::Key_Space);
+  QCOMPARE(bench.Row(1)[5], u"False"_s);
+  // A service has no quantity and keeps its flag; labor has one and flips.
+  Press(bench, Qt::Key_Down);
+  Press(bench, Qt::Key_Down);
+  Press(bench, Qt::Key_Space);
+  QCOMPARE(bench.Row(3)[5], u"False"_s);
+  Press(bench, Qt::Key_Down);
+  Press(bench, Qt::Key_Space);
+  QCOMPARE(bench.Row(4)[5], u"True"_s);
 }
 
 QTEST_MAIN(ScreenGrid)
