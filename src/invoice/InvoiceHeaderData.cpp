@@ -53,11 +53,12 @@ void FillReference(WorkingInvoice& invoice, const Clock& clock) {
 }
 
 void PickServiceDate(WorkingInvoice& invoice, QDate date, const Clock& clock, Dialogs& dialogs) {
+  invoice.DTPicker1 = date;
+  // A later date is kept for the services to come; only the line isn't dated ahead.
   if (date > clock.Today()) {
     dialogs.Beep();
     return;
   }
-  invoice.DTPicker1 = date;
   TextMatrix& grid = invoice.fgInvoice;
   // A line without a quantity, which is a service, keeps the date that it was posted with.
   if (grid.Row() != 0 && IsNumeric(grid.Text(grid.Row(), LineColumn::Quantity))) {

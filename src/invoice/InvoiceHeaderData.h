@@ -25,8 +25,8 @@ void ClearShipTo(WorkingInvoice& invoice);
 /// An empty reference becomes "Prepared " and today's date: on Continue, and when the box is left.
 void FillReference(WorkingInvoice& invoice, const Clock& clock);
 
-/// The service date was picked: a date later than today only beeps; another is written into the current row if its
-/// Quantity is numeric.
+/// The service date was picked. The next service bears it. Into the current row it is written if the row's Quantity is
+/// numeric; a date later than today only beeps and leaves the row alone.
 void PickServiceDate(WorkingInvoice& invoice, QDate date, const Clock& clock, Dialogs& dialogs);
 /// `cmdResetDate`: blanks the Service Date of the current row, if there is one.
 void ResetServiceDate(WorkingInvoice& invoice);

@@ -5,6 +5,7 @@
 #include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "shell/CommonDiskRoutines.h"
+#include "shell/VerifyDataRoutines.h"
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +62,11 @@ bool CheckInvoiceNo(WorkingInvoice& invoice, Dialogs& dialogs, const std::functi
   if (toCreationView) toCreationView();
   invoice.Controls.Focus = Box;
   return false;
+}
+
+int PasteIntoInvoiceNo(int key, const QString& boxText) {
+  const bool refused = !IsNumeric(boxText) && IsRefusedInFileNames(key);
+  return refused ? 0 : VerifyDecimalKey(key, boxText);
 }
 
 void LeaveInvoiceNo(WorkingInvoice& invoice, Dialogs& dialogs) {

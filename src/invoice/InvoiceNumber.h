@@ -27,5 +27,7 @@ void TakeOverInvoiceNo(WorkingInvoice& invoice);
 /// `txtInvoiceNo`, when the box is empty or its text can't name a file. The screen then goes to its creation view;
 /// `toCreationView` runs between the message and the focus.
 bool CheckInvoiceNo(WorkingInvoice& invoice, Dialogs& dialogs, const std::function<void()>& toCreationView = {});
+/// What the box takes of a pasted text: of each character what it would take if it were typed, without the message.
+int PasteIntoInvoiceNo(int key, const QString& boxText);
 /// Leaving the box empty: a message, and the focus goes back.
 void LeaveInvoiceNo(WorkingInvoice& invoice, Dialogs& dialogs);

@@ -44,7 +44,7 @@ void frmInvoice::WireNumber() {
   FilterKeys(
       box,
       [this, box](int key) { return VerifyDecimalKey(VerifyFileNameKey(key, box->text(), m_desk.Boxes), box->text()); },
-      [box](int key) { return VerifyDecimalKey(IsRefusedInFileNames(key) ? 0 : key, box->text()); });
+      [box](int key) { return PasteIntoInvoiceNo(key, box->text()); });
   Leave(box, [this] { LeaveInvoiceNo(m_invoice, m_desk.Boxes); });
   Click(m_cmdInvoice[2], [this] { ReloadInvoiceNo(m_invoice); });
 }

@@ -76,13 +76,13 @@ class HeaderDataTest : public QObject {
     QVERIFY(m_desk->Boxes.Said.isEmpty());
   }
 
-  void aDateLaterThanTodayOnlyBeeps() {
+  void aDateLaterThanTodayIsKeptAndOnlyBeepsForTheRow() {
     m_desk->AddLine({u"3"_s, u"Rope"_s});
     m_desk->Invoice.fgInvoice.SetRow(1);
     PickServiceDate(m_desk->Invoice, {2026, 3, 8}, m_desk->Now, m_desk->Boxes);
     QCOMPARE(m_desk->Boxes.Take(), QStringList(u"beep"_s));
     QCOMPARE(m_desk->Row(1).at(2), QString());
-    QCOMPARE(m_desk->Invoice.DTPicker1, QDate(2026, 3, 7));
+    QCOMPARE(m_desk->Invoice.DTPicker1, QDate(2026, 3, 8));
     PickServiceDate(m_desk->Invoice, {2026, 3, 7}, m_desk->Now, m_desk->Boxes);
     QVERIFY(m_desk->Boxes.Said.isEmpty());
     QCOMPARE(m_desk->Row(1).at(2), u"3/7/2026"_s);

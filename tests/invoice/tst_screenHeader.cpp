@@ -36,9 +36,10 @@ class ScreenHeader : public QObject {
   void continueTakesTheTypedNumberOver();
   void theNumberTakesDigitsAndOnePointOnly();
   void aPasteIntoTheNumberIsFilteredWithoutAMessage();
+  void aPastedNumberKeepsItsPointAsATypedOneDoes();
   void leavingAnEmptyNumberSaysSoAndComesBack();
   void backspaceIsSwallowedInTheNumber();
-  void aLaterDateOnlyBeeps();
+  void aLaterDateBeepsAndIsForTheNextServiceOnly();
   void aPickedDateGoesToTheSelectedLineWithAQuantity();
   void aServiceLineKeepsItsDate();
   void clearLineDateBlanksTheDateOfTheCurrentLine();
@@ -162,6 +163,14 @@ void ScreenHeader::aPasteIntoTheNumberIsFilteredWithoutAMessage() {
   QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"123"_s);
 }
 
+void ScreenHeader::aPastedNumberKeepsItsPointAsATypedOneDoes() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Fill(u"txtInvoiceNo"_s, QString());
+  bench.On().Paste(u"12.5.6"_s);
+  QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"12.56"_s);
+}
+
 void ScreenHeader::leavingAnEmptyNumberSaysSoAndComesBack() {
   InvoiceBench bench;
   bench.Open();
@@ -181,7 +190,7 @@ void ScreenHeader::backspaceIsSwallowedInTheNumber() {
   QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"123"_s);
 }
 
-void ScreenHeader::aLaterDateOnlyBeeps() {
+void ScreenHeader::aLaterDateBeepsAndIsForTheNextServiceOnly() {
   InvoiceBench bench;
   bench.OpenAtLines();
   bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
@@ -189,7 +198,15 @@ void ScreenHeader::aLaterDateOnlyBeeps() {
   PickDate(bench, u"3/8/2026"_s);
   QCOMPARE(bench.Dialogs.Beeps, 1);
   QCOMPARE(bench.Row(1)[2], QString());
+  QCOMPARE(Date(bench)->date(), QDate(2026, 3, 8));
+  bench.On().Trigger(u"mnuServices"_s);
+  bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
+  bench.On().Click(u"cmdPost_0"_s);
+  QCOMPARE(bench.Row(2)[2], u"3/8/2026"_s);
+  QCOMPARE(bench.Row(1)[2], QString());
+  bench.On().SelectRow(u"fgInvoice"_s, 1);
   PickDate(bench, u"3/6/2026"_s);
+  QCOMPARE(bench.Row(1)[2], u"3/6/2026"_s);
   QCOMPARE(bench.Dialogs.Beeps, 1);
 }
 
