@@ -1,8 +1,6 @@
 #include "ProgramObjects.h"
 
-#include "invoice/InvoiceHeaderData.h"
-#include "invoice/InvoiceMemo.h"
-#include "invoice/InvoiceTerms.h"
+#include "invoice/InvoiceLoad.h"
 #include "setup/frmSetupPictures.h"
 
 Program::Objects::Objects(const Platform& platform)
@@ -18,9 +16,7 @@ Program::Objects::Objects(const Platform& platform)
 void Program::Objects::LoadSettings() {
   LoadSetup(Disk, Live, &IsPicture, [this] {
     // What the invoice screen sets at its own load; the settings file then has the last word.
-    LoadInvoiceLists(Live.Invoicer);
-    LoadShipVia(Invoice, Disk);
-    LoadInvoiceMemo(Invoice, Disk);
+    LoadInvoiceScreen(Invoice, Live.Invoicer, Disk, *On.Calendar);
   });
 }
 

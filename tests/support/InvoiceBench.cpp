@@ -7,8 +7,7 @@
 #include "desktop/Style.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
-#include "invoice/InvoiceMemo.h"
-#include "invoice/InvoiceTerms.h"
+#include "invoice/InvoiceLoad.h"
 
 using namespace Qt::StringLiterals;
 
@@ -101,11 +100,7 @@ InvoiceBench::~InvoiceBench() = default;
 void InvoiceBench::Open() {
   LoadSetup(
       Disk, Live, [](const QByteArray&) { return false; },
-      [this] {
-        LoadInvoiceLists(Live.Invoicer);
-        LoadShipVia(Invoice, Disk);
-        LoadInvoiceMemo(Invoice, Disk);
-      });
+      [this] { LoadInvoiceScreen(Invoice, Live.Invoicer, Disk, Calendar); });
   LoadSalesItems(SalesItems, Disk);
   Prices.Load();
   m_screen = std::make_unique<frmInvoice>(
