@@ -1,6 +1,7 @@
 #include "invoice/frmInvoice.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScopeGuard>
 
@@ -95,7 +96,7 @@ void frmInvoice::FilterNumber(QLineEdit* box, QAbstractButton* onEnter) {
 }
 
 bool frmInvoice::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonDblClick) {
+  if (event->type() == QEvent::MouseButtonDblClick && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
     if (watched == ui->txtShip) Do([this] { ClearShip(m_invoice); });
     if (watched == ui->txtMisc) Do([this] { ClearMisc(m_invoice); });
   }

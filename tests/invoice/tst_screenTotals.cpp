@@ -69,10 +69,13 @@ class ScreenTotals : public QObject {
   void readyToPrintClearsAHeldFlatDiscount();
   void clearTotalsSetsEverythingBackAndGoesToTheLines();
   void finalizeIsDroppedWhenTheChargeIsRefused();
-  void theLabelsOnTheDiscountsStandAsTold();
+  void theDiscountFramesKeepTheirLabelsThoughTheSumsDiffer();
   void arrowKeysChooseAnOptionToo();
   void enterInTheDiscountDeductsItAndInAChargeFinalizes();
   void aBlankedChargePrintsNothing();
+  void aDoubleClickOfAnotherButtonKeepsTheCharge();
+  void aDeductedDiscountOutlastsTheLinesAndTheMenuEntry();
+  void thePrintEntryOfTheMenuTotalsTheLines();
 };
 
 void ScreenTotals::finalizeShowsEverythingAndEnablesPrint() {
@@ -460,7 +463,7 @@ void ScreenTotals::finalizeIsDroppedWhenTheChargeIsRefused() {
   QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$0.00"_s);
 }
 
-void ScreenTotals::theLabelsOnTheDiscountsStandAsTold() {
+void ScreenTotals::theDiscountFramesKeepTheirLabelsThoughTheSumsDiffer() {
   InvoiceBench bench;
   OpenReady(bench);
   QCOMPARE(bench.Text(u"optDiscount_0"_s), u"No Discount"_s);
@@ -514,6 +517,44 @@ void ScreenTotals::aBlankedChargePrintsNothing() {
   // The image has the zero that an empty box becomes.
   QVERIFY(bench.Tree.Bytes(u"/CompletedInvoices/20260001.txt"_s)
               .endsWith("\"$1,000.00\",\"$60.00\",\"$10.00\",\"$1,075.00\",\"$0.00\",\"$0.00\",\"$0.00\"\r\n"));
+}
+
+void ScreenTotals::aDoubleClickOfAnotherButtonKeepsTheCharge() {
+  InvoiceBench bench;
+  OpenReady(bench);
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().Fill(u"txtMisc"_s, u"3"_s);
+  bench.On().Click(u"txtInvoiceNo"_s);
+  for (const auto& [box, charge] : {std::pair(u"txtShip"_s, u"$5.00"_s), {u"txtMisc"_s, u"$3.00"_s}}) {
+    for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
+      QTest::mouseDClick(bench.On().Control(box), button);
+      ScreenDriver::ProcessEvents();
+      QCOMPARE(bench.Text(box), charge);
+    }
+  }
+}
+
+void ScreenTotals::aDeductedDiscountOutlastsTheLinesAndTheMenuEntry() {
+  InvoiceBench bench;
+  OpenReady(bench);
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_1"_s);
+  bench.On().Type(u"70"_s);
+  bench.On().Click(u"cmdAddDiscount"_s);
+  bench.On().Trigger(u"mnuCreate"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdAddDiscount"_s));
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$1,000.00"_s);
+}
+
+void ScreenTotals::thePrintEntryOfTheMenuTotalsTheLines() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"300"_s);
+  QCOMPARE(bench.Text(u"txtTotal"_s), u"$0.00"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  QCOMPARE(bench.Text(u"txtTotal"_s), u"$600.00"_s);
 }
 
 QTEST_MAIN(ScreenTotals)
