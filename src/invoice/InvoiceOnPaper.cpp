@@ -3,6 +3,9 @@
 #include "invoice/WorkingInvoice.h"
 #include "runtime/Dates.h"
 #include "runtime/Numbers.h"
+#include "setup/PrintAppearance.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,4 +35,9 @@ InvoicePage PageOf(const WorkingInvoice& invoice, bool usaAddress, QDate today) 
   page.Totals = {invoice.txtTotal, invoice.txtTax,  invoice.txtTax2,
                  invoice.txtShip,  invoice.txtMisc, invoice.txtGrandTotal};
   return page;
+}
+
+PaperToInsert PaperFor(const PrintAppearance& appearance) {
+  if (appearance.optReturn) return {u"Insert Perforated Response Paper"_s, true};
+  return {u"Insert Standard Paper"_s, false};
 }

@@ -1,4 +1,5 @@
 // The print-ready view: terms and discount, charges, shipping, totals.
+#include "desktop/LabelText.h"
 #include "desktop/ListCombo.h"
 #include "invoice/ChargeBoxes.h"
 #include "invoice/ClearInvoice.h"
@@ -99,15 +100,14 @@ void frmInvoice::WireHelp() {
 void frmInvoice::cmdPrint() {
   ClearFlatDiscount(m_invoice);
   m_invoice.Controls.Enabled.cmdAddDiscount = true;
-  const bool perforated = m_desk.Settings.Print.optReturn;
-  ui->Label2_6->setVisible(perforated);
-  ui->fraPrintReady->setTitle(perforated ? u"Insert Perforated Response Paper"_s : u"Insert Standard Paper"_s);
   mnuPrint();
 }
 
 /// The tax rows bear the headings of Setup; the second is empty where there is no second tax.
 void frmInvoice::LoadTaxHeadings() {
   const TaxConfiguration& tax = m_desk.Settings.Tax;
-  ui->Label1_2->setText(tax.cboTaxHeading1);
-  ui->Label1_0->setText(tax.ckApplyGraduated ? u"Tax Surcharge"_s : tax.ckApply2ndTax ? tax.cboTaxHeading2 : QString());
+  ShowOnLabel(ui->Label1_2, tax.cboTaxHeading1);
+  ShowOnLabel(ui->Label1_0, tax.ckApplyGraduated ? u"Tax Surcharge"_s
+                            : tax.ckApply2ndTax  ? tax.cboTaxHeading2
+                                                 : QString());
 }

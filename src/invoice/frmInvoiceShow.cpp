@@ -2,6 +2,7 @@
 // once, and after each event the screen shows what the rules changed.
 #include <QPlainTextEdit>
 
+#include "desktop/LabelText.h"
 #include "desktop/ListCombo.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
@@ -31,7 +32,7 @@ void frmInvoice::Bind(QPlainTextEdit* box, QString& value) {
 }
 
 void frmInvoice::Bind(QLabel* label, const QString& value) {
-  m_shown.emplace_back([label, &value] { label->setText(value); });
+  m_shown.emplace_back([label, &value] { ShowOnLabel(label, value); });
 }
 
 void frmInvoice::Bind(QCheckBox* box, bool& value) {

@@ -4,6 +4,7 @@
 #include "catalogue/Catalogue.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceMemo.h"
+#include "invoice/InvoiceOnPaper.h"
 #include "invoice/LaborEntry.h"
 #include "invoice/Totals.h"
 #include "invoice/WorkingInvoice.h"
@@ -101,6 +102,9 @@ void frmInvoice::mnuCreate() {
 void frmInvoice::mnuPrint() {
   HideFrames();
   ShowInstructions(2);
+  const PaperToInsert paper = PaperFor(m_desk.Settings.Print);
+  ui->Label2_6->setVisible(paper.Label2_6);
+  ui->fraPrintReady->setTitle(paper.fraPrintReady);
   ui->fraPrintReady->show();
   ComputeTotals(m_invoice, m_desk.Settings.Tax);
 }

@@ -21,6 +21,18 @@ void Recall(InvoiceBench& bench) {
   bench.Invoice.LineCount = 1;
 }
 
+/// What the toolkit draws of a label: with a buddy a single ampersand is an access key, and markup is carried out.
+QString ShownOn(const InvoiceBench& bench, const QString& name) {
+  const auto* label = bench.On().Control<QLabel>(name);
+  QString text = label->text();
+  if (label->textFormat() != Qt::PlainText && Qt::mightBeRichText(text)) {
+    return QTextDocumentFragment::fromHtml(text).toPlainText();
+  }
+  if (label->buddy() == nullptr) return text;
+  text.replace(u"&&"_s, QString(QChar(u'\n')));
+  return text.remove(u'&').replace(u'\n', u'&');
+}
+
 }  // namespace
 
 class ScreenFlow : public QObject {
@@ -51,6 +63,9 @@ class ScreenFlow : public QObject {
   void theTaxRowsBearTheHeadingsOfSetup();
   void theSecondTaxShowsAndIsTickedAsSetupSays();
   void aFinalizedInvoiceThatIsOpenedAnewMustBeFinalizedAgain();
+  void thePrintEntryOfTheMenuTellsThePaperToo();
+  void anInvoiceRecalledFirstOfAllHasTodayAsItsShipDate();
+  void namesFromTheFilesStandOnTheLabelsAsTheyAre();
 };
 
 void ScreenFlow::aNewInvoiceOpensInItsSetupView() {
@@ -387,6 +402,43 @@ void ScreenFlow::aFinalizedInvoiceThatIsOpenedAnewMustBeFinalizedAgain() {
   QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
   bench.Reopen();
   QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+}
+
+void ScreenFlow::thePrintEntryOfTheMenuTellsThePaperToo() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Trigger(u"mnuPrint"_s);
+  QCOMPARE(bench.Text(u"fraPrintReady"_s), u"Insert Standard Paper"_s);
+  QVERIFY(!bench.On().IsVisible(u"Label2_6"_s));
+  bench.Live.Print.optReturn = true;
+  bench.On().Trigger(u"mnuPrint"_s);
+  QCOMPARE(bench.Text(u"fraPrintReady"_s), u"Insert Perforated Response Paper"_s);
+  QVERIFY(bench.On().IsVisible(u"Label2_6"_s));
+}
+
+void ScreenFlow::anInvoiceRecalledFirstOfAllHasTodayAsItsShipDate() {
+  InvoiceBench bench;
+  Recall(bench);
+  bench.Open();
+  QCOMPARE(bench.On().Control<QDateEdit>(u"DTShip"_s)->date(), QDate(2026, 3, 7));
+  bench.On().Click(u"cmdInvoice_0"_s);
+  bench.Finalize();
+  bench.Answers.Yes();
+  bench.On().Click(u"cmdInvoiceContinue"_s);
+  QVERIFY(bench.Tree.Bytes(u"/CompletedInvoices/20260009.txt"_s).contains("\r\nNone\r\n3/7/2026\r\n20260009\r\n"));
+}
+
+void ScreenFlow::namesFromTheFilesStandOnTheLabelsAsTheyAre() {
+  InvoiceBench bench;
+  bench.Tree.Write(u"/TaxSettings.txt"_s, "\"Sales & Use Tax\",\"<b>R&D</b>\",\"6.0\",\"1.0\",1,1\r\n");
+  bench.Tree.Write(u"/Labor.txt"_s, "\"R&D\",\"$45.00\"\r\n\"\",\"$0.00\"\r\n\"\",\"$0.00\"\r\n");
+  bench.Customer[1] = u"<i>Smith & Sons</i>"_s;
+  bench.Open();
+  QCOMPARE(ShownOn(bench, u"Label1_2"_s), u"Sales & Use Tax"_s);
+  QCOMPARE(ShownOn(bench, u"Label1_0"_s), u"<b>R&D</b>"_s);
+  QCOMPARE(ShownOn(bench, u"lblLaborHeading_0"_s), u"R&D at $45.00 per Hour"_s);
+  QCOMPARE(ShownOn(bench, u"lblCustomer_0"_s), u"<i>Smith & Sons</i>"_s);
+  QCOMPARE(ShownOn(bench, u"lblCustomer_6"_s), u"<i>Smith & Sons</i>"_s);
 }
 
 QTEST_MAIN(ScreenFlow)
