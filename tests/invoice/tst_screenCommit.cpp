@@ -72,6 +72,9 @@ class ScreenCommit : public QObject {
   void printIsDisabledWhileItRuns();
   void theShipToBlockPrintsOnlyWhenTicked();
   void anInternationalCustomerPrintsWithoutAState();
+  void aChargeTypedAfterFinalizeLetsNothingPrint();
+  void soldItemsBearTheHeldNumberAndTheRestTheTypedOne();
+  void aLongNumberIsCutInJournalAndLedger();
 };
 
 void ScreenCommit::aCommittedInvoiceStandsInEveryStore() {
@@ -353,6 +356,61 @@ void ScreenCommit::anInternationalCustomerPrintsWithoutAState() {
   Commit(bench);
   QVERIFY(bench.Paper.Words(1).contains(u"Springfield"_s));
   QVERIFY(!bench.Paper.Words(1).contains(u"Springfield, IL 62701"_s));
+}
+
+void ScreenCommit::aChargeTypedAfterFinalizeLetsNothingPrint() {
+  for (const auto& box : {u"txtShip"_s, u"txtMisc"_s}) {
+    for (const bool byKey : {false, true}) {
+      InvoiceBench bench;
+      OpenFinalized(bench);
+      QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+      const auto before = bench.Tree.Everything();
+      bench.On().Fill(box, u"3"_s);
+      QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+      if (byKey) {
+        bench.On().PressAccessKey('P');
+      } else {
+        bench.On().Click(u"cmdInvoiceContinue"_s);
+      }
+      QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+      QCOMPARE(bench.Text(box), u"$3.00"_s);
+      QCOMPARE(bench.Paper.DialogsShown, 0);
+      QVERIFY(bench.Answers.Boxes().isEmpty());
+      QCOMPARE(bench.Tree.Everything(), before);
+      QCOMPARE(bench.Around.Asked, QStringList());
+    }
+  }
+}
+
+void ScreenCommit::soldItemsBearTheHeldNumberAndTheRestTheTypedOne() {
+  InvoiceBench bench;
+  OpenFinalized(bench);
+  bench.On().Trigger(u"mnuSetup"_s);
+  bench.On().Fill(u"txtInvoiceNo"_s, u"7"_s);
+  bench.On().Click(u"cmdInvoice_0"_s);
+  bench.On().Fill(u"txtInvoiceNo"_s, u"500"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  Commit(bench);
+  QCOMPARE(bench.Tree.Bytes(u"/SoldItems.txt"_s).mid(68, 20), Field("7", 20));
+  QCOMPARE(bench.Tree.Bytes(u"/InvoiceSalesJournal.txt"_s).mid(65, 20), Field("500", 20));
+  QCOMPARE(bench.Tree.Bytes(u"/TaxRecords.txt"_s).mid(35, 30), Field("500", 30));
+  QCOMPARE(bench.Tree.Bytes(Ledger).mid(155), LedgerRecord("500", "131.02"));
+  QVERIFY(bench.Tree.Exists(u"/CompletedInvoices/500.txt"_s));
+}
+
+void ScreenCommit::aLongNumberIsCutInJournalAndLedger() {
+  InvoiceBench bench;
+  OpenFinalized(bench);
+  bench.On().Fill(u"txtInvoiceNo"_s, u"1234567890123456789012345"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  Commit(bench);
+  QCOMPARE(bench.Tree.Bytes(Ledger).mid(155), LedgerRecord("12345678901234567890", "131.02"));
+  QCOMPARE(bench.Tree.Bytes(u"/InvoiceSalesJournal.txt"_s).mid(65, 20), QByteArray("12345678901234567890"));
+  QCOMPARE(bench.Tree.Bytes(u"/TaxRecords.txt"_s).mid(35, 30), Field("1234567890123456789012345", 30));
+  QVERIFY(bench.Tree.Exists(u"/CompletedInvoices/1234567890123456789012345.txt"_s));
+  // The next number would be beyond 32 bits: the counter stays, without a message.
+  QCOMPARE(bench.Tree.Bytes(u"/KVInvoiceNo.txt"_s), "20260001\r\n");
+  QCOMPARE(bench.Around.Errors, QList<int>{});
 }
 
 QTEST_MAIN(ScreenCommit)

@@ -66,6 +66,10 @@ class ScreenFlow : public QObject {
   void thePrintEntryOfTheMenuTellsThePaperToo();
   void anInvoiceRecalledFirstOfAllHasTodayAsItsShipDate();
   void namesFromTheFilesStandOnTheLabelsAsTheyAre();
+  void openingAgainEndsADraft();
+  void readyToPrintStaysEnabledForTheNextInvoiceOfTheSession();
+  void anExemptionAndAShipToAddressOutlastTheWayToTheMenu();
+  void redoLeavesAnEntryFrameOpen();
 };
 
 void ScreenFlow::aNewInvoiceOpensInItsSetupView() {
@@ -439,6 +443,51 @@ void ScreenFlow::namesFromTheFilesStandOnTheLabelsAsTheyAre() {
   QCOMPARE(ShownOn(bench, u"lblLaborHeading_0"_s), u"R&D at $45.00 per Hour"_s);
   QCOMPARE(ShownOn(bench, u"lblCustomer_0"_s), u"<i>Smith & Sons</i>"_s);
   QCOMPARE(ShownOn(bench, u"lblCustomer_6"_s), u"<i>Smith & Sons</i>"_s);
+}
+
+void ScreenFlow::openingAgainEndsADraft() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.Invoice.DraftPrint = true;
+  bench.Reopen();
+  QVERIFY(!bench.Invoice.DraftPrint);
+}
+
+void ScreenFlow::readyToPrintStaysEnabledForTheNextInvoiceOfTheSession() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().Click(u"cmdInvoice_1"_s);
+  bench.Reopen();
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QCOMPARE(bench.Row(1), QStringList(6, QString()));
+  QVERIFY(bench.On().IsVisible(u"cmdPrint"_s));
+  QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
+}
+
+void ScreenFlow::anExemptionAndAShipToAddressOutlastTheWayToTheMenu() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Click(u"cmdShipToAddress_0"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  bench.On().Click(u"ckExempt"_s);
+  bench.On().Click(u"cmdInvoice_1"_s);
+  bench.Customer[1] = u"Other Ltd"_s;
+  bench.Reopen();
+  QVERIFY(bench.Ticked(u"ckExempt"_s));
+  QCOMPARE(bench.Text(u"lblCustomer_6"_s), u"Other Ltd"_s);
+  const QStringList block{u"Acme Tools"_s, u"1 Main Street"_s, QString(), u"Springfield"_s, u"IL"_s, u"62701"_s};
+  for (int i = 0; i < 6; ++i) QCOMPARE(bench.Text(u"txtShipto_%1"_s.arg(i)), block[i]);
+}
+
+void ScreenFlow::redoLeavesAnEntryFrameOpen() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().Trigger(u"mnuItems"_s);
+  bench.On().Click(u"cmdRedo"_s);
+  QCOMPARE(bench.Row(1), QStringList(6, QString()));
+  QVERIFY(bench.On().IsVisible(u"fraItems"_s));
 }
 
 QTEST_MAIN(ScreenFlow)

@@ -61,6 +61,7 @@ class ScreenGrid : public QObject {
   void aKeyWithoutACurrentRowDoesNothing();
   void theArrowsFollowTheLineThatTheKeysChoose();
   void theSpaceBarFlipsApplyTaxAsAClickDoes();
+  void theColumnsAreAlignedAndWideAsTheyAreMeantToBe();
 };
 
 void ScreenGrid::aPriceIsTypedDigitByDigitAndEnterRecalculates() {
@@ -358,6 +359,17 @@ void ScreenGrid::theSpaceBarFlipsApplyTaxAsAClickDoes() {
   Press(bench, Qt::Key_Down);
   Press(bench, Qt::Key_Space);
   QCOMPARE(bench.Row(4)[5], u"True"_s);
+}
+
+void ScreenGrid::theColumnsAreAlignedAndWideAsTheyAreMeantToBe() {
+  const WorkingInvoice invoice;
+  const QList<Qt::AlignmentFlag> sides{Qt::AlignHCenter, Qt::AlignLeft,  Qt::AlignHCenter,
+                                       Qt::AlignRight,   Qt::AlignRight, Qt::AlignLeft};
+  const QList<int> widths{10, 56, 12, 15, 15, 9};
+  for (int col = 0; col < 6; ++col) {
+    QCOMPARE(invoice.fgInvoice.Alignment(col) & Qt::AlignHorizontal_Mask, Qt::Alignment(sides[col]));
+    QCOMPARE(invoice.fgInvoice.FormatWidth(col), widths[col]);
+  }
 }
 
 QTEST_MAIN(ScreenGrid)

@@ -62,6 +62,7 @@ class ScreenHeader : public QObject {
   void saveMemoWritesTheFileAndTicks();
   void reloadMemoReadsTheFileAgain();
   void closeMemoHidesTheFrame();
+  void defaultsThatOnlyTheBackupHoldsComeBack();
 };
 
 void ScreenHeader::theCounterIsOfferedAndWrittenBack_data() {
@@ -470,6 +471,22 @@ void ScreenHeader::closeMemoHidesTheFrame() {
   bench.On().Trigger(u"mnuMemo"_s);
   bench.On().Click(u"cmdInvoiceMemo_4"_s);
   QVERIFY(!bench.On().IsVisible(u"fraMemo"_s));
+}
+
+void ScreenHeader::defaultsThatOnlyTheBackupHoldsComeBack() {
+  InvoiceBench bench;
+  bench.Tree.Write(u"/Backup/StatementTerms.txt"_s, "Payment due in Full within 15 Days\r\n");
+  bench.Tree.Write(u"/Backup/ShipVia.txt"_s, "FEDEX - Ground\r\n");
+  bench.Tree.Write(u"/Backup/InvoiceMemo.txt"_s, "Thank you\r\n");
+  bench.OpenAtLines();
+  QCOMPARE(bench.On().Control<QComboBox>(u"cboTerms"_s)->currentIndex(), 2);
+  QCOMPARE(bench.Text(u"cboShipping"_s), u"FEDEX - Ground"_s);
+  bench.On().Trigger(u"mnuMemo"_s);
+  QCOMPARE(bench.Text(u"txtMemo"_s), u"Thank you\n"_s);
+  QVERIFY(bench.Ticked(u"ckAddMemo"_s));
+  QCOMPARE(bench.Tree.Bytes(u"/StatementTerms.txt"_s), "Payment due in Full within 15 Days\r\n");
+  QCOMPARE(bench.Tree.Bytes(u"/ShipVia.txt"_s), "FEDEX - Ground\r\n");
+  QCOMPARE(bench.Tree.Bytes(u"/InvoiceMemo.txt"_s), "Thank you\r\n");
 }
 
 QTEST_MAIN(ScreenHeader)

@@ -39,6 +39,7 @@ class ScreenLabor : public QObject {
   void laborOntoAFullGridIsTheGridsError();
   void enterInTheHoursCalculates();
   void laborForMoreSlotsThanThereIsRoomPostsNone();
+  void hoursTakeDigitsAndOnePointOnly();
 };
 
 void ScreenLabor::hoursAreChargedAndSummed() {
@@ -160,6 +161,19 @@ void ScreenLabor::laborForMoreSlotsThanThereIsRoomPostsNone() {
   bench.On().Click(u"cmdLabor_0"_s);
   bench.On().Click(u"cmdLabor_1"_s);
   QCOMPARE(bench.Row(100)[0], u"2 Hrs"_s);
+}
+
+void ScreenLabor::hoursTakeDigitsAndOnePointOnly() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuLabor"_s);
+  QCOMPARE(bench.On().FocusName(), u"txtHours_1"_s);
+  bench.On().Type(u"0"_s);
+  QCOMPARE(bench.Text(u"txtHours_1"_s), QString());
+  bench.On().Type(u"1x-.5.0"_s);
+  QCOMPARE(bench.Text(u"txtHours_1"_s), u"1.50"_s);
+  bench.On().PressKey(Qt::Key_Backspace);
+  QCOMPARE(bench.Text(u"txtHours_1"_s), u"1.50"_s);
+  QCOMPARE(bench.Dialogs.Beeps, 0);
 }
 
 QTEST_MAIN(ScreenLabor)

@@ -55,6 +55,8 @@ class ScreenLineEntry : public QObject {
   void unitsThatAreNoNumberComeBackAsZero();
   void manualBoxesFilterTheirKeys();
   void enterInTheLastBoxPosts();
+  void aTypedPriceStaysAsTypedWhenItsBoxIsLeft();
+  void emptyUnitsHideTheMarkOfABreakAndAnEmptyPriceLeavesIt();
 };
 
 void ScreenLineEntry::aServiceIsPostedWithItsPriceAndDate() {
@@ -415,6 +417,36 @@ void ScreenLineEntry::enterInTheLastBoxPosts() {
   bench.On().PressKey(Qt::Key_Return);
   QCOMPARE(bench.Dialogs.Beeps, 1);
   QCOMPARE(bench.Invoice.LineCount, 3);
+}
+
+void ScreenLineEntry::aTypedPriceStaysAsTypedWhenItsBoxIsLeft() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuServices"_s);
+  bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
+  bench.On().Fill(u"cboPrice_0"_s, u"75.5"_s);
+  bench.On().Click(u"txtInvoiceNo"_s);
+  QCOMPARE(bench.Text(u"cboPrice_0"_s), u"75.5"_s);
+  QCOMPARE(bench.On().FocusName(), u"txtInvoiceNo"_s);
+}
+
+void ScreenLineEntry::emptyUnitsHideTheMarkOfABreakAndAnEmptyPriceLeavesIt() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuItems"_s);
+  bench.On().Click(u"ckApplyVolumeDiscount"_s);
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().Type(u"5"_s);
+  bench.On().Click(u"cmdPost_1"_s);
+  QVERIFY(bench.On().IsVisible(u"Label4_42"_s));
+  bench.On().Fill(u"cboPrice_1"_s, QString());
+  bench.On().Click(u"cmdPost_1"_s);
+  QCOMPARE(bench.On().FocusName(), u"cboPrice_1"_s);
+  QVERIFY(bench.On().IsVisible(u"Label4_42"_s));
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  QCOMPARE(bench.Text(u"txtUnits"_s), QString());
+  bench.On().Click(u"cmdPost_1"_s);
+  QVERIFY(!bench.On().IsVisible(u"Label4_42"_s));
+  QCOMPARE(bench.Dialogs.Beeps, 2);
+  QCOMPARE(bench.Invoice.LineCount, 1);
 }
 
 QTEST_MAIN(ScreenLineEntry)

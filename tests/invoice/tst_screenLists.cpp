@@ -28,6 +28,7 @@ class ScreenLists : public QObject {
   void aNarrowedListStaysNarrowedWhenTheFrameIsOpenedAgain();
   void theBreakOfANarrowedListGoesWithIt();
   void theListsFollowTheCatalogue();
+  void allKeepsTheUnitsAndTheFocus();
 };
 
 void ScreenLists::typingCompletesTheDescription() {
@@ -153,6 +154,20 @@ void ScreenLists::theListsFollowTheCatalogue() {
   QCOMPARE(bench.Text(u"cboPrice_0"_s), QString());
   bench.On().PickEntry(u"cboDescription_0"_s, 0);
   QCOMPARE(bench.Text(u"cboPrice_0"_s), u"$15.00"_s);
+}
+
+void ScreenLists::allKeepsTheUnitsAndTheFocus() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuItems"_s);
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().Type(u"4"_s);
+  auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);
+  categories->setFocus();
+  categories->setCurrentRow(0);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"cboDescription_1"_s), QString());
+  QCOMPARE(bench.Text(u"txtUnits"_s), u"4"_s);
+  QCOMPARE(bench.On().FocusName(), u"lstCategories"_s);
 }
 
 QTEST_MAIN(ScreenLists)

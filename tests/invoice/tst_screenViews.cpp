@@ -28,6 +28,13 @@ QList<int> Help(const ScreenDriver& screen) {
   return shown;
 }
 
+QStringList Entries(const InvoiceBench& bench, const QString& combo) {
+  const auto* list = bench.On().Control<QComboBox>(combo);
+  QStringList entries;
+  for (int i = 0; i < list->count(); ++i) entries += list->itemText(i);
+  return entries;
+}
+
 }  // namespace
 
 class ScreenViews : public QObject {
@@ -55,6 +62,9 @@ class ScreenViews : public QObject {
   void everyViewFitsTheSmallestScreen();
   void everyBoxHasAnAccessibleName();
   void accessKeysOfAViewDifferFromEachOther();
+  void theNextInvoiceLeavesThePrintReadyViewForSetup();
+  void theCaptionsStandAsTheUserKnowsThem();
+  void theListsHoldTheirEntriesInOrder();
 };
 
 void ScreenViews::eachMenuEntryShowsItsFrameAndItsHelp_data() {
@@ -350,6 +360,46 @@ void ScreenViews::accessKeysOfAViewDifferFromEachOther() {
       used[key] = text;
     }
   }
+}
+
+void ScreenViews::theNextInvoiceLeavesThePrintReadyViewForSetup() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.On().Trigger(u"mnuPrint"_s);
+  bench.On().Click(u"cmdInvoice_3"_s);
+  bench.Reopen();
+  QCOMPARE(Shown(bench.On()), QStringList{u"fraSetup"_s});
+  QCOMPARE(Help(bench.On()), QList<int>{0});
+}
+
+void ScreenViews::theCaptionsStandAsTheUserKnowsThem() {
+  InvoiceBench bench;
+  bench.Open();
+  for (const auto& [name, caption] : {std::pair(u"cmdInvoice_1"_s, u"&Menu"_s),
+                                      {u"cmdInvoice_2"_s, u"Reload Next Invoice No"_s},
+                                      {u"cmdInvoice_6"_s, u"Toggle Shipping Window"_s},
+                                      {u"cmdInvoice_11"_s, u"Close Shipping Window "_s},
+                                      {u"cmdShipToAddress_0"_s, u"Same as Sold to"_s},
+                                      {u"cmdShipToAddress_1"_s, u"Clear Ship To"_s},
+                                      {u"ckPrepaid"_s, u"Invoice is Pre-Paid"_s}}) {
+    QCOMPARE(bench.Text(name), caption);
+  }
+}
+
+void ScreenViews::theListsHoldTheirEntriesInOrder() {
+  InvoiceBench bench;
+  bench.Open();
+  QCOMPARE(Entries(bench, u"cboDays"_s), (QStringList{u"0"_s, u"10"_s, u"15"_s, u"20"_s, u"30"_s}));
+  QCOMPARE(Entries(bench, u"cboPrepaid"_s), (QStringList{u"Check # "_s, u"Credit Card # "_s, u"Cash"_s}));
+  QCOMPARE(Entries(bench, u"cboDiscount"_s),
+           (QStringList{u"0.0"_s, u"1.0"_s, u"1.5"_s, u"2.0"_s, u"0,0"_s, u"1,0"_s, u"1,5"_s, u"2,0"_s}));
+  QCOMPARE(Entries(bench, u"cboTerms"_s),
+           (QStringList{u"Payment due in Full upon Receipt"_s, u"Payment due in Full within 10 Days"_s,
+                        u"Payment due in Full within 15 Days"_s, u"Payment due in Full within 30 Days"_s,
+                        u"Discount 1% in 10 days, Net 15 days"_s, u"Discount 2% in 10 days, Net 15 days"_s,
+                        u"Discount 1% in 10 days, Net 20 days"_s, u"Discount 2% in 10 days, Net 20 days"_s,
+                        u"Discount 1% in 10 days, Net 30 days"_s, u"Discount 2% in 10 days, Net 30 days"_s,
+                        u" A Discount has been Applied"_s}));
 }
 
 QTEST_MAIN(ScreenViews)
