@@ -60,8 +60,8 @@ class LaborEntryTest : public QObject {
     m_desk->Prices.Labor.txtLaborRate[0].clear();
     const RuntimeError thrown = CaughtFrom([&] { Load(); });
     QCOMPARE(thrown.Number(), 13);
-    QCOMPARE(thrown.Text(),
-             u"The rate of \"General Labor\" isn't an amount. Enter it on the Labor Rates tab of Create and Manage."_s);
+    QCOMPARE(thrown.Text(), u"The rate of \"General Labor\" isn't an amount."_s);
+    QCOMPARE(thrown.Advice(), u"Enter it on the Labor Rates tab of Create and Manage, then open the invoice again."_s);
     QCOMPARE(thrown.From(), RuntimeError::Origin::Event);
   }
 
