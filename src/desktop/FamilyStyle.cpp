@@ -1,15 +1,15 @@
 #include "desktop/FamilyStyle.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QFrame>
-#include <QLabel>
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPainter>
+#include <QStackedWidget>
 #include <QStyleOption>
-#include <QVariant>
+#include <QTabWidget>
 
+#include "desktop/Looks.h"
 #include "desktop/Style.h"
 
 using namespace Qt::StringLiterals;
@@ -19,13 +19,30 @@ namespace {
 // As high as a button or a box is at least.
 constexpr int Control = 28;
 constexpr int CellMargin = 5;
+// What the toolkit leaves between the edge of a box and its text.
+constexpr int BoxMargin = 3;
+constexpr int FocusRing = 2;
 
 bool IsWindowGround(const QWidget* widget) {
   if (widget == nullptr || widget->isWindow()) {
     return true;
   }
-  const auto* window = qobject_cast<const QMainWindow*>(widget->parentWidget());
+  const QWidget* parent = widget->parentWidget();
+  const auto* window = qobject_cast<const QMainWindow*>(parent);
   return window != nullptr && window->centralWidget() == widget;
+}
+
+bool IsTabPage(const QWidget* widget) {
+  const QWidget* stack = widget != nullptr ? widget->parentWidget() : nullptr;
+  return qobject_cast<const QStackedWidget*>(stack) != nullptr &&
+         qobject_cast<const QTabWidget*>(stack->parentWidget()) != nullptr;
+}
+
+/// The line in the middle of an editable list or of a date: that control draws the box.
+bool IsInsideOfBox(const QWidget* widget) {
+  const QWidget* parent = widget != nullptr ? widget->parentWidget() : nullptr;
+  return qobject_cast<const QAbstractSpinBox*>(parent) != nullptr ||
+         (parent != nullptr && parent->inherits("QComboBox"));
 }
 
 /// The edge of a box or an indicator, drawn over the toolkit's own, which is too faint on either palette.
@@ -45,60 +62,54 @@ void DrawEdge(QPainter* painter, const QStyleOption& option, bool round) {
   painter->restore();
 }
 
+/// The frame of a group of controls, which the toolkit draws too faint on a dark palette.
+void DrawQuietEdge(QPainter* painter, const QStyleOption& option) {
+  painter->save();
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(QuietEdgeColor(option.palette));
+  painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+  painter->restore();
+}
+
+/// A tab on the window's own ground like its page, the one in front open to it and under a bar.
+void DrawTab(QPainter* painter, const QStyleOptionTab& tab) {
+  const bool inFront = tab.state.testFlag(QStyle::State_Selected);
+  const bool pointedAt = tab.state.testFlag(QStyle::State_MouseOver) && tab.state.testFlag(QStyle::State_Enabled);
+  // The last but one line is the upper edge of the page.
+  const QRect rect = inFront ? tab.rect.adjusted(0, 0, 0, -1) : tab.rect.adjusted(0, 2, 0, -2);
+  const bool first = tab.position == QStyleOptionTab::Beginning || tab.position == QStyleOptionTab::OnlyOneTab;
+  painter->save();
+  painter->fillRect(rect, tab.palette.color(inFront || pointedAt ? QPalette::Window : QPalette::Button));
+  painter->setPen(QuietEdgeColor(tab.palette));
+  painter->drawLine(rect.topLeft(), rect.topRight());
+  if (inFront || first) {
+    painter->drawLine(rect.topLeft(), rect.bottomLeft());
+  }
+  if (tab.selectedPosition != QStyleOptionTab::NextIsSelected) {
+    painter->drawLine(rect.topRight(), rect.bottomRight());
+  }
+  if (inFront) {
+    painter->fillRect(QRect(rect.topLeft(), QSize(rect.width(), 3)), AccentColor(tab.palette));
+  }
+  painter->restore();
+}
+
+/// The button in use has a ring: the accent on a plain one, the colour of its caption on one that stands out.
+void DrawButtonFocus(QPainter* painter, const QStyleOption& option) {
+  const bool plain = option.palette.color(QPalette::Button) == QGuiApplication::palette().color(QPalette::Button);
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(QPen(plain ? AccentColor(option.palette) : option.palette.color(QPalette::ButtonText), 2));
+  const qreal inset = plain ? 1 : 3;
+  painter->drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), 2, 2);
+  painter->restore();
+}
+
 /// A button that stays pressed shows it by a bar as well as by its ground.
 void DrawPressedBar(QPainter* painter, const QStyleOption& option) {
   const QRect bar(option.rect.left() + 3, option.rect.bottom() - 3, option.rect.width() - 6, 3);
   painter->fillRect(bar, AccentColor(option.palette));
-}
-
-void LookOfLabel(QLabel* label, QStringView look) {
-  // From the program's own font, so that a second polish changes nothing.
-  QFont font = QApplication::font(label);
-  if (look == "title"_L1) {
-    font.setPointSizeF(font.pointSizeF() * 1.5);
-    font.setWeight(QFont::DemiBold);
-    label->setFont(font);
-  } else if (look == "heading"_L1) {
-    font.setWeight(QFont::DemiBold);
-    label->setFont(font);
-  } else if (look == "amount"_L1) {
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  } else if (look == "hint"_L1) {
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, HintText(palette));
-    label->setPalette(palette);
-  }
-}
-
-void LookOfButton(QAbstractButton* button, QStringView look) {
-  if (look != "primary"_L1 && look != "destructive"_L1) {
-    return;
-  }
-  const QColor ground = look == "primary"_L1 ? PrimaryGround() : DestructiveGround();
-  QPalette palette = button->palette();
-  for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-    palette.setColor(group, QPalette::Button, ground);
-    palette.setColor(group, QPalette::ButtonText, Qt::white);
-  }
-  button->setPalette(palette);
-}
-
-void ApplyLook(QWidget* widget, QStringView look) {
-  if (auto* label = qobject_cast<QLabel*>(widget)) {
-    LookOfLabel(label, look);
-  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-    LookOfButton(button, look);
-  } else if (auto* line = qobject_cast<QLineEdit*>(widget); line != nullptr && look == "amount"_L1) {
-    line->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  } else if (auto* frame = qobject_cast<QFrame*>(widget); frame != nullptr && look == "panel"_L1) {
-    frame->setFrameShape(QFrame::StyledPanel);
-    frame->setAutoFillBackground(true);
-    frame->setBackgroundRole(QPalette::AlternateBase);
-  }
-}
-
-QString LookOf(const QObject* control) {
-  return control->property("look").toString();
 }
 
 }  // namespace
@@ -111,10 +122,15 @@ int FamilyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     case PM_LayoutTopMargin:
     case PM_LayoutRightMargin:
     case PM_LayoutBottomMargin:
-      return IsWindowGround(widget) ? Spacing::Large : Spacing::Small;
+      return IsWindowGround(widget) || IsTabPage(widget) ? Spacing::Large : Spacing::Small;
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
       return Spacing::Small;
+    case PM_DefaultFrameWidth:
+      // Room for the ring of the grid or list in use.
+      return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr
+                 ? FocusRing
+                 : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_FocusFrameHMargin:
     case PM_HeaderMargin:
       // The air left and right of a text in a cell, an entry or a heading.
@@ -126,6 +142,9 @@ int FamilyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
 
 void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                 const QWidget* widget) const {
+  if (element == PE_FrameTabWidget) {
+    return DrawQuietEdge(painter, *option);
+  }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   switch (element) {
     case PE_FrameLineEdit:
@@ -135,10 +154,20 @@ void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     case PE_IndicatorRadioButton:
       DrawEdge(painter, *option, true);
       break;
+    case PE_Frame:
+      if (qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+        DrawEdge(painter, *option, false);
+      } else {
+        DrawQuietEdge(painter, *option);
+      }
+      break;
     case PE_PanelButtonTool:
     case PE_PanelButtonCommand:
       if (option->state.testFlag(State_On)) {
         DrawPressedBar(painter, *option);
+      }
+      if (option->state.testFlag(State_HasFocus) && option->state.testFlag(State_Enabled)) {
+        DrawButtonFocus(painter, *option);
       }
       break;
     default:
@@ -146,18 +175,52 @@ void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
   }
 }
 
+void FamilyStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+  const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+  if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth) {
+    return DrawTab(painter, *tab);
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
 void FamilyStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                      const QWidget* widget) const {
+  const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+  if (control == CC_GroupBox && group != nullptr) {
+    return DrawGroup(painter, *group, widget);
+  }
   QProxyStyle::drawComplexControl(control, option, painter, widget);
   if (control == CC_ComboBox || control == CC_SpinBox) {
     DrawEdge(painter, *option, false);
   }
 }
 
+/// Its title stands out from the labels inside. A font of the box itself would be inherited by all of them.
+void FamilyStyle::DrawGroup(QPainter* painter, const QStyleOptionGroupBox& group, const QWidget* widget) const {
+  QFont font = painter->font();
+  font.setWeight(QFont::DemiBold);
+  QStyleOptionGroupBox bold = group;
+  bold.fontMetrics = QFontMetrics(font);
+  painter->save();
+  painter->setFont(font);
+  QProxyStyle::drawComplexControl(CC_GroupBox, &bold, painter, widget);
+  painter->restore();
+}
+
 int FamilyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* returnData) const {
   // Access keys are always underlined, so that they can be learnt.
   return hint == SH_UnderlineShortcut ? 1 : QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+QRect FamilyStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+  const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+  if (element == SE_LineEditContents && !IsInsideOfBox(widget)) {
+    // A text begins as far from the edge as in the cell of a grid.
+    return rect.adjusted(CellMargin - BoxMargin, 0, BoxMargin - CellMargin, 0);
+  }
+  return rect;
 }
 
 QSize FamilyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
@@ -170,10 +233,13 @@ QSize FamilyStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
         wanted.setWidth(size.width() + 2 * Spacing::Small);
       }
       [[fallthrough]];
-    case CT_LineEdit:
     case CT_ComboBox:
     case CT_SpinBox:
       return wanted.expandedTo(QSize(0, Control));
+    case CT_LineEdit:
+      return IsInsideOfBox(widget)
+                 ? wanted
+                 : wanted.grownBy({CellMargin - BoxMargin, 0, CellMargin - BoxMargin, 0}).expandedTo(QSize(0, Control));
     default:
       return wanted;
   }

@@ -3,16 +3,21 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionGroupBox;
+
 class FamilyStyle : public QProxyStyle {
  public:
   FamilyStyle();
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* returnData) const override;
+  QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
   using QProxyStyle::polish;
@@ -21,4 +26,7 @@ class FamilyStyle : public QProxyStyle {
  protected:
   /// A look that is named after its control was polished: a form names it late, and a tab's first page is early.
   bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void DrawGroup(QPainter* painter, const QStyleOptionGroupBox& group, const QWidget* widget) const;
 };

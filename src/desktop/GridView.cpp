@@ -279,7 +279,7 @@ int GridView::TextsWidth(int col) const {
 }
 
 int GridView::NeededWidth(int col) const {
-  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + Spacing::Small;
+  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + Spacing::Small / 2;
   const int format = fontMetrics().averageCharWidth() * m_matrix->FormatWidth(col);
   const int header = horizontalHeader()->sectionSizeHint(col);
   return std::max(std::max(format, TextsWidth(col)) + margins, header);

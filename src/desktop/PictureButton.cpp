@@ -1,9 +1,13 @@
 #include "desktop/PictureButton.h"
 
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include "desktop/Style.h"
+
+namespace {
+// Around the picture, for the sign of the focus.
+constexpr int Ring = 2;
+}  // namespace
 
 PictureButton::PictureButton(QWidget* parent) : QPushButton(parent) {
   setCursor(Qt::PointingHandCursor);
@@ -16,7 +20,7 @@ void PictureButton::SetPicture(const QPixmap& picture) {
 }
 
 QSize PictureButton::sizeHint() const {
-  return m_picture.deviceIndependentSize().toSize() + QSize(Spacing::Small, Spacing::Small);
+  return m_picture.deviceIndependentSize().toSize() + QSize(2 * Ring, 2 * Ring);
 }
 
 QSize PictureButton::minimumSizeHint() const {
@@ -26,7 +30,7 @@ QSize PictureButton::minimumSizeHint() const {
 void PictureButton::paintEvent(QPaintEvent* event) {
   Q_UNUSED(event)
   QPainter painter(this);
-  const QRect room = rect().adjusted(Spacing::Small / 2, Spacing::Small / 2, -Spacing::Small / 2, -Spacing::Small / 2);
+  const QRect room = rect().adjusted(Ring, Ring, -Ring, -Ring);
   if (!m_picture.isNull()) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setOpacity(isEnabled() ? (isDown() ? 0.8 : 1.0) : 0.4);
@@ -37,7 +41,7 @@ void PictureButton::paintEvent(QPaintEvent* event) {
   }
   if (hasFocus()) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setPen(QPen(AccentColor(palette()), 2));
     painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 3, 3);
   }
 }

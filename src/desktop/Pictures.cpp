@@ -4,6 +4,8 @@
 #include <QPainterPath>
 #include <QPalette>
 
+#include "desktop/Style.h"
+
 namespace {
 
 constexpr int Side = 32;
@@ -25,6 +27,23 @@ void DrawReload(QPainter& painter) {
   painter.drawPolyline(QPolygonF({QPointF(15.5, 10.5), QPointF(20.5, 10.6), QPointF(20.6, 5.5)}));
 }
 
+/// A receiver, held aslant.
+void DrawTelephone(QPainter& painter) {
+  painter.save();
+  painter.translate(Side / 2, Side / 2);
+  painter.rotate(-135);
+  QPainterPath grip(QPointF(-6.5, -2.5));
+  grip.cubicTo(-4, -5.5, 4, -5.5, 6.5, -2.5);
+  QPen pen = painter.pen();
+  pen.setWidthF(3);
+  painter.setPen(pen);
+  painter.drawPath(grip);
+  painter.setBrush(pen.color());
+  painter.setPen(Qt::NoPen);
+  for (const qreal left : {-9.0, 4.0}) painter.drawRoundedRect(QRectF(left, -3, 5, 6), 1.5, 1.5);
+  painter.restore();
+}
+
 }  // namespace
 
 QPixmap DrawnPicture(Picture picture, const QPalette& palette) {
@@ -34,7 +53,7 @@ QPixmap DrawnPicture(Picture picture, const QPalette& palette) {
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(palette.color(QPalette::Button));
-  painter.setPen(QPen(palette.color(QPalette::Mid), 1));
+  painter.setPen(QPen(EdgeColor(palette), 1));
   painter.drawEllipse(QRectF(1, 1, Side - 2, Side - 2));
   painter.setPen(QPen(palette.color(QPalette::ButtonText), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.setBrush(Qt::NoBrush);
@@ -47,6 +66,9 @@ QPixmap DrawnPicture(Picture picture, const QPalette& palette) {
       break;
     case Picture::Reload:
       DrawReload(painter);
+      break;
+    case Picture::Telephone:
+      DrawTelephone(painter);
       break;
   }
   return pixmap;

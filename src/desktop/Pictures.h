@@ -7,7 +7,7 @@ class QPalette;
 
 QPixmap LogoPicture();
 
-enum class Picture { Next, Clear, Reload };
+enum class Picture { Next, Clear, Reload, Telephone };
 
 /// Drawn in the palette's own colours, so that it reads on a light and on a dark one.
 QPixmap DrawnPicture(Picture picture, const QPalette& palette);

@@ -32,7 +32,9 @@ QPalette PaletteOf(const Tones& tones) {
   for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, QColor(tones.Disabled));
   }
+  // What can't be used lies flat on the window.
   palette.setColor(QPalette::Disabled, QPalette::Base, QColor(tones.Window));
+  palette.setColor(QPalette::Disabled, QPalette::Button, QColor(tones.Window));
   return palette;
 }
 
@@ -86,6 +88,10 @@ QColor AccentColor(const QPalette& palette) {
 
 QColor EdgeColor(const QPalette& palette) {
   return IsDark(palette) ? QColor(0x7C, 0x82, 0x89) : QColor(0x80, 0x84, 0x88);
+}
+
+QColor QuietEdgeColor(const QPalette& palette) {
+  return IsDark(palette) ? QColor(0x4A, 0x4F, 0x55) : QColor(0xC4, 0xC1, 0xBB);
 }
 
 QColor HintText(const QPalette& palette) {

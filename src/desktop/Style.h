@@ -4,6 +4,9 @@
 ///   "title"        the label at the top left that says what the screen is about
 ///   "hint"         a label in a quieter colour, for explanations
 ///   "heading"      a label over a group of boxes
+///   "section"      a larger heading, and
+///   "large"        larger text, on the screens that are read more than filled in: start, menu, help
+///   "display"      the program's name on the first screen
 ///   "amount"       a label or box that shows a figure: right-aligned
 ///   "panel"        a frame on its own ground: help panels and views beside a grid
 ///   "primary"      the button of the way forward, one per view
@@ -11,7 +14,8 @@
 ///
 /// All screens are built alike, top to bottom: a title row (title left), the form or grid, which takes the room that is
 /// left, and the row of actions: "Menu" at its left end, a spacer, the others, and the way forward at its right end.
-/// Layout margins and spacings aren't set in the forms: the style gives 16 around a window and 8 inside.
+/// The style gives a margin of 16 around a window and on a tab's page, 8 inside, and a spacing of 8; a group that has
+/// the room takes 16. Boxes and buttons are as high as the style makes them; sizes of text come from the looks.
 #pragma once
 
 class QApplication;
@@ -33,6 +37,8 @@ QColor HintText(const QPalette& palette);
 
 /// What marks the control in use and the button that stays pressed.
 QColor AccentColor(const QPalette& palette);
+/// The frames around groups and panels.
+QColor QuietEdgeColor(const QPalette& palette);
 /// The edges of boxes and indicators: at least 3 to 1 on their grounds.
 QColor EdgeColor(const QPalette& palette);
 
