@@ -2,11 +2,10 @@
 
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPainter>
-#include <QPainterPath>
 #include <QScopeGuard>
 
 #include "customers/StatesList.h"
+#include "desktop/Pictures.h"
 #include "shell/CommonDiskRoutines.h"
 #include "ui_frmNewCustomer.h"
 
@@ -159,25 +158,6 @@ void frmNewCustomer::changeEvent(QEvent* event) {
   }
 }
 
-/// A receiver, in the text colour of the palette in use.
 void frmNewCustomer::DrawTelephone() {
-  const int size = 22;
-  QPixmap picture(size * 2, size * 2);
-  picture.setDevicePixelRatio(2);
-  picture.fill(Qt::transparent);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(size / 2, size / 2);
-  painter.rotate(-45);
-  const QColor color = palette().color(QPalette::WindowText);
-  QPainterPath handle(QPointF(-7.5, 1));
-  handle.cubicTo(-6, -5.5, 6, -5.5, 7.5, 1);
-  painter.setPen(QPen(color, 3.5, Qt::SolidLine, Qt::RoundCap));
-  painter.drawPath(handle);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(color);
-  painter.drawRoundedRect(QRectF(-10.5, 0.5, 6, 4.5), 1.5, 1.5);
-  painter.drawRoundedRect(QRectF(4.5, 0.5, 6, 4.5), 1.5, 1.5);
-  painter.end();
-  m_ui->Image1_1->SetPicture(picture);
+  m_ui->Image1_1->SetPicture(DrawnPicture(Picture::Telephone, palette()));
 }

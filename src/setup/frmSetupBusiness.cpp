@@ -7,7 +7,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int FullWidth = 460;
+constexpr int FullWidth = 640;
 constexpr int CityWidth = 240;
 constexpr int StateWidth = 64;
 constexpr int UsaStateLimit = 2;
