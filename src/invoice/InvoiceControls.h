@@ -28,6 +28,7 @@ struct InvoiceControls {
     bool ck2ndTax = false;
     bool fraFlat = false;
     bool fraDiscount = false;
+    bool fraPrePaid = false;
   } Visible;
 
   bool txtInvoiceNoLocked = false;

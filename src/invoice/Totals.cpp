@@ -73,6 +73,7 @@ void FinalizeInvoice(WorkingInvoice& invoice, const TaxConfiguration& tax, const
   ComputeDiscount(invoice, settings);
   ComputeGrandTotal(invoice);
   invoice.Controls.Enabled.cmdInvoiceContinue = true;
+  invoice.Controls.Visible.fraPrePaid = invoice.ckPrepaid;
   if (!invoice.ckPrepaid) return;
   invoice.txtPrepaid = invoice.txtGrandTotal;
   invoice.cboPrepaid.clear();

@@ -135,6 +135,9 @@ class frmInvoice final : public Screen {
   void WireTerms();
   void WireCharges();
   void WireHelp();
+  void WirePrepaid();
+  void PickPaymentForm();
+  void CancelPrepaid();
   void cmdPrint();
   void LoadTaxHeadings();
   TermsDesk Terms();

@@ -48,6 +48,7 @@ void frmInvoice::Activate() {
   ArrangeAddressBoxes();
   LoadTaxHeadings();
   invoice.DraftPrint = false;
+  invoice.Controls.Visible.fraPrePaid = false;
   invoice.Controls.Enabled.cmdAddDiscount = true;
   invoice.Controls.Enabled.cmdInvoiceContinue = false;
   mnuSetup();

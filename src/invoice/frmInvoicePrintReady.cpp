@@ -18,11 +18,11 @@ TermsDesk frmInvoice::Terms() {
 
 void frmInvoice::WirePrintReady() {
   ui->fraShipping->hide();
-  ui->fraPrePaid->hide();
   ui->Label2_6->hide();
   WireTerms();
   WireCharges();
   WireHelp();
+  WirePrepaid();
   Click(
       ui->cmdPrint, [this] { cmdPrint(); }, WhenLeaveRefused::Dropped);
   Click(ui->cmdCancelPrint, [this] {
