@@ -33,6 +33,7 @@ frmInvoice::frmInvoice(ScreenHost& host, const InvoiceDesk& desk)
   WireLineEntry();
   WireGrid();
   WireMemo();
+  WireNarrative();
   WirePrintReady();
   WireFlow();
   WireSave();

@@ -129,6 +129,7 @@ class frmInvoice final : public Screen {
 
   void WireGrid();
   void WireMemo();
+  void WireNarrative();
 
   // Print-ready view.
   void WirePrintReady();

@@ -162,10 +162,3 @@ void frmInvoice::mnuMemo() {
   ui->fraMemo->show();
   m_invoice.Controls.Focus = u"txtMemo"_s;
 }
-
-void frmInvoice::mnuNarrative() {
-  HideFrames();
-  ShowInstructions(10);
-  ui->fraNarrative->show();
-  m_invoice.Controls.Focus = u"txtNarrative"_s;
-}
