@@ -28,7 +28,7 @@ class CustomerEditorTest : public QObject {
   void Type(Box box, const QString& text) { m_desk->View.SetText(box, text); }
   QString Text(Box box) { return m_desk->View.Text(box); }
   CustomerEditor& Editor() { return m_desk->Editor; }
-  QStringList Shown() { return m_desk->Boxes.TakeSeen(); }
+  QStringList Shown() { return m_desk->Boxes.Take(); }
   void Activate() {
     Editor().DecideAddressStyle();
     Editor().ApplyAccountType(u"Business"_s);
@@ -54,7 +54,7 @@ class CustomerEditorTest : public QObject {
 
   void withoutAFileTheFirstCustomerIsStarted() {
     Activate();
-    QCOMPARE(Shown(), QStringList{u"Create Customers|Your Customer File is Empty\nCreate your First Customer Now\n"
+    QCOMPARE(Shown(), QStringList{u"Create Customers: Your Customer File is Empty\nCreate your First Customer Now\n"
                                   "To create a Residential Account,\nclick the Toggle Acct Type Button\n"
                                   "Click Open Delivery Window to\nto create an automatic delivery"_s});
     QCOMPARE(Editor().CustomerCount(), 1);
@@ -186,7 +186,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(before);
     Type(Box::txtCustomer0, {});
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"No number|The Telephone Number cannot be blank"_s});
+    QCOMPARE(Shown(), QStringList{u"No number: The Telephone Number cannot be blank"_s});
     QVERIFY(!Editor().SaveAccepted());
     QCOMPARE(m_desk->View.Focus, u"box 6"_s);
     Type(Box::txtCustomer0, u"1"_s);
@@ -205,7 +205,7 @@ class CustomerEditorTest : public QObject {
     Type(Box::txtCustomer0, {});
     Type(Box::txtCustomer6, u" 555-1234 "_s);
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"Account not Entered|Telephone Number will be used as Acct No."_s});
+    QCOMPARE(Shown(), QStringList{u"Account not Entered: Telephone Number will be used as Acct No."_s});
     QCOMPARE(Text(Box::txtCustomer0), u"555-1234"_s);
     QVERIFY(Editor().SaveAccepted());
     QCOMPARE(Customers().mid(328, 20), "555-1234            ");
@@ -217,7 +217,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(before);
     Type(Box::txtCustomer1, {});
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"|The Account Name Cannot be Blank"_s});
+    QCOMPARE(Shown(), QStringList{u": The Account Name Cannot be Blank"_s});
     QVERIFY(!Editor().SaveAccepted());
     QCOMPARE(m_desk->View.Focus, u"box 1"_s);
     QCOMPARE(Customers(), before);
@@ -249,7 +249,7 @@ class CustomerEditorTest : public QObject {
     Type(Box::txtCustomer1, {});
     Type(Box::txtCustomer8, {});
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"|The Account Name Cannot be Blank"_s});
+    QCOMPARE(Shown(), QStringList{u": The Account Name Cannot be Blank"_s});
     QVERIFY(!Editor().SaveAccepted());
   }
 
@@ -264,7 +264,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(before);
     Type(static_cast<Box>(box), {});
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"|Enter Account 1st and Last Name"_s});
+    QCOMPARE(Shown(), QStringList{u": Enter Account 1st and Last Name"_s});
     QVERIFY(!Editor().SaveAccepted());
     QCOMPARE(m_desk->View.Focus, u"box 8"_s);
     QCOMPARE(Customers(), before);
@@ -284,7 +284,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(before);
     Type(Box::txtCustomer0, number);
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"Invalid Account Number|The Account Number \"%1\" cannot be used.\n"
+    QCOMPARE(Shown(), QStringList{u"Invalid Account Number: The Account Number \"%1\" cannot be used.\n"
                                   "It also names the files of this account, so it cannot %2.\n"
                                   "Nothing was saved: enter a different Number"_s.arg(number, cannot)});
     QVERIFY(!Editor().SaveAccepted());
@@ -382,7 +382,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(before);
     Type(Box::txtCustomer1, {});
     Editor().AddNewCustomer({});
-    QCOMPARE(Shown(), QStringList{u"|The Account Name Cannot be Blank"_s});
+    QCOMPARE(Shown(), QStringList{u": The Account Name Cannot be Blank"_s});
     QCOMPARE(Editor().CustomerPointer(), 2);
     QCOMPARE(Customers(), before);
   }
@@ -408,7 +408,7 @@ class CustomerEditorTest : public QObject {
     Editor().ToggleAccountType();
     QCOMPARE(Text(Box::lbLType), u"Business"_s);
     Editor().SaveCustomer();
-    QCOMPARE(Shown(), QStringList{u"|The Account Name Cannot be Blank"_s});
+    QCOMPARE(Shown(), QStringList{u": The Account Name Cannot be Blank"_s});
     QCOMPARE(Customers(), PersonRecord("1", "Ann", "Q", "Bell"));
   }
 
@@ -465,7 +465,7 @@ class CustomerEditorTest : public QObject {
     Editor().BeepOnError = true;
     Editor().PromptOnError = true;
     Editor().AddNewCustomer({});
-    QCOMPARE(Shown(), (QStringList{u"beep"_s, u"|Enter an Account Number"_s}));
+    QCOMPARE(Shown(), (QStringList{u"beep"_s, u": Enter an Account Number"_s}));
   }
 
   void aFullFileTakesNoMoreCustomers() {
@@ -577,7 +577,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(before);
     Type(Box::txtCustomer1, {});
     Editor().Navigate(2);
-    QCOMPARE(Shown(), QStringList{u"|The Account Name Cannot be Blank"_s});
+    QCOMPARE(Shown(), QStringList{u": The Account Name Cannot be Blank"_s});
     QCOMPARE(Text(Box::txtCustomer1), u"Name 2"_s);
     QCOMPARE(Customers(), before);
   }
@@ -587,7 +587,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(before);
     m_desk->Boxes.Answers = {false};
     Editor().DeleteCustomer();
-    QCOMPARE(Shown(), QStringList{u"|Delete this Customer"_s});
+    QCOMPARE(Shown(), QStringList{u"? Delete this Customer"_s});
     QCOMPARE(Customers(), before);
     QCOMPARE(m_desk->View.Focus, u"box 0"_s);
   }
@@ -667,7 +667,7 @@ class CustomerEditorTest : public QObject {
     Type(Box::txtCustomer0, u"2"_s);
     m_desk->Boxes.Answers = {false};
     Editor().LeaveAccountNo();
-    QCOMPARE(Shown(), QStringList{u"Duplicate Account Number|The Account Number is a duplicate\n"
+    QCOMPARE(Shown(), QStringList{u"Duplicate Account Number? The Account Number is a duplicate\n"
                                   "Click Yes to Replace it\nEnter a different Number"_s});
     QCOMPARE(Text(Box::txtCustomer0), u"2"_s);
     m_desk->Boxes.Answers = {true};
@@ -685,7 +685,7 @@ class CustomerEditorTest : public QObject {
     OpenWith(Many(1));
     Type(Box::txtCustomer1, u"A"_s);
     Editor().LeaveName();
-    QCOMPARE(Shown(), QStringList{u"No Name Entered|The Name Field Must be at least 2 Characters\n"
+    QCOMPARE(Shown(), QStringList{u"No Name Entered: The Name Field Must be at least 2 Characters\n"
                                   "This is okay if Cancelling a New Entry\nClick Cancel AddNew Again"_s});
     Type(Box::txtCustomer1, u"AB"_s);
     Editor().LeaveName();
@@ -776,7 +776,7 @@ class CustomerEditorTest : public QObject {
     const bool both = !phone.isEmpty() && !cell.isEmpty();
     if (both) m_desk->Boxes.Answers = {yes};
     QTEST(Editor().NumberToDial(), "number");
-    QCOMPARE(Shown(), both ? QStringList{u"Select Phone or Cell|Click YES to dial Phone,\nClick NO to dial Cell"_s}
+    QCOMPARE(Shown(), both ? QStringList{u"Select Phone or Cell? Click YES to dial Phone,\nClick NO to dial Cell"_s}
                            : QStringList());
   }
 

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Runs the demonstration on an X display with a window manager, in a folder that is gone afterwards.
 folder=$(mktemp -d)
-export QT_QPA_PLATFORM=xcb
+export QT_QPA_PLATFORM=xcb KARVEX_ON_DISPLAY=1
 # openbox runs the command once it manages the display.
 xvfb-run -a -s "-screen 0 1920x1080x24" sh -c '
   ready=$2/ready

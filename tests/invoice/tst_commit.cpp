@@ -292,9 +292,9 @@ class CommitTest : public QObject {
       }
       Invoice().ckPrepaid = true;
       m_desk->Boxes.Answers = {true};
-      m_desk->Device.BytesRead = 0;
+      m_desk->Device.Reset();
       Commit();
-      return m_desk->Device.BytesRead;
+      return m_desk->Device.BytesRead();
     };
     const qint64 empty = readBy(false);
     QCOMPARE(readBy(true), empty);

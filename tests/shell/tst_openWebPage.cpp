@@ -17,7 +17,7 @@ class OpenWebPageTest : public QObject {
     ScriptedDialogs dialogs;
     OpenWebPage(u"http://example.com/a?b=1"_s, folder.Disk, dialogs);
     QCOMPARE(folder.Bytes(u"/Temp.url"_s), "[InternetShortcut]\r\nURL = http://example.com/a?b=1\r\n");
-    QCOMPARE(dialogs.Seen, QStringList{u"page|http://example.com/a?b=1"_s});
+    QCOMPARE(dialogs.Said, QStringList{u"page|http://example.com/a?b=1"_s});
   }
 
   void theShortcutStaysAndIsRewrittenAtEachUse() {
@@ -35,7 +35,7 @@ class OpenWebPageTest : public QObject {
     ScriptedDialogs dialogs;
     folder.Device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
     QCOMPARE(ErrorOf([&] { OpenWebPage(u"/m.html"_s, folder.Disk, dialogs); }), 61);
-    QCOMPARE(dialogs.Seen, QStringList{});
+    QCOMPARE(dialogs.Said, QStringList{});
     QCOMPARE(folder.Files(), QStringList{});
   }
 };

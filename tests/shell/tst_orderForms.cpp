@@ -32,7 +32,7 @@ class OrderFormsTest : public QObject {
     DataFolder folder;
     ScriptedDialogs dialogs;
     RunOrderEntry(Entry(QString::fromLatin1(QTest::currentDataTag())), u"/program"_s, folder.Disk, dialogs);
-    QCOMPARE(dialogs.Seen, QStringList{u"page|/program/suppliers/"_s + page});
+    QCOMPARE(dialogs.Said, QStringList{u"page|/program/suppliers/"_s + page});
   }
 
   void theOthersAskFirstAndOpenOnYes_data() {
@@ -52,14 +52,14 @@ class OrderFormsTest : public QObject {
     dialogs.Answers = {false, true};
     const OrderEntry entry = Entry(QString::fromLatin1(QTest::currentDataTag()));
     RunOrderEntry(entry, u"/program"_s, folder.Disk, dialogs);
-    QStringList seen = dialogs.TakeSeen();
+    QStringList seen = dialogs.Take();
     QCOMPARE(seen.size(), 1);
-    QVERIFY2(seen[0].startsWith(caption + u'|'), qPrintable(seen[0]));
+    QVERIFY2(seen[0].startsWith(caption + u"? "_s), qPrintable(seen[0]));
     QVERIFY2(seen[0].endsWith(u"\nClick Yes to connect to a Supplier"_s), qPrintable(seen[0]));
     QVERIFY(folder.Files().isEmpty());
 
     RunOrderEntry(entry, u"/program"_s, folder.Disk, dialogs);
-    seen = dialogs.TakeSeen();
+    seen = dialogs.Take();
     QCOMPARE(seen.size(), 2);
     QCOMPARE(seen[1], u"page|/program/suppliers/"_s + page);
   }
@@ -69,7 +69,7 @@ class OrderFormsTest : public QObject {
     ScriptedDialogs dialogs;
     dialogs.Answers = {false};
     RunOrderEntry(Entry(u"mnuPPaper"_s), u"/program"_s, folder.Disk, dialogs);
-    QCOMPARE(dialogs.Seen, QStringList{u"Order Paper|Perforated Response Paper is used to create\n"
+    QCOMPARE(dialogs.Said, QStringList{u"Order Paper? Perforated Response Paper is used to create\n"
                                        "Invoices with a Remittance Slip\nClick Yes to connect to a Supplier"_s});
   }
 
@@ -89,7 +89,7 @@ class OrderFormsTest : public QObject {
     QCOMPARE(folder.Bytes(u"/Temp.url"_s), "[InternetShortcut]\r\nURL = /program/manual/index.html\r\n");
     OpenWebPage(u"http://a.example/"_s, folder.Disk, dialogs);
     QCOMPARE(folder.Bytes(u"/Temp.url"_s), "[InternetShortcut]\r\nURL = http://a.example/\r\n");
-    QCOMPARE(dialogs.Seen, (QStringList{u"page|/program/manual/index.html"_s, u"page|http://a.example/"_s}));
+    QCOMPARE(dialogs.Said, (QStringList{u"page|/program/manual/index.html"_s, u"page|http://a.example/"_s}));
   }
 
   void aPageDoesNotOpenWhenItsShortcutCannotBeWritten() {
@@ -97,7 +97,7 @@ class OrderFormsTest : public QObject {
     ScriptedDialogs dialogs;
     folder.Device.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
     QCOMPARE(ErrorOf([&] { OpenWebPage(u"http://a.example/"_s, folder.Disk, dialogs); }), ErrorNumber::DiskFull);
-    QVERIFY(dialogs.Seen.isEmpty());
+    QVERIFY(dialogs.Said.isEmpty());
     QVERIFY(folder.Files().isEmpty());
   }
 };

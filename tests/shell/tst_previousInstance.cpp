@@ -31,9 +31,9 @@ class PreviousInstanceTest : public QObject {
     PreviousInstance second(m_store, m_locks->Root(), m_root->Root());
     ScriptedDialogs dialogs;
     QVERIFY(CheckPreviousInstance(first, dialogs));
-    QCOMPARE(dialogs.Seen, QStringList{});
+    QCOMPARE(dialogs.Said, QStringList{});
     QVERIFY(!CheckPreviousInstance(second, dialogs));
-    QCOMPARE(dialogs.Seen, QStringList{u"|Karvex Invoicer is already Running!\nLook for it on the Task Bar"_s});
+    QCOMPARE(dialogs.Said, QStringList{u": Karvex Invoicer is already Running!\nLook for it on the Task Bar"_s});
     QCOMPARE(m_root->Everything(), (QMap<QString, QByteArray>{{u"/Phone.txt"_s, "x"}}));
   }
 

@@ -17,37 +17,6 @@ QByteArray Bytes(const QString& path) {
 
 }  // namespace
 
-void ScriptedDialogs::ShowMessage(const QString& text, const QString& title) {
-  if (OnBox) OnBox();
-  Said << title + u": "_s + text;
-}
-
-bool ScriptedDialogs::AskYesNo(const QString& text, const QString& title) {
-  if (OnBox) OnBox();
-  Said << title + u"? "_s + text;
-  if (Answers.isEmpty()) throw std::logic_error("a question nobody answers: " + text.toStdString());
-  return Answers.takeFirst();
-}
-
-QString ScriptedDialogs::ChooseFile(const QString&, const QString&) {
-  throw std::logic_error("a file dialog");
-}
-quint32 ScriptedDialogs::ChooseColor(quint32) {
-  throw std::logic_error("a colour dialog");
-}
-QString ScriptedDialogs::ChooseFont(const QString&) {
-  throw std::logic_error("a font dialog");
-}
-void ScriptedDialogs::OpenPage(const QString&) {
-  throw std::logic_error("a web page");
-}
-
-qint64 MeasuringDevice::Read(int descriptor, char* data, qint64 size, qint64 offset) {
-  const qint64 count = FailingDevice::Read(descriptor, data, size, offset);
-  BytesRead += std::max<qint64>(count, 0);
-  return count;
-}
-
 InvoiceFixture::InvoiceFixture()
     : Store(Device), Disk(Store, Root.path(), u"KarvexInvoicer"_s), Prices(Disk, Lists, SalesItems) {
   for (const auto& folder : {u"Backup"_s, u"Backup/KVActiveAccounts"_s, u"CompletedInvoices"_s, u"KVActiveAccounts"_s,

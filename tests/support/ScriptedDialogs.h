@@ -1,9 +1,10 @@
 /// The user's boxes, answered by a test: each box that comes up is noted, and a question that nobody prepared an answer
-/// for ends the test program.
+/// for throws.
 #pragma once
 
-#include <deque>
+#include <functional>
 #include <QStringList>
+#include <stdexcept>
 
 #include "runtime/Dialogs.h"
 #include "runtime/RuntimeError.h"
@@ -12,39 +13,46 @@ class ScriptedDialogs final : public Dialogs {
  public:
   static inline const QString Cancel = QStringLiteral("(cancel)");
 
-  /// What came up, in order: "title|text", "beep", "file", "color", "font", "page|address".
-  QStringList Seen;
-  std::deque<bool> Answers;    ///< To Yes/No boxes.
-  std::deque<QString> Chosen;  ///< In the dialogs: a path, a colour in decimal digits, a font; or `Cancel`.
+  /// What came up, in order: "title: text" of a message, "title? text" of a question, "beep", "file", "color", "font",
+  /// "page|address".
+  QStringList Said;
+  QList<bool> Answers;    ///< To Yes/No boxes.
+  QList<QString> Chosen;  ///< In the dialogs: a path, a colour in decimal digits, a font; or `Cancel`.
   QString LastFilter;
+  /// Runs at each message and question, before it is answered.
+  std::function<void()> OnBox;
 
-  QStringList TakeSeen() { return std::exchange(Seen, {}); }
+  /// What was said since the last call.
+  QStringList Take() { return std::exchange(Said, {}); }
 
-  void ShowMessage(const QString& text, const QString& title = {}) override { Note(title, text); }
+  void ShowMessage(const QString& text, const QString& title = {}) override {
+    Note(title + QStringLiteral(": ") + text);
+  }
   bool AskYesNo(const QString& text, const QString& title = {}) override {
-    Note(title, text);
+    Note(title + QStringLiteral("? ") + text);
     return Next(Answers);
   }
-  void Beep() override { Seen << QStringLiteral("beep"); }
+  void Beep() override { Said << QStringLiteral("beep"); }
   QString ChooseFile(const QString&, const QString& filter) override {
     LastFilter = filter;
     return Choose(QStringLiteral("file"));
   }
   quint32 ChooseColor(quint32) override { return Choose(QStringLiteral("color")).toUInt(); }
   QString ChooseFont(const QString&) override { return Choose(QStringLiteral("font")); }
-  void OpenPage(const QString& address) override { Seen << QStringLiteral("page|") + address; }
+  void OpenPage(const QString& address) override { Said << QStringLiteral("page|") + address; }
 
  private:
   template <typename Answer>
-  static Answer Next(std::deque<Answer>& queue) {
-    if (queue.empty()) qFatal("a box came up that the test has no answer for");
-    const Answer answer = queue.front();
-    queue.pop_front();
-    return answer;
+  static Answer Next(QList<Answer>& queue) {
+    if (queue.isEmpty()) throw std::logic_error("a box came up that the test has no answer for");
+    return queue.takeFirst();
   }
-  void Note(const QString& title, const QString& text) { Seen << title + QLatin1Char('|') + text; }
+  void Note(const QString& box) {
+    if (OnBox) OnBox();
+    Said << box;
+  }
   QString Choose(const QString& dialog) {
-    Seen << dialog;
+    Said << dialog;
     const QString chosen = Next(Chosen);
     if (chosen == Cancel) throw RuntimeError(ErrorNumber::DialogCancelled, {});
     return chosen;
