@@ -28,19 +28,7 @@ class Running {
   Program& operator*() { return m_program; }
 
  private:
-  Platform OnTree(const QString& tree) {
-    Platform platform;
-    platform.DataRoot = tree;
-    platform.EXEName = u"KarvexInvoicer"_s;
-    platform.ProgramFolder = tree;
-    platform.LockFolder = m_lock.path();
-    platform.Version = u"1.0.0"_s;
-    platform.Files = &m_files;
-    platform.Calendar = &m_clock;
-    platform.Boxes = &m_dialogs;
-    platform.Paper = &m_paper;
-    return platform;
-  }
+  Platform OnTree(const QString& tree) { return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper); }
 
   QTemporaryDir m_lock;
   FileDevice m_files;

@@ -56,17 +56,7 @@ int ShowFirstScreen(QApplication& application, const QString& root) {
   SystemClock clock;
   QtDialogs dialogs;
   PaperPrinter paper(store, dialogs, root);
-  Platform platform;
-  platform.DataRoot = root;
-  platform.EXEName = u"KarvexInvoicer"_s;
-  platform.ProgramFolder = root;
-  platform.LockFolder = root + u"-lock"_s;
-  platform.Version = u"1.0.0"_s;
-  platform.Files = &files;
-  platform.Calendar = &clock;
-  platform.Boxes = &dialogs;
-  platform.Paper = &paper;
-  Program program(platform);
+  Program program(PlatformOn(root, root + u"-lock"_s, files, clock, dialogs, paper));
   if (!program.Start()) return 1;
   LeaveAfterFirstPaint();
   return application.exec();

@@ -9,10 +9,26 @@
 #include "records/frmIncomplete.h"
 #include "records/PartialList.h"
 #include "setup/frmSetup.h"
+#include "shell/DataTree.h"
 #include "shell/ErrorText.h"
 #include "shell/frmSplash.h"
 #include "shell/frmStartup.h"
 #include "shell/KarvexMasterModule.h"
+
+Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
+                    Dialogs& boxes, Printer& paper) {
+  Platform platform;
+  platform.DataRoot = root;
+  platform.EXEName = QStringLiteral("KarvexInvoicer");
+  platform.ProgramFolder = root;
+  platform.LockFolder = lockFolder;
+  platform.Version = QStringLiteral(KARVEX_VERSION);
+  platform.Files = &files;
+  platform.Calendar = &calendar;
+  platform.Boxes = &boxes;
+  platform.Paper = &paper;
+  return platform;
+}
 
 Program::Program(const Platform& platform) : m_platform(platform), m_objects(std::make_unique<Objects>(m_platform)) {
   // The customer screen takes over the address style at once, also while it isn't built yet.
@@ -24,6 +40,8 @@ Program::Program(const Platform& platform) : m_platform(platform), m_objects(std
 }
 
 Program::~Program() {
+  // Before the first one goes: what a window's hiding sets off may look at the others.
+  HideAll();
   m_screens.clear();
 }
 
@@ -52,31 +70,46 @@ bool Program::Start() {
   return !m_ended;
 }
 
-std::unique_ptr<Screen> Program::Build(ScreenName screen) {
+Screen* Program::Build(ScreenName screen) {
+  if (Screen* built = Built(screen)) return built;
+  const Builder builder = BuilderOf(screen);
+  if (!builder) return nullptr;
+  return (m_screens[screen] = builder()).get();
+}
+
+Program::Builder Program::BuilderOf(ScreenName screen) {
   switch (screen) {
     case ScreenName::frmSplash:
-      return std::make_unique<frmSplash>(*this, *this, m_objects->Disk, m_platform.Version);
+      return [this] { return std::make_unique<frmSplash>(*this, *this, m_objects->Disk, m_platform.Version); };
     case ScreenName::frmStartup:
-      return std::make_unique<frmStartup>(*this, *this, MenuContext());
+      return [this] { return std::make_unique<frmStartup>(*this, *this, MenuContext()); };
     case ScreenName::frmSetup:
-      return std::make_unique<frmSetup>(*this, *this,
-                                        SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live,
-                                                     m_objects->Dialog, m_platform.ProgramFolder});
+      return [this] {
+        return std::make_unique<frmSetup>(*this, *this,
+                                          SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live,
+                                                       m_objects->Dialog, m_platform.ProgramFolder});
+      };
     case ScreenName::frmServices:
-      return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
+      return [this] { return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes); };
     case ScreenName::frmInvoice:
-      return BuildInvoice();
+      return [this] { return BuildInvoice(); };
     case ScreenName::frmNewCustomer:
-      return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
-                                              m_objects->Live.Business, m_objects->Customer);
+      return [this] {
+        return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
+                                                m_objects->Live.Business, m_objects->Customer);
+      };
     case ScreenName::frmBlanks:
-      return std::make_unique<frmBlanks>(*this, *this,
-                                         BlanksDesk{m_objects->Routines, m_objects->Pages, m_objects->Live.Print,
-                                                    *m_platform.Boxes, *m_platform.Calendar});
+      return [this] {
+        return std::make_unique<frmBlanks>(*this, *this,
+                                           BlanksDesk{m_objects->Routines, m_objects->Pages, m_objects->Live.Print,
+                                                      *m_platform.Boxes, *m_platform.Calendar});
+      };
     case ScreenName::frmIncomplete:
-      return std::make_unique<frmIncomplete>(
-          *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
-                             *m_platform.Calendar, *this, m_objects->Reports});
+      return [this] {
+        return std::make_unique<frmIncomplete>(
+            *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
+                               *m_platform.Calendar, *this, m_objects->Reports});
+      };
     default:
       return nullptr;
   }
@@ -97,10 +130,7 @@ MainMenuContext Program::MenuContext() {
             LoadPartialList(m_objects->Partials, m_objects->Disk);
             return m_objects->Partials.Count();
           },
-          [](ScreenName screen) {
-            return screen == ScreenName::frmNewCustomer || screen == ScreenName::frmServices ||
-                   screen == ScreenName::frmBlanks || screen == ScreenName::frmIncomplete;
-          }};
+          [this](ScreenName screen) { return BuilderOf(screen) != nullptr; }};
 }
 
 Screen* Program::Built(ScreenName screen) const {
@@ -109,19 +139,18 @@ Screen* Program::Built(ScreenName screen) const {
 }
 
 void Program::Show(ScreenName screen) {
-  std::unique_ptr<Screen>& slot = m_screens[screen];
-  if (!slot) slot = Build(screen);
-  if (!slot || slot->isVisible() || m_ended) return;
+  Screen* built = Build(screen);
+  if (built == nullptr || built->isVisible() || m_ended) return;
   // Without a partial invoice their screen hides at once: no window is left then, and the program lives on. Meant.
   if (screen == ScreenName::frmIncomplete && !LoadPartialList(m_objects->Partials, m_objects->Disk)) return;
-  slot->Activate();
-  Open(*slot);
+  built->Activate();
+  // The activation may have ended the program.
+  if (!m_ended) Open(*built);
 }
 
 void Program::Open(Screen& screen) {
   screen.show();
   screen.activateWindow();
-  screen.ApplyPendingFocus();
 }
 
 void Program::Hide(ScreenName screen) {
@@ -141,9 +170,7 @@ void Program::Unload(ScreenName screen) {
 }
 
 void Program::ShowSetupAtFirstTab() {
-  std::unique_ptr<Screen>& setup = m_screens[ScreenName::frmSetup];
-  if (!setup) setup = Build(ScreenName::frmSetup);
-  static_cast<frmSetup&>(*setup).ShowFirstTab();
+  static_cast<frmSetup&>(*Build(ScreenName::frmSetup)).ShowFirstTab();
   Show(ScreenName::frmSetup);
 }
 
@@ -186,11 +213,16 @@ void Program::KeepAWindow() {
   if (Screen* last = Built(m_lastHidden)) Open(*last);
 }
 
-void Program::EndProcess() {
-  m_ended = true;
+void Program::HideAll() {
   for (auto it = m_screens.rbegin(); it != m_screens.rend(); ++it) {
     if (it->second) it->second->hide();
   }
+}
+
+void Program::EndProcess() {
+  // The box that tells of an end runs events of its own, and one of them may be an end as well.
+  if (std::exchange(m_ended, true)) return;
+  HideAll();
   m_objects->Instance.Release();
   if (Ended) Ended();
 }

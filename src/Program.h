@@ -31,6 +31,11 @@ struct Platform {
   Printer* Paper = nullptr;
 };
 
+/// A platform on one folder, under the program's own name and version: what tests, benchmarks and the demonstration run
+/// on, and what `main` starts from.
+Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
+                    Dialogs& boxes, Printer& paper);
+
 class Program final : public Screens, public ScreenHost {
  public:
   explicit Program(const Platform& platform);
@@ -64,11 +69,17 @@ class Program final : public Screens, public ScreenHost {
  private:
   struct Objects;  ///< Every rules object, by folder.
 
+  using Builder = std::function<std::unique_ptr<Screen>()>;
+
   MainMenuContext MenuContext();
-  std::unique_ptr<Screen> Build(ScreenName screen);
+  /// How a screen is made; empty for one that the program doesn't have yet.
+  Builder BuilderOf(ScreenName screen);
+  /// Makes the screen if it isn't there; nullptr where it can't.
+  Screen* Build(ScreenName screen);
   std::unique_ptr<Screen> BuildInvoice();
   void Open(Screen& screen);
   void KeepAWindow();
+  void HideAll();
   void EndProcess();
 
   Platform m_platform;

@@ -25,23 +25,19 @@ int main(int argc, char* argv[]) {
   QtDialogs dialogs;
   PaperPrinter paper(store, dialogs, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   const QFileInfo programFile(QApplication::applicationFilePath());
-  Platform platform;
-  platform.EXEName = programFile.completeBaseName();
-  platform.ProgramFolder = programFile.absolutePath();
-  platform.LockFolder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-  platform.Version = QStringLiteral(KARVEX_VERSION);
-  platform.Files = &files;
-  platform.Calendar = &clock;
-  platform.Boxes = &dialogs;
-  platform.Paper = &paper;
+  QString root;
   try {
-    platform.DataRoot = ChooseDataRoot(files, platform.ProgramFolder,
-                                       QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    root = ChooseDataRoot(files, programFile.absolutePath(),
+                          QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
   } catch (const RuntimeError& error) {
     dialogs.ShowMessage(ErrorBoxText(error, true));
     return 1;
   }
 
+  Platform platform = PlatformOn(root, QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation), files,
+                                 clock, dialogs, paper);
+  platform.EXEName = programFile.completeBaseName();
+  platform.ProgramFolder = programFile.absolutePath();
   Program program(platform);
   program.Ended = &QApplication::quit;
   if (!program.Start()) return 0;

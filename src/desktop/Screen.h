@@ -36,8 +36,6 @@ class Screen : public QMainWindow {
 
   /// Runs each time the screen is shown, before its window appears.
   virtual void Activate() {}
-  /// The focus that the activation asked for is set once the window is visible. Showing the window does it.
-  void ApplyPendingFocus();
 
   /// Runs a handler under the guard: a RuntimeError goes to the host, and no later statement of the event runs.
   /// Answers whether the handler ran to its end.
@@ -109,6 +107,8 @@ class Screen : public QMainWindow {
  private:
   struct State;
   TypedText& Typed(QWidget* box);
+  /// Sets the focus that the activation asked for, now that the window is visible.
+  void ApplyPendingFocus();
 
   std::unique_ptr<State> m_state;
   ScreenHost& m_host;

@@ -56,17 +56,8 @@ void Demonstration::initTestCase() {
   m_store = std::make_unique<FileStore>(m_files);
   m_paper = std::make_unique<PaperPrinter>(*m_store, m_dialogs, m_folder + u"/pages"_s);
   m_answers = std::make_unique<QueuedAnswers>();
-  Platform platform;
-  platform.DataRoot = m_folder + u"/business"_s;
-  platform.EXEName = u"KarvexInvoicer"_s;
-  platform.ProgramFolder = platform.DataRoot;
-  platform.LockFolder = m_folder;
-  platform.Version = u"1.0.0"_s;
-  platform.Files = &m_files;
-  platform.Calendar = &m_clock;
-  platform.Boxes = &m_dialogs;
-  platform.Paper = m_paper.get();
-  m_program = std::make_unique<Program>(platform);
+  m_program =
+      std::make_unique<Program>(PlatformOn(m_folder + u"/business"_s, m_folder, m_files, m_clock, m_dialogs, *m_paper));
   QVERIFY(m_program->Start());
 }
 

@@ -15,16 +15,9 @@ ProgramFixture::~ProgramFixture() {
 }
 
 Platform ProgramFixture::OnThisTree() {
-  Platform platform;
-  platform.DataRoot = Tree.Root();
+  Platform platform = PlatformOn(Tree.Root(), m_lockFolder.Root(), Files, Calendar, Dialogs, Paper);
   platform.EXEName = EXEName;
-  platform.ProgramFolder = Tree.Root();
-  platform.LockFolder = m_lockFolder.Root();
   platform.Version = u"1.0.0"_s;
-  platform.Files = &Files;
-  platform.Calendar = &Calendar;
-  platform.Boxes = &Dialogs;
-  platform.Paper = &Paper;
   return platform;
 }
 
