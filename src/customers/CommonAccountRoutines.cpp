@@ -11,10 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int MaximumRecords = 32767;
-}
-
 QByteArray LedgerRecord::Bytes() const {
   return RecordBuilder(Length)
       .Text(0, 45, LedgerName)
@@ -79,11 +75,5 @@ void CommonAccountRoutines::WritePaymentRecord(const QString& account, const QSt
 }
 
 void CommonAccountRoutines::Append(const QString& file) {
-  const int count = m_disk.RecordCount(file, LedgerRecord::Length);
-  if (count == MaximumRecords) {
-    throw RuntimeError(ErrorNumber::Overflow, file, u"The file holds 32,767 records and takes no more."_s)
-        .WithAdvice(
-            u"Move it, and its copy in the Backup folder, elsewhere: the next entry starts a new one. Nothing was lost."_s);
-  }
-  m_disk.OpenRandomFile(file, LedgerRecord::Length).Put(count + 1, m_record.Bytes());
+  m_disk.AppendRecord(file, m_record.Bytes());
 }

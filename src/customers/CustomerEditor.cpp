@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int MaximumCustomers = 32767;
-
 /// The boxes that take one field each, both ways.
 struct BoxField {
   CustomerBox Box;
@@ -196,7 +194,7 @@ void CustomerEditor::CountStoredCustomers() {
 
 void CustomerEditor::RequireRoom() {
   CountStoredCustomers();
-  if (m_customerCount >= MaximumCustomers) {
+  if (m_customerCount >= RecordLimit) {
     throw RuntimeError(ErrorNumber::Overflow, u"/CustomerData.txt"_s,
                        u"The customer file is full: it holds 32,767 customers."_s)
         .WithAdvice(u"Delete one first. Nothing was lost."_s);

@@ -57,8 +57,9 @@ void ResetMisc(WorkingInvoice& invoice) {
 }
 
 void LeaveFlatDiscount(WorkingInvoice& invoice) {
-  if (!IsNumeric(invoice.txtFlatDiscount)) return;
-  invoice.txtFlatDiscount = CurrencyText(ToNumber(invoice.txtFlatDiscount));
+  const std::optional<QString> amount = CurrencyTextOf(invoice.txtFlatDiscount);
+  if (!amount) return;
+  invoice.txtFlatDiscount = *amount;
   invoice.Controls.Focus = u"cmdAddDiscount"_s;
 }
 

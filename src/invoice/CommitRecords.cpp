@@ -23,15 +23,6 @@ namespace {
 constexpr int SoldItemLength = 90;
 constexpr int SalesJournalLength = 125;
 constexpr int TaxRecordLength = 75;
-constexpr int MostRecords = 32767;
-
-void AppendRecord(CommonDiskRoutines& disk, const QString& name, const QByteArray& record) {
-  const auto length = static_cast<int>(record.size());
-  const int number = disk.RecordCount(name, length) + 1;
-  // One more would make the whole file unreadable.
-  if (number > MostRecords) throw RuntimeError(ErrorNumber::Overflow, name);
-  disk.OpenRandomFile(name, length).Put(number, record);
-}
 
 /// The quantity as the inventory takes it: through a single-precision number and its text to the nearest whole number.
 qint16 InventoryUnits(const QString& quantity) {
@@ -75,7 +66,7 @@ void WriteSalesJournal(const SalesJournalEntry& entry, CommonDiskRoutines& disk)
   record.Double(85, ToDayCount(entry.InvoiceDate));
   record.Amount(93, entry.SubTotal).Amount(101, entry.TaxTotal);
   record.Amount(109, entry.Discount).Amount(117, entry.GrandTotal);
-  AppendRecord(disk, u"/InvoiceSalesJournal.txt"_s, record.Record());
+  disk.AppendRecord(u"/InvoiceSalesJournal.txt"_s, record.Record());
 }
 
 void WriteSalesJournal(const WorkingInvoice& invoice, CommonDiskRoutines& disk, QDate today) {
@@ -109,7 +100,7 @@ void WriteTaxRecord(const QString& taxHeading, const QString& invoiceNo, QDate t
                     CommonDiskRoutines& disk) {
   RecordBuilder record(TaxRecordLength);
   record.Text(0, 20, taxHeading).Text(20, 15, ShortDateText(taxDate)).Text(35, 30, invoiceNo).Text(65, 10, taxAmount);
-  AppendRecord(disk, u"/TaxRecords.txt"_s, record.Record());
+  disk.AppendRecord(u"/TaxRecords.txt"_s, record.Record());
 }
 
 void WriteTaxRecords(const WorkingInvoice& invoice, const QString& heading1, const QString& heading2,

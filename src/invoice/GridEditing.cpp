@@ -75,7 +75,7 @@ void RecalculateRow(WorkingInvoice& invoice) {
   const double units = ToNumber(quantity, u"Quantity"_s);
   // The extension is taken from the price as it now reads, rounded to cents.
   const QString shownPrice = CurrencyText(unitPrice);
-  grid.SetText(row, LineColumn::Extension, CurrencyText(Currency::FromText(shownPrice).ToDouble() * units));
+  grid.SetText(row, LineColumn::Extension, ExtensionText(Currency::FromText(shownPrice), units));
   grid.SetText(row, LineColumn::UnitPrice, shownPrice);
 }
 

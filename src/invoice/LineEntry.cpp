@@ -63,7 +63,7 @@ std::optional<DraftLine> WithUnits(const LineEntryDesk& desk, int kind, DraftLin
     if (breakPrice) line.Price = *breakPrice;
     if (breakPrice && isItem) invoice.Controls.Visible.Label4_42 = true;
   }
-  line.Extension = CurrencyText(line.Price.ToDouble() * units);
+  line.Extension = ExtensionText(line.Price, units);
   return line;
 }
 
@@ -100,7 +100,7 @@ std::optional<DraftLine> DraftManual(const LineEntryDesk& desk) {
   line.Quantity = quantity;
   line.Description = description;
   line.Price = Currency::FromText(price, u"txtManual_1"_s);
-  line.Extension = CurrencyText(ParseLeadingNumber(quantity) * line.Price.ToDouble());
+  line.Extension = ExtensionText(line.Price, ParseLeadingNumber(quantity));
   return line;
 }
 

@@ -26,7 +26,7 @@ constexpr int Total = 4;
 }  // namespace Cell
 
 QString AmountText(const QString& amount) {
-  return IsNumeric(amount) ? CurrencyText(ToNumber(amount)) : amount;
+  return CurrencyTextOf(amount).value_or(amount);
 }
 }  // namespace
 

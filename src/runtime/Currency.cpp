@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "runtime/Numbers.h"
 #include "runtime/NumericText.h"
 #include "runtime/RuntimeError.h"
 
@@ -145,6 +146,15 @@ QString CurrencyText(double amount) {
   digits = digits.rightJustified(3, '0');
   const bool zero = digits.count('0') == digits.size();
   return Assemble(amount < 0 && !zero, digits.chopped(2), digits.last(2));
+}
+
+std::optional<QString> CurrencyTextOf(QStringView text) {
+  if (!IsNumeric(text)) return std::nullopt;
+  return CurrencyText(ToNumber(text));
+}
+
+QString ExtensionText(Currency price, double quantity) {
+  return CurrencyText(price.ToDouble() * quantity);
 }
 
 QString ZeroCurrencyText() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <compare>
+#include <optional>
 #include <QString>
 
 class Currency {
@@ -40,5 +41,11 @@ Currency PercentOf(Currency amount, double rate);
 QString CurrencyText(Currency amount);
 /// The same for a double, rounded half away from zero on its 15 significant digits: 3 * 33.335 reads `$100.01`.
 QString CurrencyText(double amount);
+/// The same of what a box or cell holds, as a double; nothing where that isn't numeric. Throws RuntimeError 6 on a
+/// number that is too large.
+std::optional<QString> CurrencyTextOf(QStringView text);
+/// What a line costs, as it reads: the double product of price and quantity, rounded to cents at once, as above. As a
+/// currency it would be rounded to four decimals first, and a cent could go another way.
+QString ExtensionText(Currency price, double quantity);
 /// The currency text of zero, `$0.00`, which many boxes compare with.
 QString ZeroCurrencyText();

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int recordLimit = 32767;
-
 /// What the record holds of the range; shorter, or empty, where the record ends before it.
 QByteArrayView Slice(QByteArrayView bytes, qsizetype offset, qsizetype width) {
   if (offset >= bytes.size()) return {};
@@ -101,7 +99,7 @@ QByteArrayView RecordBuffer::Bytes(qsizetype number) const {
 int RecordCountOf(qint64 fileLength, int recordLength, const QString& fileName) {
   // The default rounding mode: ties to even.
   const double count = std::nearbyint(static_cast<double>(fileLength) / recordLength);
-  if (fileLength > std::numeric_limits<qint32>::max() || count > recordLimit) {
+  if (fileLength > std::numeric_limits<qint32>::max() || count > RecordLimit) {
     throw RuntimeError(ErrorNumber::Overflow, fileName, RuntimeError::Origin::FileContent);
   }
   return static_cast<int>(count);

@@ -56,6 +56,9 @@ class RecordBuffer {
   qsizetype m_length;
 };
 
-/// File length divided by record length in double precision, to the nearest, ties to even. Above 32767 (the limit of
-/// every record file) throws RuntimeError 6 that names the file and counts as damage of it.
+/// How many records a file may hold: one more and it couldn't be counted, so nobody appends it.
+inline constexpr int RecordLimit = 32767;
+
+/// File length divided by record length in double precision, to the nearest, ties to even. Above `RecordLimit` throws
+/// RuntimeError 6 that names the file and counts as damage of it.
 int RecordCountOf(qint64 fileLength, int recordLength, const QString& fileName);

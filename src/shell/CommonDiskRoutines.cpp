@@ -110,6 +110,17 @@ RandomFile CommonDiskRoutines::OpenRandomFile(const QString& name, int recordLen
   return RandomFile(m_store, name, path, recordLength, created, NewOpenMark());
 }
 
+void CommonDiskRoutines::AppendRecord(const QString& name, const QByteArray& record) {
+  const auto length = static_cast<int>(record.size());
+  const int count = RecordCount(name, length);
+  if (count == RecordLimit) {
+    throw RuntimeError(ErrorNumber::Overflow, name, u"The file holds 32,767 records and takes no more."_s)
+        .WithAdvice(
+            u"Move it, and its copy in the Backup folder, elsewhere: the next entry starts a new one. Nothing was lost."_s);
+  }
+  OpenRandomFile(name, length).Put(count + 1, record);
+}
+
 void CommonDiskRoutines::CloseAllFiles() {
   for (const auto& mark : m_open) {
     if (const auto open = mark.lock()) *open = false;

@@ -50,8 +50,8 @@ int VerifyQuoteKey(int key, Dialogs& dialogs) {
 }
 
 bool VerifyCurrencyBox(QString& boxText, Dialogs& dialogs) {
-  if (IsNumeric(boxText)) {
-    boxText = CurrencyText(ToNumber(boxText));
+  if (const std::optional<QString> amount = CurrencyTextOf(boxText)) {
+    boxText = *amount;
     return true;
   }
   dialogs.Beep();

@@ -199,6 +199,23 @@ class CurrencyTest : public QObject {
     QCOMPARE(ErrorOf([] { CurrencyText(std::numeric_limits<double>::quiet_NaN()); }), 6);
   }
 
+  void anExtensionIsRoundedToCentsInOneStep() {
+    QCOMPARE(ExtensionText(Currency::FromUnits(333350), 3), u"$100.01"_s);
+    // 0.004995: at four decimals it would be half a cent.
+    QCOMPARE(ExtensionText(Currency::FromUnits(333), 0.15), u"$0.00"_s);
+    QCOMPARE(ExtensionText(Currency::FromUnits(25000), -2), u"($5.00)"_s);
+    QCOMPARE(ErrorOf([] { ExtensionText(Currency::FromUnits(10000), std::numeric_limits<double>::infinity()); }), 6);
+  }
+
+  void onlyWhatIsNumericHasACurrencyText() {
+    QCOMPARE(CurrencyTextOf(u" 1234.5 "), u"$1,234.50"_s);
+    QCOMPARE(CurrencyTextOf(u"($2)"), u"($2.00)"_s);
+    QCOMPARE(CurrencyTextOf(u"0.005"), u"$0.01"_s);
+    QCOMPARE(CurrencyTextOf(u""), std::nullopt);
+    QCOMPARE(CurrencyTextOf(u"2 Hrs"), std::nullopt);
+    QCOMPARE(ErrorOf([] { CurrencyTextOf(u"1E400"); }), 6);
+  }
+
   void theTextOfZeroIsWhatBoxesCompareWith() {
     QCOMPARE(ZeroCurrencyText(), u"$0.00"_s);
     QCOMPARE(CurrencyText(Currency()), ZeroCurrencyText());

@@ -55,6 +55,27 @@ class DiskRoutinesTest : public QObject {
 
   void aMissingFileWithoutBackupIsAbsent() { QVERIFY(!m_disk->FileExists(u"/Phone.txt"_s)); }
 
+  void aRecordIsAppendedBehindTheLastOne() {
+    m_disk->AppendRecord(u"/TaxRecords.txt"_s, "one");
+    m_disk->AppendRecord(u"/TaxRecords.txt"_s, "two");
+    QCOMPARE(Bytes(u"/TaxRecords.txt"_s), "onetwo");
+  }
+
+  void anAppendFetchesTheFileFromTheBackupFirst() {
+    Put(u"/Backup/TaxRecords.txt"_s, "one");
+    m_disk->AppendRecord(u"/TaxRecords.txt"_s, "two");
+    QCOMPARE(Bytes(u"/TaxRecords.txt"_s), "onetwo");
+  }
+
+  void aFullFileTakesNoMoreRecords() {
+    Put(u"/TaxRecords.txt"_s, QByteArray(32766, 'x'));
+    m_disk->AppendRecord(u"/TaxRecords.txt"_s, "y");
+    const RuntimeError full = CaughtFrom([&] { m_disk->AppendRecord(u"/TaxRecords.txt"_s, "z"); });
+    QCOMPARE(full.Number(), 6);
+    QCOMPARE(full.Subject(), u"/TaxRecords.txt"_s);
+    QCOMPARE(Bytes(u"/TaxRecords.txt"_s), QByteArray(32766, 'x') + 'y');
+  }
+
   void aRecordCountRoundsTiesToEven_data() {
     QTest::addColumn<int>("bytes");
     QTest::addColumn<int>("count");
