@@ -5,9 +5,10 @@
 #include <QByteArray>
 #include <QString>
 
-/// One method per system call that touches a file. All paths are absolute. A method answers 0 or a count on
-/// success and a negative errno (`-ENOSPC`) on failure; none throws.
-/// Nothing is written through a symbolic link: opening one to write is `-ELOOP`.
+/// One method per operation that opens, reads or changes a file or folder, mostly one system call; what only looks
+/// (whether a file is there, its length, a folder's names) is asked of the system directly, outside. All paths are
+/// absolute. A method answers 0 or a count on success and a negative errno (`-ENOSPC`) on failure; none throws. Nothing
+/// is written through a symbolic link: opening one to write is `-ELOOP`.
 class FileDevice {
  public:
   enum class OpenMode {

@@ -1,4 +1,5 @@
-/// The one reader and the one writer of the program. No other code opens, replaces, renames or deletes a file.
+/// The one reader and the one writer of the program. No other code opens, replaces, renames or deletes a file; folders
+/// are made here and, many under one parent, by `FolderMaker`.
 ///
 /// A file is never half written: what replaces a file is written beside it, checked to the last byte, flushed,
 /// renamed over the old one, and the folder is flushed. Every failure throws a RuntimeError that names the path:
