@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QUrl>
 
@@ -18,9 +19,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 int ShowBox(const QString& text, const QString& title, QMessageBox::StandardButtons buttons,
-            QMessageBox::StandardButton escape) {
+            QMessageBox::StandardButton escape, QMessageBox::Icon icon = QMessageBox::NoIcon) {
   const DialogOwner owner;
-  QMessageBox box(QMessageBox::NoIcon, title.isEmpty() ? u"Karvex Invoicer"_s : title, text, buttons, owner.Window());
+  QMessageBox box(icon, title.isEmpty() ? u"Karvex Invoicer"_s : title, text, buttons, owner.Window());
   box.setTextFormat(Qt::PlainText);
   box.setEscapeButton(escape);
   return box.exec();
@@ -50,6 +51,19 @@ void QtDialogs::ShowMessage(const QString& text, const QString& title) {
 
 bool QtDialogs::AskYesNo(const QString& text, const QString& title) {
   return ShowBox(text, title, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+bool QtDialogs::AskOkCancel(const QString& text, const QString& title) {
+  return ShowBox(text, title, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel, QMessageBox::Warning) ==
+         QMessageBox::Ok;
+}
+
+QString QtDialogs::AskText(const QString& prompt, const QString& title) {
+  const DialogOwner owner;
+  QInputDialog box(owner.Window());
+  box.setWindowTitle(title);
+  box.setLabelText(prompt);
+  return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
 void QtDialogs::Beep() {

@@ -7,6 +7,8 @@ class QtDialogs : public Dialogs {
  public:
   void ShowMessage(const QString& text, const QString& title = {}) override;
   bool AskYesNo(const QString& text, const QString& title = {}) override;
+  bool AskOkCancel(const QString& text, const QString& title = {}) override;
+  QString AskText(const QString& prompt, const QString& title) override;
   void Beep() override;
   QString ChooseFile(const QString& title, const QString& filter) override;
   quint32 ChooseColor(quint32 current) override;

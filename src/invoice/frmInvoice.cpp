@@ -34,6 +34,7 @@ frmInvoice::frmInvoice(ScreenHost& host, const InvoiceDesk& desk)
   WireGrid();
   WireMemo();
   WireNarrative();
+  WireTemplates();
   WirePrintReady();
   WireFlow();
   WireSave();

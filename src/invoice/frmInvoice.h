@@ -113,7 +113,6 @@ class frmInvoice final : public Screen {
   void WireNumber();
   void WireDates();
   void ArrangeAddressBoxes();
-  void LoadTemplateList();
 
   // Line entry.
   void WireLineEntry();
@@ -130,6 +129,11 @@ class frmInvoice final : public Screen {
   void WireGrid();
   void WireMemo();
   void WireNarrative();
+
+  // Templates.
+  void WireTemplates();
+  void RefreshTemplates();
+  void LoadTemplateList();
 
   // Print-ready view.
   void WirePrintReady();

@@ -1,4 +1,4 @@
-// The head of the invoice and its setup view: number, dates, reference, ship-to, templates.
+// The head of the invoice and its setup view: number, dates, reference, ship-to.
 #include <QGridLayout>
 
 #include "desktop/DateBox.h"
@@ -65,13 +65,4 @@ void frmInvoice::ArrangeAddressBoxes() {
   }
   rows->addWidget(ui->lblShipto_5, lastRow, usa ? 2 : 0);
   rows->addWidget(ui->txtShipto_5, lastRow, usa ? 3 : 1, 1, usa ? 1 : 3);
-}
-
-/// Shows the templates, if the folder holds any.
-void frmInvoice::LoadTemplateList() {
-  ui->flstInvoiceTemplates->clear();
-  ui->flstInvoiceTemplates->addItems(m_desk.Disk.ListFiles(u"\\KarvexInvoicer\\Templates\\Invoices"_s, u"*"_s));
-  ui->fraTemplates->setVisible(ui->flstInvoiceTemplates->count() > 0);
-  ui->cmdTemplate_0->setEnabled(false);
-  ui->cmdTemplate_1->setEnabled(false);
 }

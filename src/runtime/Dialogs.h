@@ -12,6 +12,10 @@ class Dialogs {
   virtual void ShowMessage(const QString& text, const QString& title = {}) = 0;
   /// A Yes/No box; true is Yes. Escape and the box's close button are No.
   virtual bool AskYesNo(const QString& text, const QString& title = {}) = 0;
+  /// A box with an exclamation mark, OK and Cancel, before something is lost; true is OK. Escape is Cancel.
+  virtual bool AskOkCancel(const QString& text, const QString& title = {}) = 0;
+  /// The input box: what was typed, empty after Cancel.
+  virtual QString AskText(const QString& prompt, const QString& title) = 0;
   virtual void Beep() = 0;
   /// The dialogs that a user can cancel throw RuntimeError 32755 then.
   /// `filter` in the platform's form, "Pictures |(*.bmp;*.jpg)|All|*.*": pairs of a label and its patterns.

@@ -14,6 +14,8 @@ class NotedDialogs final : public Dialogs {
   QStringList noted;
   void ShowMessage(const QString& text, const QString& title) override { noted << text + u" | "_s + title; }
   bool AskYesNo(const QString&, const QString&) override { return Unasked<bool>(); }
+  bool AskOkCancel(const QString&, const QString&) override { return Unasked<bool>(); }
+  QString AskText(const QString&, const QString&) override { return Unasked<QString>(); }
   void Beep() override { noted << u"beep"_s; }
   QString ChooseFile(const QString&, const QString&) override { return Unasked<QString>(); }
   quint32 ChooseColor(quint32) override { return Unasked<quint32>(); }

@@ -16,6 +16,12 @@ bool MessageRecorder::AskYesNo(const QString& text, const QString& title) {
   Messages.append(title + u"? "_s + text);
   return Answers.takeFirst();
 }
+bool MessageRecorder::AskOkCancel(const QString&, const QString&) {
+  throw std::logic_error("no question expected");
+}
+QString MessageRecorder::AskText(const QString&, const QString&) {
+  throw std::logic_error("no input box expected");
+}
 QString MessageRecorder::ChooseFile(const QString&, const QString&) {
   throw std::logic_error("no dialog expected");
 }

@@ -18,6 +18,7 @@ class ScriptedDialogs final : public Dialogs {
   QStringList Said;
   QList<bool> Answers;    ///< To Yes/No boxes.
   QList<QString> Chosen;  ///< In the dialogs: a path, a colour in decimal digits, a font; or `Cancel`.
+  QString Typed;  ///< Into the next input box.
   QString LastFilter;
   /// Runs at each message and question, before it is answered.
   std::function<void()> OnBox;
@@ -31,6 +32,11 @@ class ScriptedDialogs final : public Dialogs {
   bool AskYesNo(const QString& text, const QString& title = {}) override {
     Note(title + QStringLiteral("? ") + text);
     return Next(Answers);
+  }
+  bool AskOkCancel(const QString& text, const QString& title = {}) override { return AskYesNo(text, title); }
+  QString AskText(const QString& prompt, const QString& title) override {
+    Note(title + QStringLiteral("< ") + prompt);
+    return Typed;
   }
   void Beep() override { Said << QStringLiteral("beep"); }
   QString ChooseFile(const QString&, const QString& filter) override {
