@@ -22,6 +22,8 @@ class Agreeing final : public Dialogs {
  public:
   void ShowMessage(const QString&, const QString&) override {}
   bool AskYesNo(const QString&, const QString&) override { return true; }
+  bool AskOkCancel(const QString&, const QString&) override { return true; }
+  QString AskText(const QString&, const QString&) override { return {}; }
   void Beep() override {}
   QString ChooseFile(const QString&, const QString&) override { return {}; }
   quint32 ChooseColor(quint32 current) override { return current; }

@@ -12,6 +12,7 @@
 #include "runtime/Clock.h"
 #include "runtime/TextMatrix.h"
 #include "setup/LiveSettings.h"
+#include "shell/CommonDialog.h"
 #include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
@@ -67,7 +68,8 @@ void MeasurePage() {
   QtDialogs dialogs;
   SystemClock clock;
   PdfSurface surface;
-  PrinterRoutines routines(surface, live.Print);
+  CommonDialog dialog;
+  PrinterRoutines routines(surface, live.Print, dialog);
   KVPrint pages(routines, disk, dialogs, clock, {live.Business, live.Print, live.Tax});
 
   TextMatrix lines(u"^Quantity|<Description|^Date|>Price|>Total"_s, 26);
