@@ -2,6 +2,7 @@
 
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPainter>
@@ -71,6 +72,15 @@ void DrawQuietEdge(QPainter* painter, const QStyleOption& option) {
   painter->restore();
 }
 
+void DrawRing(QPainter* painter, const QRectF& rect, const QColor& color) {
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(QPen(color, FocusRing));
+  painter->drawRoundedRect(rect, 2, 2);
+  painter->restore();
+}
+
 /// A tab on the window's own ground like its page, the one in front open to it and under a bar.
 void DrawTab(QPainter* painter, const QStyleOptionTab& tab) {
   const bool inFront = tab.state.testFlag(QStyle::State_Selected);
@@ -92,18 +102,17 @@ void DrawTab(QPainter* painter, const QStyleOptionTab& tab) {
     painter->fillRect(QRect(rect.topLeft(), QSize(rect.width(), 3)), AccentColor(tab.palette));
   }
   painter->restore();
+  if (tab.state.testFlag(QStyle::State_HasFocus)) {
+    DrawRing(painter, QRectF(rect).adjusted(4, 6, -3, -3), AccentColor(tab.palette));
+  }
 }
 
 /// The button in use has a ring: the accent on a plain one, the colour of its caption on one that stands out.
 void DrawButtonFocus(QPainter* painter, const QStyleOption& option) {
   const bool plain = option.palette.color(QPalette::Button) == QGuiApplication::palette().color(QPalette::Button);
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setBrush(Qt::NoBrush);
-  painter->setPen(QPen(plain ? AccentColor(option.palette) : option.palette.color(QPalette::ButtonText), 2));
   const qreal inset = plain ? 1 : 3;
-  painter->drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), 2, 2);
-  painter->restore();
+  DrawRing(painter, QRectF(option.rect).adjusted(inset, inset, -inset, -inset),
+           plain ? AccentColor(option.palette) : option.palette.color(QPalette::ButtonText));
 }
 
 /// A button that stays pressed shows it by a bar as well as by its ground.
@@ -144,6 +153,9 @@ void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
                                 const QWidget* widget) const {
   if (element == PE_FrameTabWidget) {
     return DrawQuietEdge(painter, *option);
+  }
+  if (element == PE_FrameGroupBox) {
+    return DrawGroupEdge(painter, *option, widget);
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   switch (element) {
@@ -196,6 +208,17 @@ void FamilyStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
   }
 }
 
+/// On the ground of the window, below the title, where the toolkit has its own frame.
+void FamilyStyle::DrawGroupEdge(QPainter* painter, const QStyleOption& option, const QWidget* widget) const {
+  constexpr int Above = 3;
+  const auto* group = qobject_cast<const QGroupBox*>(widget);
+  const bool titled = group == nullptr || group->isCheckable() || !group->title().isEmpty();
+  const int title = qMax(pixelMetric(PM_IndicatorHeight, &option, widget), option.fontMetrics.height());
+  QStyleOption edge = option;
+  edge.rect.setTop(option.rect.top() + Above + (titled ? title : 0));
+  DrawQuietEdge(painter, edge);
+}
+
 /// Its title stands out from the labels inside. A font of the box itself would be inherited by all of them.
 void FamilyStyle::DrawGroup(QPainter* painter, const QStyleOptionGroupBox& group, const QWidget* widget) const {
   QFont font = painter->font();
@@ -233,6 +256,7 @@ QSize FamilyStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
         wanted.setWidth(size.width() + 2 * Spacing::Small);
       }
       [[fallthrough]];
+    case CT_TabBarTab:
     case CT_ComboBox:
     case CT_SpinBox:
       return wanted.expandedTo(QSize(0, Control));

@@ -28,5 +28,6 @@ class FamilyStyle : public QProxyStyle {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void DrawGroupEdge(QPainter* painter, const QStyleOption& option, const QWidget* widget) const;
   void DrawGroup(QPainter* painter, const QStyleOptionGroupBox& group, const QWidget* widget) const;
 };

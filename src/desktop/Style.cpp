@@ -69,7 +69,7 @@ QPalette DarkPalette() {
                     .ButtonText = 0xFFECEAE6,
                     .Highlight = 0xFF1F6F66,
                     .HighlightedText = 0xFFFFFFFF,
-                    .Disabled = 0xFFBBBEC2,
+                    .Disabled = 0xFFA9ADB2,
                     .Link = 0xFF7CC4EE,
                     .Placeholder = 0xFFA3A6AA});
 }

@@ -1,6 +1,7 @@
 // What holds for every screen of the family: it fits, it is named, and it can be used without a mouse.
 #include <QAccessible>
 
+#include "desktop/PictureButton.h"
 #include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -38,6 +39,31 @@ bool IsMenuEntry(const QAbstractButton* button) {
   const QObjectList places = tool->defaultAction()->associatedObjects();
   return std::any_of(places.begin(), places.end(),
                      [](const QObject* place) { return qobject_cast<const QMenu*>(place) != nullptr; });
+}
+
+/// Its text needs more room than it has.
+bool IsCut(const QWidget* widget) {
+  const auto* label = qobject_cast<const QLabel*>(widget);
+  const auto* button = qobject_cast<const QAbstractButton*>(widget);
+  if (label != nullptr && label->wordWrap()) return label->height() < label->heightForWidth(label->width());
+  if (label != nullptr) return !label->text().isEmpty() && label->width() < label->sizeHint().width();
+  if (button == nullptr || button->text().isEmpty() || dynamic_cast<const PictureButton*>(widget) != nullptr)
+    return false;
+  const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+  return button->width() < text.width() + 8 || button->height() < text.height() + 4;
+}
+
+/// Every page of every tab of the window is shown once.
+template <typename Look>
+void OnEachPage(QWidget* window, Look look) {
+  look();
+  for (QTabWidget* tabs : window->findChildren<QTabWidget*>()) {
+    for (int i = 0; i < tabs->count(); ++i) {
+      tabs->setCurrentIndex(i);
+      ScreenDriver::ProcessEvents();
+      look();
+    }
+  }
 }
 
 }  // namespace
@@ -80,6 +106,59 @@ class Family : public QObject {
     QVERIFY2(needed.width() <= 1016 && needed.height() <= 664,
              qPrintable(u"%1 x %2"_s.arg(needed.width()).arg(needed.height())));
     QCOMPARE(window->size(), QSize(1180, 760));
+  }
+
+  void noTextInSightIsCutOffInASmallWindow_data() { Rows(); }
+  void noTextInSightIsCutOffInASmallWindow() {
+    QFETCH(ScreenName, screen);
+    ProgramFixture program;
+    QWidget* window = Open(program, screen);
+    window->resize(1016, 664);
+    ScreenDriver::ProcessEvents();
+    QSet<QString> cut;
+    OnEachPage(window, [&] {
+      for (const QWidget* part : window->findChildren<QWidget*>()) {
+        if (part->isVisible() && IsCut(part)) cut.insert(part->objectName());
+      }
+    });
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.values().join(u", "_s)));
+  }
+
+  void boxesAndButtonsHaveOneHeight_data() { Rows(); }
+  void boxesAndButtonsHaveOneHeight() {
+    QFETCH(ScreenName, screen);
+    ProgramFixture program;
+    QWidget* window = Open(program, screen);
+    QMap<QString, int> others;
+    OnEachPage(window, [&] {
+      for (const QWidget* part : window->findChildren<QWidget*>()) {
+        if (dynamic_cast<const PictureButton*>(part) != nullptr) continue;
+        const bool counts = qobject_cast<const QLineEdit*>(part) != nullptr ||
+                            qobject_cast<const QComboBox*>(part) != nullptr ||
+                            qobject_cast<const QPushButton*>(part) != nullptr;
+        const bool inside = qobject_cast<const QComboBox*>(part->parentWidget()) != nullptr ||
+                            qobject_cast<const QAbstractSpinBox*>(part->parentWidget()) != nullptr;
+        if (part->isVisible() && counts && !inside && part->height() != 28)
+          others.insert(part->objectName(), part->height());
+      }
+    });
+    QStringList told;
+    for (auto it = others.cbegin(); it != others.cend(); ++it) told.append(u"%1 %2"_s.arg(it.key()).arg(it.value()));
+    QVERIFY2(told.isEmpty(), qPrintable(told.join(u", "_s)));
+  }
+
+  void theTitleStandsInTheUpperLeftCorner_data() { Rows(); }
+  void theTitleStandsInTheUpperLeftCorner() {
+    QFETCH(ScreenName, screen);
+    // The start-up screen is all title; the invoice is headed by its number and date.
+    if (screen == ScreenName::frmSplash || screen == ScreenName::frmInvoice) return;
+    ProgramFixture program;
+    auto* window = qobject_cast<QMainWindow*>(Open(program, screen));
+    QVERIFY(window != nullptr);
+    const ScreenDriver driver(window);
+    const auto* title = driver.Control<QLabel>(u"lblHeading"_s);
+    QCOMPARE(title->mapTo(window->centralWidget(), QPoint(0, 0)), QPoint(16, 16));
+    QCOMPARE(title->height(), 25);
   }
 
   void everyControlHasAnAccessibleName_data() { Rows(); }
