@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "catalogue/frmServices.h"
+#include "customers/frmCustomerSelection.h"
 #include "customers/frmNewCustomer.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
@@ -97,6 +98,11 @@ Program::Builder Program::BuilderOf(ScreenName screen) {
       return [this] {
         return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
                                                 m_objects->Live.Business, m_objects->Customer);
+      };
+    case ScreenName::frmCustomerSelection:
+      return [this] {
+        return std::make_unique<frmCustomerSelection>(*this, *this, m_objects->Proposals, m_objects->Disk,
+                                                      *m_platform.Boxes);
       };
     case ScreenName::frmBlanks:
       return [this] {

@@ -5,6 +5,7 @@
 #include "catalogue/CatalogueLists.h"
 #include "catalogue/SalesItemsList.h"
 #include "customers/CustomerOnScreen.h"
+#include "customers/ProposalList.h"
 #include "invoice/WorkingInvoice.h"
 #include "printing/KVPrint.h"
 #include "printing/PrinterRoutines.h"
@@ -36,6 +37,7 @@ struct Program::Objects {
   SalesItemsList SalesItems;
   Catalogue Prices;
   CustomerOnScreen Customer;
+  ProposalList Proposals;
   WorkingInvoice Invoice;
   PartialList Partials;
   CommonDialog Dialog;

@@ -89,10 +89,8 @@ void frmStartup::RunSelected() {
 ScreenName frmStartup::RoutineOf(int index) const {
   switch (index) {
     case 0:
-      return m_context.Disk.AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s) &&
-                     m_context.IsThere(ScreenName::frmCustomerSelection)
-                 ? ScreenName::frmCustomerSelection
-                 : ScreenName::frmNewCustomer;
+      return m_context.Disk.AnyFileMatches(u"\\KarvexProposals"_s, u"*.txt"_s) ? ScreenName::frmCustomerSelection
+                                                                               : ScreenName::frmNewCustomer;
     case 1:
       return ScreenName::frmIncomplete;
     case 2:

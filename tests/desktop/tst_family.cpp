@@ -14,6 +14,7 @@ const std::initializer_list<std::pair<ScreenName, const char*>> AllScreens{
     {ScreenName::frmSetup, "frmSetup"},
     {ScreenName::frmServices, "frmServices"},
     {ScreenName::frmNewCustomer, "frmNewCustomer"},
+    {ScreenName::frmCustomerSelection, "frmCustomerSelection"},
     {ScreenName::frmInvoice, "frmInvoice"},
     {ScreenName::frmBlanks, "frmBlanks"},
     {ScreenName::frmIncomplete, "frmIncomplete"}};
@@ -80,6 +81,9 @@ class Family : public QObject {
   static QWidget* Open(ProgramFixture& program, ScreenName screen) {
     // Without customers their screen says so at its first showing.
     if (screen == ScreenName::frmNewCustomer) program.Answers.Ok();
+    if (screen == ScreenName::frmCustomerSelection) {
+      program.Tree.Write(u"/KarvexProposals/a.txt"_s, "FP1,5,3/2/2026,7,Smith,1 Main Street,,Reno,NV,89501,555\r\n");
+    }
     // Without a partial invoice their screen doesn't come up.
     if (screen == ScreenName::frmIncomplete) {
       program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/20260001.txt"_s,

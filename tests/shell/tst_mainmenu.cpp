@@ -43,7 +43,7 @@ class MainMenu : public QObject {
   void aDamagedPartialInvoiceIsNamedAndNothingIsOverwritten();
   void theInvoiceReportHidesTheMenuAndOpensNothing();
   void aDoubleClickRunsAnOption();
-  void proposalsDoNotKeepInvoicesFromBeingMade();
+  void invoicesBeginWithTheProposalsWhereThereAreAny();
   void aRoutineThatIsNotThereYetLeavesTheMenu();
   void theLastPartialGoneTakesItsSelectionAlong();
   void aRestoreThatFailsAtTheMenuLeavesAWindow();
@@ -190,15 +190,21 @@ void MainMenu::aDoubleClickRunsAnOption() {
   QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
-void MainMenu::proposalsDoNotKeepInvoicesFromBeingMade() {
-  // The program doesn't have the selection screen yet: the customer screen opens, so that invoices can be made.
+void MainMenu::invoicesBeginWithTheProposalsWhereThereAreAny() {
   ProgramFixture program;
   program.Tree.Write(u"/Services.txt"_s, OneService);
-  program.Tree.Write(u"/KarvexProposals/a.txt"_s, "x");
+  program.Tree.Write(u"/KarvexProposals/a.txt"_s, "FP1,5,3/2/2026,7,Smith,1 Main Street,,Reno,NV,89501,555-0100\r\n");
   QVERIFY(program.StartAtMenu());
+  const ScreenDriver menu(u"frmStartup"_s);
+  menu.Click(u"cmdGoto"_s);
+  QVERIFY(ScreenDriver::IsShown(u"frmCustomerSelection"_s));
+  QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
+  ScreenDriver(u"frmCustomerSelection"_s).Click(u"cmdCreation_0"_s);
+  program.Tree.Remove(u"/KarvexProposals/a.txt"_s);
   program.Answers.Ok({}, u"Create Customers"_s);
-  ScreenDriver(u"frmStartup"_s).Click(u"cmdGoto"_s);
+  menu.Click(u"cmdGoto"_s);
   QVERIFY(ScreenDriver::IsShown(u"frmNewCustomer"_s));
+  QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
 void MainMenu::aRoutineThatIsNotThereYetLeavesTheMenu() {
