@@ -1,6 +1,6 @@
 // A whole day of a small business on the real screens, unattended: the first start, Setup, a catalogue, customers, and
-// two invoices, printed to PDF and recorded. Leaves the data tree, the PDFs and a picture of each screen in the folder
-// that the command line names.
+// three invoices, one of them for a proposal, printed to PDF and recorded. Leaves the data tree, the PDFs and a picture
+// of each screen in the folder that the command line names.
 
 #include <cstdio>
 
@@ -29,6 +29,7 @@ class Demonstration : public QObject {
   void twoCustomersAreEntered();
   void anInvoiceIsComposedPrintedAndRecorded();
   void aLongInvoiceGoesOnPerforatedPaper();
+  void aProposalBecomesAnInvoice();
   void theDayEnds();
 
  private:
@@ -288,6 +289,31 @@ void Demonstration::aLongInvoiceGoesOnPerforatedPaper() {
   invoice.Fill(u"txtFlatDiscount"_s, u"25"_s);
   invoice.Click(u"cmdAddDiscount"_s);
   FinishInvoice(invoice, u"long-invoice"_s);
+}
+
+void Demonstration::aProposalBecomesAnInvoice() {
+  // As the companion program would leave it.
+  const QByteArray proposal =
+      "\"FP-0012\",\"1890\",\"3/2/2026\",\"1003\",\"Lakeside Inn, Inc.\",\"9 Shore Road\",\"\",\"Mount Dora\","
+      "\"FL\",\"32757\",\"352-555-0164\"\r\n";
+  const QString file = m_folder + u"/business/KarvexProposals/Lakeside.txt"_s;
+  m_store->ReplaceWhole(file, proposal);
+  OpenRoutine(0);
+  const ScreenDriver selection(u"frmCustomerSelection"_s);
+  selection.Click(u"cmdStartup_1"_s);
+  Picture(selection, u"proposals"_s);
+  selection.SelectRow(u"fgProposals"_s, 1);
+  Picture(selection, u"proposal-chosen"_s);
+  selection.Click(u"cmdCreation_1"_s);
+  const ScreenDriver invoice(u"frmInvoice"_s);
+  QCOMPARE(invoice.Text(u"lblCustomer_0"_s), u"Lakeside Inn, Inc."_s);
+  Picture(invoice, u"proposal-invoice-setup"_s);
+  invoice.Click(u"cmdInvoice_0"_s);
+  invoice.Trigger(u"mnuServices"_s);
+  Post(invoice, 0, u"Irrigation tune-up"_s, {});
+  invoice.Click(u"cmdPrint"_s);
+  FinishInvoice(invoice, u"proposal-invoice"_s);
+  m_store->Remove(file);
 }
 
 void Demonstration::theDayEnds() {
