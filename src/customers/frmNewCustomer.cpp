@@ -71,11 +71,11 @@ void frmNewCustomer::ConnectButtons() {
   for (int i = 0; i < m_cmdNav.Size(); ++i) {
     OnClick(m_cmdNav[i], [this, i] { m_editor.Navigate(i); });
   }
-  OnClick(
-      m_cmdCustomer[0], [this] { LeaveScreen(false); }, WhenLeaveRefused::Always);
+  // A duplicate number that takes the focus back drops every click, the ways out too: the number is to be settled
+  // first.
+  OnClick(m_cmdCustomer[0], [this] { LeaveScreen(false); });
   OnClick(m_cmdCustomer[1], [this] { LeaveScreen(true); });
-  OnClick(
-      m_cmdCustomer[13], [this] { CancelAddNew(); }, WhenLeaveRefused::Always);
+  OnClick(m_cmdCustomer[13], [this] { CancelAddNew(); });
   OnClick(m_command1[0], [this] { m_editor.SaveCustomer(); });
   OnClick(m_command1[1], [this] { ToggleNameList(); });
   OnClick(m_ui->cmdAcctType, [this] { m_editor.ToggleAccountType(); });

@@ -156,11 +156,13 @@ class AccountRoutinesTest : public QObject {
     }
   }
 
-  void aLedgerThatAKillLeftEmptyIsOpenedByTheNextPosting() {
-    m_tree->Put(u"/KVActiveAccounts/7.txt"_s, "");
-    m_accounts->PostLedgerEntry(u"7"_s, u"A"_s, u"5"_s, u"x"_s, QDate(2026, 3, 7));
-    QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/7.txt"_s),
-             Entry("A", "7", "3/7/2026", "Previous Balance", "$0.00") + Entry("A", "7", "3/7/2026", "x", "5"));
+  void aLedgerThatAKillLeftWithoutARecordIsOpenedByTheNextPosting() {
+    for (const QByteArray& left : {QByteArray(""), QByteArray(77, 'A')}) {
+      m_tree->Put(u"/KVActiveAccounts/7.txt"_s, left);
+      m_accounts->PostLedgerEntry(u"7"_s, u"A"_s, u"5"_s, u"x"_s, QDate(2026, 3, 7));
+      QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/7.txt"_s),
+               Entry("A", "7", "3/7/2026", "Previous Balance", "$0.00") + Entry("A", "7", "3/7/2026", "x", "5"));
+    }
   }
 
   void aFullLedgerTakesNoMoreRecords() {

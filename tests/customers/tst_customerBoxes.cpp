@@ -70,6 +70,29 @@ class CustomerBoxesTest : public QObject {
     QCOMPARE(desk.Focus(), box);
   }
 
+  void theDoubleQuoteIsRefusedInAPersonsNameAndInternationalLinesToo_data() {
+    QTest::addColumn<QString>("box");
+    for (const auto* name : {"txtCustomer_8", "txtCustomer_9", "txtCustomer_10", "cboTitle", "txtAdd3", "txtAdd4"}) {
+      QTest::newRow(name) << QString::fromLatin1(name);
+    }
+  }
+  void theDoubleQuoteIsRefusedInAPersonsNameAndInternationalLinesToo() {
+    QFETCH(QString, box);
+    CustomerDesk desk(PersonRecord("1", "Ann", "Q", "Bell"));
+    desk.Program.Tree.Write(u"/MyBusinessData.txt"_s, "\"Orange Grove\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n");
+    desk.Open();
+    // Empty, so that a box of one character has room for the quote.
+    desk.Fill(box, QString());
+    desk.Program.Answers.Ok(u"This character, (\") is invalid for this field"_s, u"Invalid Key entry"_s);
+    desk.Driver().Type(u"\""_s);
+    QCOMPARE(desk.Text(box), QString());
+    QCOMPARE(desk.Program.Dialogs.Beeps, 1);
+    QCOMPARE(desk.Focus(), box);
+    desk.Driver().Paste(u"\"x"_s);
+    QCOMPARE(desk.Text(box), u"x"_s);
+    QCOMPARE(desk.BoxesShown(), 1);
+  }
+
   void whatAFileNameCannotHoldIsRefusedInANumberOfLetters() {
     CustomerDesk desk(CustomerDesk::Many(1));
     desk.Open();
@@ -156,16 +179,40 @@ class CustomerBoxesTest : public QObject {
     QCOMPARE(desk.Customers().mid(0, 20), "2                   ");
   }
 
-  void menuRunsEvenWhereTheDuplicateTookTheFocusBack() {
+  void aDuplicateNumberThatIsReplacedKeepsTheScreenFromTheMenu() {
     CustomerDesk desk(CustomerDesk::Many(2));
     desk.Open();
     desk.Fill(u"txtCustomer_6"_s, u"555-0100"_s);
     desk.Fill(u"txtCustomer_0"_s, u"2"_s);
     desk.Program.Answers.Yes({}, u"Duplicate Account Number"_s);
+    desk.Click(u"cmdCustomer_0"_s);
+    QVERIFY(desk.Shown());
+    QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
+    QCOMPARE(desk.Box(0), QString());
+    QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
+    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
     desk.Program.Answers.Ok(u"Telephone Number will be used as Acct No."_s, u"Account not Entered"_s);
     desk.Click(u"cmdCustomer_0"_s);
-    QVERIFY(!desk.Shown());
+    QVERIFY2(!desk.Shown(), "the next click runs");
     QCOMPARE(desk.Customers().mid(0, 20), "555-0100            ");
+  }
+
+  void aDuplicateNumberThatIsReplacedKeepsTheNewRecordFromBeingCancelled() {
+    CustomerDesk desk(CustomerDesk::Many(2));
+    desk.Open();
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    desk.Fill(u"txtCustomer_1"_s, u"Newcomer"_s);
+    desk.Fill(u"txtCustomer_0"_s, u"2"_s);
+    desk.Program.Answers.Yes({}, u"Duplicate Account Number"_s);
+    desk.Click(u"cmdCustomer_13"_s);
+    QVERIFY(desk.Sees(u"cmdCustomer_13"_s));
+    QCOMPARE(desk.Box(0), QString());
+    QCOMPARE(desk.Box(1), u"Newcomer"_s);
+    QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
+    desk.Click(u"cmdCustomer_13"_s);
+    QVERIFY2(!desk.Sees(u"cmdCustomer_13"_s), "the next click runs");
+    QCOMPARE(desk.Box(1), u"Name 2"_s);
+    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
   }
 
   void theCustomersOwnNumberIsNoDuplicate() {
