@@ -71,6 +71,7 @@ class ScreenCommit : public QObject {
   void withoutACustomerOnTheScreenTheEmptyAccountIsPosted();
   void printIsDisabledWhileItRuns();
   void theShipToBlockPrintsOnlyWhenTicked();
+  void aPickedShipDateStandsInImageAndOnPage();
   void anInternationalCustomerPrintsWithoutAState();
   void aChargeTypedAfterFinalizeLetsNothingPrint();
   void soldItemsBearTheHeldNumberAndTheRestTheTypedOne();
@@ -347,6 +348,31 @@ void ScreenCommit::theShipToBlockPrintsOnlyWhenTicked() {
     Commit(bench);
     QCOMPARE(bench.Paper.Words(1).contains(u"SHIPPED TO:"_s), ticked);
   }
+}
+
+void ScreenCommit::aPickedShipDateStandsInImageAndOnPage() {
+  InvoiceBench bench;
+  OpenFinalized(bench);
+  bench.On().Trigger(u"mnuSetup"_s);
+  bench.On().Click(u"ckShipto"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  bench.On().Click(u"cmdInvoice_6"_s);
+  bench.On().PickEntry(u"cboShipping"_s, u"UPS - Ground"_s);
+  bench.On().Control(u"DTShip"_s)->setFocus(Qt::TabFocusReason);
+  bench.On().Type(u"3/19/2026"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  Commit(bench);
+  QCOMPARE(bench.Tree.Bytes(Image),
+           "20260001\r\n1001\r\nAcme Tools\r\n3/7/2026\r\n$131.02\r\n"
+           "\"Acme Tools\"\r\n\"1 Main Street\"\r\n\"\"\r\n\"Springfield\"\r\n\"IL\"\r\n\"62701\"\r\n"
+           "\"Acme Tools\"\r\n\"1 Main Street\"\r\n\"\"\r\n\"Springfield\"\r\n\"IL\"\r\n\"62701\"\r\n"
+           "UPS - Ground\r\n3/19/2026\r\n"
+           "20260001\r\n1001\r\nPO 5\r\nMs Jones\r\n2\r\n"
+           "3\r\nHammer\r\n\r\n$12.00\r\n$36.00\r\nTrue\r\n"
+           "\r\nRepair\r\n3/7/2026\r\n$80.00\r\n$80.00\r\nFalse\r\n"
+           "\"$116.00\",\"$2.16\",\"$0.36\",\"$131.02\",\"$12.50\",\"$0.00\",\"$0.00\"\r\n");
+  QVERIFY(bench.Paper.Words(1).contains(u"UPS - Ground"_s));
+  QVERIFY2(bench.Paper.Words(1).contains(u"Sheduled - 3/19/2026"_s), qPrintable(bench.Paper.Words(1).join(u'|')));
 }
 
 void ScreenCommit::anInternationalCustomerPrintsWithoutAState() {

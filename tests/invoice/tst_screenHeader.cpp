@@ -42,6 +42,7 @@ class ScreenHeader : public QObject {
   void aLaterDateBeepsAndIsForTheNextServiceOnly();
   void aPickedDateGoesToTheSelectedLineWithAQuantity();
   void aServiceLineKeepsItsDate();
+  void aShipDateIsHeldAsItIsPickedOrTyped();
   void clearLineDateBlanksTheDateOfTheCurrentLine();
   void leavingAnEmptyReferenceFillsIt();
   void theShipToAddressIsCopiedAndCleared();
@@ -52,6 +53,7 @@ class ScreenHeader : public QObject {
   void pickedTermsSetTheDiscount_data();
   void pickedTermsSetTheDiscount();
   void theTermsAreSavedAsOnePlainLine();
+  void typedTermsAreSavedAsTheyWereTyped();
   void theCarrierComesFromItsFileAndIsSaved();
   void aTypedCarrierIsKept();
   void withoutAMemoFileTheMemoIsEmptyAndItsTickHidden();
@@ -236,6 +238,27 @@ void ScreenHeader::aServiceLineKeepsItsDate() {
   QCOMPARE(bench.Dialogs.Beeps, 0);
 }
 
+void ScreenHeader::aShipDateIsHeldAsItIsPickedOrTyped() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().SelectRow(u"fgInvoice"_s, 1);
+  bench.On().Trigger(u"mnuPrint"_s);
+  bench.On().Click(u"cmdInvoice_6"_s);
+  QDateEdit* box = Date(bench, u"DTShip"_s);
+  box->setFocus(Qt::TabFocusReason);
+  bench.On().PressKey(Qt::Key_Up);  // A month later, counted at once.
+  QCOMPARE(bench.Invoice.DTShip, QDate(2026, 4, 7));
+  bench.On().Type(u"3/19/2026"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Invoice.DTShip, QDate(2026, 3, 19));
+  QCOMPARE(box->date(), QDate(2026, 3, 19));
+  // The service date is another: no later date is complained of, and no line gets one.
+  QCOMPARE(bench.Invoice.DTPicker1, QDate(2026, 3, 7));
+  QCOMPARE(bench.Row(1)[2], QString());
+  QCOMPARE(bench.Dialogs.Beeps, 0);
+}
+
 void ScreenHeader::clearLineDateBlanksTheDateOfTheCurrentLine() {
   InvoiceBench bench;
   bench.OpenAtLines();
@@ -358,6 +381,16 @@ void ScreenHeader::theTermsAreSavedAsOnePlainLine() {
   bench.On().Click(u"cmdReadyPrint_0"_s);
   QCOMPARE(bench.Tree.Bytes(u"/StatementTerms.txt"_s), "Discount 1% in 10 days, Net 20 days\r\n");
   QVERIFY(!bench.Tree.Exists(u"/Backup/StatementTerms.txt"_s));
+}
+
+void ScreenHeader::typedTermsAreSavedAsTheyWereTyped() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.On().Trigger(u"mnuPrint"_s);
+  bench.On().Fill(u"cboTerms"_s, u"Net 7, cash"_s);
+  bench.On().Click(u"cmdReadyPrint_0"_s);
+  QCOMPARE(bench.Tree.Bytes(u"/StatementTerms.txt"_s), "Net 7, cash\r\n");
+  QCOMPARE(bench.Text(u"cboTerms"_s), u"Net 7, cash"_s);
 }
 
 void ScreenHeader::theCarrierComesFromItsFileAndIsSaved() {
