@@ -51,6 +51,9 @@ class CommitRecordsTest : public QObject {
     m_desk.emplace();
     Invoice().txtInvoiceNo = u" 20260001 "_s;
     Invoice().InvoiceNo = 20260001;
+    // Everything is recorded on the day of the commit, whatever dates the invoice bears.
+    Invoice().DTPicker1 = Invoice().InvoiceDate = QDate(2026, 1, 2);
+    Invoice().DTShip = QDate(2026, 5, 6);
     Invoice().lblAcct = u"1001"_s;
     Invoice().lblCustomer[0] = u"not this one"_s;
     Invoice().lblCustomer[6] = u"Bay Farm"_s;

@@ -40,6 +40,16 @@ class LaborEntryTest : public QObject {
     QVERIFY(Invoice().Controls.Enabled.mnuLabor);
   }
 
+  void aRateStandsAsItsTextInHeadingAndLine() {
+    m_desk->Prices.Labor = {{u"General Labor"_s, u""_s, u""_s}, {u"45"_s, u"$0.00"_s, u"$0.00"_s}};
+    Load();
+    QCOMPARE(Boxes().lblLaborHeading[0], u"General Labor at 45 per Hour"_s);
+    Enter(0, u"2"_s);
+    SumLabor(Invoice());
+    Post();
+    QCOMPARE(m_desk->Row(1), QStringList({u"2 Hrs"_s, u"General Labor"_s, u""_s, u"45"_s, u"$90.00"_s, u"False"_s}));
+  }
+
   void withoutAnyRateTheLaborEntryIsDisabledAndComesBackWithOne() {
     m_desk->Prices.Labor = {{u"General Labor"_s, u""_s, u""_s}, {u"$0.00"_s, u"$0.00"_s, u"$0.00"_s}};
     Load();

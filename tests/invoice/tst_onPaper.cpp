@@ -38,6 +38,7 @@ class OnPaperTest : public QObject {
     for (size_t i = 0; i < 7; ++i) invoice.txtShipto[i] = u" to %1 "_s.arg(i);
     invoice.cboShipping = u"None"_s;
     invoice.DTShip = QDate(2026, 12, 1);
+    invoice.DTPicker1 = invoice.InvoiceDate = QDate(2026, 1, 2);
     invoice.ckShipto = true;
     m_desk->AddLine({u"1"_s, u"Rope"_s});
     const InvoicePage page = PageOf(invoice, false, m_desk->Now.Today());

@@ -72,6 +72,7 @@ class ScreenCommit : public QObject {
   void printIsDisabledWhileItRuns();
   void theShipToBlockPrintsOnlyWhenTicked();
   void aPickedShipDateStandsInImageAndOnPage();
+  void theMemoPrintsAsLongAsItsFileStandsWhateverItsTick();
   void anInternationalCustomerPrintsWithoutAState();
   void aChargeTypedAfterFinalizeLetsNothingPrint();
   void soldItemsBearTheHeldNumberAndTheRestTheTypedOne();
@@ -373,6 +374,25 @@ void ScreenCommit::aPickedShipDateStandsInImageAndOnPage() {
            "\"$116.00\",\"$2.16\",\"$0.36\",\"$131.02\",\"$12.50\",\"$0.00\",\"$0.00\"\r\n");
   QVERIFY(bench.Paper.Words(1).contains(u"UPS - Ground"_s));
   QVERIFY2(bench.Paper.Words(1).contains(u"Sheduled - 3/19/2026"_s), qPrintable(bench.Paper.Words(1).join(u'|')));
+}
+
+void ScreenCommit::theMemoPrintsAsLongAsItsFileStandsWhateverItsTick() {
+  InvoiceBench bench;
+  bench.Tree.Write(u"/InvoiceMemo.txt"_s, "Closed on Mondays\r\n");
+  bench.OpenAtLines();
+  bench.On().Trigger(u"mnuMemo"_s);
+  bench.On().Click(u"ckAddMemo"_s);
+  for (const int job : {1, 2}) {
+    // The tick goes with the invoice that it was set for: the second one begins without it.
+    QVERIFY(!bench.Ticked(u"ckAddMemo"_s));
+    bench.PostManual(u"Rope"_s, u"1"_s, u"4"_s);
+    bench.Finalize();
+    Commit(bench);
+    QCOMPARE(bench.Paper.Jobs.size(), static_cast<std::size_t>(job));
+    QVERIFY(bench.Paper.Words(1).contains(u"Closed on Mondays"_s));
+    bench.Reopen();
+    bench.On().Click(u"cmdInvoice_0"_s);
+  }
 }
 
 void ScreenCommit::anInternationalCustomerPrintsWithoutAState() {

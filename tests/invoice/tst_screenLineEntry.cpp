@@ -32,6 +32,8 @@ class ScreenLineEntry : public QObject {
  private Q_SLOTS:
   void aServiceIsPostedWithItsPriceAndDate();
   void aServicePriceMayBeTyped();
+  void aPricePickedFromItsListIsTheOnePosted();
+  void theBreakFollowsThePickedPrice();
   void anItemIsPostedWithUnitsAndTheNextStartsFromTheHead();
   void aCustomItemTakesItsOwnPriceThoughItsListIsSorted();
   void aManualLineIsPostedAndItsBoxesAreCleared();
@@ -80,6 +82,34 @@ void ScreenLineEntry::aServicePriceMayBeTyped() {
   bench.On().Fill(u"cboPrice_0"_s, u"75.5"_s);
   bench.On().Click(u"cmdPost_0"_s);
   QCOMPARE(bench.Row(1), (QStringList{QString(), u"Repair"_s, u"3/7/2026"_s, u"$75.50"_s, u"$75.50"_s, u"False"_s}));
+}
+
+void ScreenLineEntry::aPricePickedFromItsListIsTheOnePosted() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuItems"_s);
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
+  bench.On().Fill(u"txtUnits"_s, u"2"_s);
+  QCOMPARE(bench.Text(u"cboPrice_1"_s), u"$33.34"_s);
+  bench.On().Click(u"cmdPost_1"_s);
+  QCOMPARE(bench.Row(1), (QStringList{u"2"_s, u"Hammer"_s, QString(), u"$33.34"_s, u"$66.68"_s, u"True"_s}));
+}
+
+void ScreenLineEntry::theBreakFollowsThePickedPrice() {
+  InvoiceBench bench;
+  OpenAt(bench, u"mnuItems"_s);
+  bench.On().Click(u"ckApplyVolumeDiscount"_s);
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
+  // Enough for the hammers' break of 5, not for the paint's of 10, whose price this is.
+  bench.On().Fill(u"txtUnits"_s, u"9"_s);
+  bench.On().Click(u"cmdPost_1"_s);
+  QCOMPARE(bench.Row(1), (QStringList{u"9"_s, u"Hammer"_s, QString(), u"$33.34"_s, u"$300.06"_s, u"True"_s}));
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
+  bench.On().Fill(u"txtUnits"_s, u"10"_s);
+  bench.On().Click(u"cmdPost_1"_s);
+  QCOMPARE(bench.Row(2), (QStringList{u"10"_s, u"Hammer"_s, QString(), u"$30.00"_s, u"$300.00"_s, u"True"_s}));
 }
 
 void ScreenLineEntry::anItemIsPostedWithUnitsAndTheNextStartsFromTheHead() {

@@ -108,6 +108,15 @@ void PartialRoundTrip::parkedQuitRecalledAndFinished() {
   QCOMPARE(program.Tree.List(u"/CompletedInvoices"_s), QStringList{u"20260017.txt"_s});
   QVERIFY(program.Tree.Bytes(u"/CompletedInvoices/20260017.txt"_s)
               .startsWith("20260017\r\n1001\r\nAcme Tools\r\n3/9/2026\r\n$38.16\r\n"));
+  // Everything is booked on the day that it is finished, not on that of its save.
+  const QByteArray finished = QByteArray::fromHex("000000004081e640");  // 46090 days since 30 December 1899
+  QCOMPARE(program.Tree.Bytes(u"/SoldItems.txt"_s), Field("Hammer", 60) + finished + Field("20260017", 20) +
+                                                        Bytes16(2) + Field("Hammer", 60) + finished +
+                                                        Field("20260017", 20) + Bytes16(1));
+  QCOMPARE(program.Tree.Bytes(u"/InvoiceSalesJournal.txt"_s).mid(85, 8), finished);
+  QCOMPARE(program.Tree.Bytes(u"/TaxRecords.txt"_s).left(35), Field("Sales Tax", 20) + Field("3/9/2026", 15));
+  const QStringList words = program.Paper.Words(1);
+  QVERIFY2(words.contains(u"Date 3/9/2026"_s), qPrintable(words.join(u'|')));
   // Counted once, when it was saved.
   QCOMPARE(program.Tree.Bytes(u"/KVInvoiceNo.txt"_s), "20260018\r\n");
   QVERIFY(!ScreenDriver(u"frmStartup"_s).IsVisible(u"optMainMenuSub_1"_s));
