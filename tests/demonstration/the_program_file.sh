@@ -1,0 +1,172 @@
+#!/bin/sh
+# the_program_file.sh INSTALL PROGRAM_FOLDER: puts the built program into a fresh folder and starts the program file itself,
+# on an X display with a window manager, by keys alone: a first run with its Setup, a second start beside it, one under
+# another name, and the end by the window manager.
+set -eu
+if [ "${3:-}" != inside ]; then
+  work=$(mktemp -d)
+  result=0
+  xvfb-run -a -s "-screen 0 1920x1080x24" sh "$0" "$1" "$2" inside "$work" || result=$?
+  rm -rf "$work"
+  exit $result
+fi
+
+work=$4
+business=$work/shop
+# What the program may see of a user: nothing but this folder.
+export HOME="$work/home" XDG_CACHE_HOME="$work/home/cache" XDG_DATA_HOME="$work/home/data" TMPDIR="$work"
+export XDG_RUNTIME_DIR="$work/home/runtime" QT_QPA_PLATFORM=xcb
+mkdir -p "$XDG_RUNTIME_DIR" "$work/elsewhere"
+chmod 700 "$XDG_RUNTIME_DIR"
+processes=
+
+finish() {
+  for process in $processes; do kill "$process" 2>/dev/null || true; done
+}
+trap finish EXIT
+
+fail() {
+  echo "FAIL: $1" >&2
+  exit 1
+}
+
+# eventually WHAT COMMAND...: waits until the command succeeds; WHAT is told when it doesn't in time.
+eventually() {
+  what=$1
+  shift
+  tries=0
+  until "$@" >/dev/null 2>&1; do
+    tries=$((tries + 1))
+    [ $tries -lt 300 ] || fail "in half a minute: $what"
+    sleep 0.1
+  done
+}
+
+is_gone() { ! kill -0 "$1" 2>/dev/null; }
+equal() { [ "$1" = "$2" ] || fail "$3: expected \"$1\", got \"$2\""; }
+
+# has_the_keys PROCESS TITLE: the window that the keys go to is this one.
+has_the_keys() {
+  focus=$(xdotool getwindowfocus) && [ "$(xdotool getwindowpid "$focus")" = "$1" ] &&
+    [ "$(xdotool getwindowname "$focus")" = "$2" ]
+}
+
+# start NAME: starts the program file of that name, from a folder that isn't its own; its process is $started.
+start() {
+  cd "$work/elsewhere"
+  "$business/$1" &
+  started=$!
+  processes="$processes $started"
+  cd "$work"
+}
+
+# must_end PROCESS WHEN: the process ends by itself, and says that all was well.
+must_end() {
+  eventually "the process is gone $2" is_gone "$1"
+  wait "$1" || fail "the process that ended $2 answered $?"
+  processes=$(echo " $processes " | sed "s/ $1 / /")
+}
+
+# close_by_the_window_manager PROCESS TITLE: as the close box of the window in front does.
+close_by_the_window_manager() {
+  has_the_keys "$1" "$2" || fail "the window to be closed isn't the one in front"
+  xdotool key alt+F4
+  must_end "$1" "when its window is closed"
+}
+
+folders() { (cd "$business" && find . -mindepth 1 -type d ! -path './manual*' ! -path './suppliers*' | LC_ALL=C sort); }
+everything() { (cd "$business" && find . -type d && find . -type f -exec cksum {} +) | LC_ALL=C sort; }
+
+# expected_folders NAME...: the tree of programs that were started under these names.
+expected_folders() {
+  {
+    cat <<FOLDERS
+./$(date +%Y)
+./AuxFiles
+./Backup
+./Backup/CompletedInvoices
+./Backup/KVActiveAccounts
+./Backup/KVActiveAccountsBACK
+./CompletedInvoices
+./ConstructionProjects
+./KVActiveAccounts
+./KarvexCycleInvoicer
+./KarvexInvoicer
+./KarvexInvoicer/IncompleteInvoices
+./KarvexInvoicer/Narratives
+./KarvexInvoicer/Templates
+./KarvexInvoicer/Templates/Invoices
+./KarvexProposals
+./KarvexProposals/ProposalBody
+./Templates
+./Templates/ContractInvoices
+./Templates/Contracts
+./Templates/Proposals
+FOLDERS
+    for name in "$@"; do
+      printf './%s\n' "$name" "$name/IncompleteInvoices" "Backup/$name" "Backup/$name/IncompleteInvoices"
+    done
+  } | LC_ALL=C sort -u
+}
+
+# refused_beside_the_running_one NAME: a start that must end after its box and change nothing.
+refused_beside_the_running_one() {
+  before=$(everything)
+  start "$1"
+  eventually "the box of a second start" has_the_keys "$started" "Karvex Invoicer"
+  is_gone "$first" && fail "the first one is gone while the second tells of it"
+  xdotool key Return
+  must_end "$started" "after the box of a second start"
+  equal "$before" "$(everything)" "what a second start changed"
+  is_gone "$first" && fail "the second start ended the first one"
+  eventually "the first one has the keys again" has_the_keys "$first" "Karvex Invoicer"
+}
+
+openbox --sm-disable --startup "touch $work/ready" >/dev/null 2>&1 &
+processes=$!
+eventually "a window manager" test -e "$work/ready"
+sh "$1" "$2" "$business"
+for supplied in KarvexInvoicer.bin StatesList.txt manual/index.html suppliers; do
+  [ -e "$business/$supplied" ] || fail "$supplied isn't in the program's folder"
+done
+
+# The first run: the tree stands in the folder that holds the program file, named after it without its extension.
+start KarvexInvoicer.bin
+first=$started
+eventually "the start-up screen" has_the_keys "$first" "Karvex Invoicer"
+equal "$(expected_folders KarvexInvoicer)" "$(folders)" "the tree"
+equal "" "$(ls -A "$work/elsewhere")" "what the program left where it was started from"
+[ ! -e "$XDG_DATA_HOME/KarvexInvoicer" ] || fail "the data went to the user's folder"
+
+refused_beside_the_running_one KarvexInvoicer.bin
+cp "$business/KarvexInvoicer.bin" "$business/Billing.bin"
+refused_beside_the_running_one Billing.bin
+
+# Continue shows the welcome with the way to Setup in focus; Setup saves under the program's name.
+xdotool key Return key space
+eventually "Setup" has_the_keys "$first" "Karvex Invoicer - Setup"
+xdotool type "Acme"
+xdotool key Tab key Tab key Tab key Tab key Tab key Tab
+xdotool type "555"
+xdotool key alt+s
+eventually "the main menu" has_the_keys "$first" "Karvex Invoicer"
+equal "$(printf '1,0,0,0,0,"0.0","0",#TRUE#,#FALSE#,"$0.00","$0.00"\r\n' | cksum)" \
+  "$(cksum <"$business/KarvexInvoicerSettings.txt")" "the settings"
+equal "$(printf '"Acme","","","","","","555","",""\r\n' | cksum)" "$(cksum <"$business/MyBusinessData.txt")" "the profile"
+[ ! -e "$business/Backup/KarvexInvoicerSettings.txt" ] || fail "the backup is there before the end"
+
+close_by_the_window_manager "$first" "Karvex Invoicer"
+for name in KarvexInvoicerSettings MyBusinessData PrintColors; do
+  cmp "$business/$name.txt" "$business/Backup/$name.txt" || fail "the backup of $name.txt"
+done
+
+# Under another name, with the first one gone: folders and settings of that name, beside the others.
+start Billing.bin
+eventually "the start-up screen of the renamed copy" has_the_keys "$started" "Karvex Invoicer"
+equal "$(expected_folders KarvexInvoicer Billing)" "$(folders)" "the tree of both names"
+printf '1,0,0,0,0,"0.0","0",#TRUE#,#FALSE#,"$0.00","$0.00"\r\n' >"$business/BillingSettings.txt"
+rm "$business/Backup/KarvexInvoicerSettings.txt"
+close_by_the_window_manager "$started" "Karvex Invoicer"
+cmp "$business/BillingSettings.txt" "$business/Backup/BillingSettings.txt" || fail "the backup of BillingSettings.txt"
+[ ! -e "$business/Backup/KarvexInvoicerSettings.txt" ] || fail "one name's end copied the other name's settings"
+equal "" "$(ls -A "$work/elsewhere")" "what the program left where it was started from"
