@@ -1,5 +1,6 @@
 // The user's boxes and dialogs, the real ones.
 #include <QColorDialog>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QFontDialog>
 
@@ -21,6 +22,34 @@ int NumberThrownBy(const std::function<void()>& call) {
   }
   return 0;
 }
+
+/// Stands where the user's browser does, for pages on the disk and on the web, and is gone with its scope.
+class Browser : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Can { Start, NotStart };
+
+  explicit Browser(Can can = Can::Start) {
+    for (const QString& scheme : Schemes()) {
+      // A routine that isn't there can't be called: to the caller that is a browser that doesn't start.
+      QDesktopServices::setUrlHandler(scheme, this, can == Can::Start ? "Open" : "NoSuchRoutine");
+    }
+  }
+  ~Browser() override {
+    for (const QString& scheme : Schemes()) QDesktopServices::unsetUrlHandler(scheme);
+  }
+  Browser(const Browser&) = delete;
+  Browser& operator=(const Browser&) = delete;
+
+  QList<QUrl> Opened;
+
+ public Q_SLOTS:
+  void Open(const QUrl& page) { Opened.append(page); }
+
+ private:
+  static QStringList Schemes() { return {u"file"_s, u"http"_s, u"https"_s}; }
+};
 
 }  // namespace
 
@@ -159,6 +188,59 @@ class UserDialogs : public QObject {
     QCOMPARE(m_dialogs.ChooseFont(u"Liberation Sans"_s), u"Liberation Serif"_s);
     answers.CancelDialog();
     QCOMPARE(NumberThrownBy([&] { m_dialogs.ChooseFont(u"Arial"_s); }), 32755);
+  }
+
+  void aPageOnTheDiskOpensWhateverStandsInItsPath_data() {
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("address");
+    QTest::newRow("plain") << u"/shop/manual/index.html"_s << QByteArray("file:///shop/manual/index.html");
+    QTest::newRow("a blank") << u"/my shop/index.html"_s << QByteArray("file:///my%20shop/index.html");
+    QTest::newRow("a number sign") << u"/shop #2/index.html"_s << QByteArray("file:///shop%20%232/index.html");
+    QTest::newRow("a question mark") << u"/shop?/index.html"_s << QByteArray("file:///shop%3F/index.html");
+    QTest::newRow("a per cent sign") << u"/5%20/index.html"_s << QByteArray("file:///5%2520/index.html");
+    QTest::newRow("a letter of its own") << u"/Caf\u00e9/index.html"_s << QByteArray("file:///Caf%C3%A9/index.html");
+  }
+  void aPageOnTheDiskOpensWhateverStandsInItsPath() {
+    QFETCH(QString, path);
+    QFETCH(QByteArray, address);
+    const QueuedAnswers none;
+    const Browser browser;
+    m_dialogs.OpenPage(path);
+    QCOMPARE(browser.Opened.size(), 1);
+    QCOMPARE(browser.Opened[0].toEncoded(), address);
+    QCOMPARE(browser.Opened[0].toLocalFile(), path);
+  }
+
+  void aPageOfTheWebOpensByItsAddress_data() {
+    QTest::addColumn<QString>("address");
+    QTest::newRow("plain") << u"http://www.example.com/"_s;
+    QTest::newRow("with a query and a place") << u"https://www.example.com/order/paper?kind=2&size=a#top"_s;
+  }
+  void aPageOfTheWebOpensByItsAddress() {
+    QFETCH(QString, address);
+    const QueuedAnswers none;
+    const Browser browser;
+    m_dialogs.OpenPage(address);
+    QCOMPARE(browser.Opened.size(), 1);
+    QCOMPARE(browser.Opened[0].toEncoded(), address.toLatin1());
+  }
+
+  void aBrowserThatDoesNotStartIsToldWithThePage_data() {
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("on the disk") << u"/my shop/index.html"_s << u"file:///my shop/index.html"_s;
+    QTest::newRow("on the web") << u"https://www.example.com/order"_s << u"https://www.example.com/order"_s;
+  }
+  void aBrowserThatDoesNotStartIsToldWithThePage() {
+    QFETCH(QString, address);
+    QFETCH(QString, told);
+    QueuedAnswers answers;
+    const Browser browser(Browser::Can::NotStart);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"NoSuchRoutine"_s));
+    answers.Ok(u"No browser could be started. The page is\n"_s + told, u"Karvex Invoicer"_s);
+    m_dialogs.OpenPage(address);
+    QCOMPARE(answers.Boxes().size(), 1);
+    QVERIFY(browser.Opened.isEmpty());
   }
 };
 
