@@ -37,6 +37,8 @@ class DamagedFiles : public QObject {
   void aLogoThatIsGoneIsPassedOver();
   void aDamagedSettingIsToldBeforeAnyWindowShows();
   void aDamagedCatalogueIsToldOverTheStartUpScreen();
+  void theTreeAndItsCustomersComeBeforeTheSettings();
+  void aDamagedSettingLeavesTheWholeTreeMade();
   void theRecordsOfWhatWasSoldAreNotReadAtStart();
 };
 
@@ -156,6 +158,54 @@ void DamagedFiles::aDamagedCatalogueIsToldOverTheStartUpScreen() {
     program.Tree.Write(QString::fromLatin1(name), QByteArray(256 * size, ' '));
     QCOMPARE(ScreensBehindTheBox(program), QStringList{u"frmSplash"_s});
   }
+}
+
+void DamagedFiles::theTreeAndItsCustomersComeBeforeTheSettings() {
+  ProgramFixture program;
+  program.Tree.Write(u"/CustomerData.txt"_s, QByteArray(32768 * 328, ' '));
+  // The first of the settings to be read, and the last one.
+  program.Tree.Write(u"/MyBusinessData.txt"_s, "");
+  program.Tree.Write(u"/KarvexInvoicerSettings.txt"_s, "x");
+  program.Answers.Ok();
+  QVERIFY(!program.Start());
+  QCOMPARE(program.Answers.Boxes().size(), 1);
+  QVERIFY2(program.Answers.Last().Text.startsWith(u"/CustomerData.txt: "_s), qPrintable(program.Answers.Last().Text));
+}
+
+void DamagedFiles::aDamagedSettingLeavesTheWholeTreeMade() {
+  ProgramFixture program;
+  program.Tree.Write(u"/MyBusinessData.txt"_s, "");
+  program.Answers.Ok();
+  QVERIFY(!program.Start());
+  QVERIFY2(program.Answers.Last().Text.startsWith(u"/MyBusinessData.txt: "_s), qPrintable(program.Answers.Last().Text));
+  QStringList folders;
+  QDirIterator tree(program.Tree.Root(), QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+  while (tree.hasNext()) folders.append(tree.next().mid(program.Tree.Root().size()));
+  folders.sort();
+  const QStringList expected{u"/2026"_s,
+                             u"/AuxFiles"_s,
+                             u"/Backup"_s,
+                             u"/Backup/CompletedInvoices"_s,
+                             u"/Backup/KVActiveAccounts"_s,
+                             u"/Backup/KVActiveAccountsBACK"_s,
+                             u"/Backup/KarvexInvoicer"_s,
+                             u"/Backup/KarvexInvoicer/IncompleteInvoices"_s,
+                             u"/CompletedInvoices"_s,
+                             u"/ConstructionProjects"_s,
+                             u"/KVActiveAccounts"_s,
+                             u"/KarvexCycleInvoicer"_s,
+                             u"/KarvexInvoicer"_s,
+                             u"/KarvexInvoicer/IncompleteInvoices"_s,
+                             u"/KarvexInvoicer/Narratives"_s,
+                             u"/KarvexInvoicer/Templates"_s,
+                             u"/KarvexInvoicer/Templates/Invoices"_s,
+                             u"/KarvexProposals"_s,
+                             u"/KarvexProposals/ProposalBody"_s,
+                             u"/Templates"_s,
+                             u"/Templates/ContractInvoices"_s,
+                             u"/Templates/Contracts"_s,
+                             u"/Templates/Proposals"_s};
+  QCOMPARE(folders, expected);
 }
 
 void DamagedFiles::theRecordsOfWhatWasSoldAreNotReadAtStart() {
