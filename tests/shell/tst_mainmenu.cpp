@@ -23,6 +23,11 @@ QList<int> Offered(const ScreenDriver& menu) {
   return offered;
 }
 
+/// What the user reads of a caption: without the mark of its access key.
+QString Read(QString caption) {
+  return caption.remove(u'&');
+}
+
 bool IsSelected(const ScreenDriver& menu, int index) {
   return menu.Control<QRadioButton>(Option(index))->isChecked();
 }
@@ -37,6 +42,8 @@ class MainMenu : public QObject {
   void aCatalogueWithOneServiceOffersInvoicesToo();
   void oneCatalogueFileAloneIsEnoughAndTheOtherComesBackFromTheBackup();
   void theCaptionsAndTips();
+  void theHeadingsStandOverTheirRoutines();
+  void theMenuBarsCaptions();
   void eachReportIsOfferedByItsFile();
   void aFileThatOnlyTheBackupHoldsIsRestoredByShowingTheMenu();
   void theNumberOfPartialInvoicesStandsBesideTheirOption();
@@ -110,6 +117,54 @@ void MainMenu::theCaptionsAndTips() {
     QCOMPARE(menu.Control<QRadioButton>(Option(i))->toolTip(), captions[i][1]);
   }
   QCOMPARE(menu.Control(u"cmdGoto"_s)->toolTip(), u"Starts the Selected Routine"_s);
+}
+
+void MainMenu::theHeadingsStandOverTheirRoutines() {
+  ProgramFixture program;
+  program.Tree.Write(u"/Services.txt"_s, OneService);
+  program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/20260001.txt"_s, "20260001\r\n7\r\nSmith\r\n3/7/2026\r\n");
+  program.Tree.Write(u"/SoldItems.txt"_s, "");
+  QVERIFY(program.StartAtMenu());
+  const ScreenDriver menu(u"frmStartup"_s);
+  const auto placeOf = [&menu](const QString& name) { return menu.Control(name)->mapTo(menu.Window(), QPoint(0, 0)); };
+  const QList<std::tuple<QString, QString, QList<int>>> headings{{u"Label1_0"_s, u"Invoice Routines"_s, {0, 1, 2}},
+                                                                 {u"Label1_1"_s, u"Karvex Invoicer Routines"_s, {3}},
+                                                                 {u"Label1_3"_s, u"Report Routines"_s, {4, 5, 6}}};
+  for (const auto& [name, caption, routines] : headings) {
+    QCOMPARE(menu.Text(name), caption);
+    QVERIFY2(menu.IsVisible(name), qPrintable(caption));
+    for (const int routine : routines) {
+      QCOMPARE(menu.Control(Option(routine))->parentWidget(), menu.Control(name)->parentWidget());
+      if (!menu.IsVisible(Option(routine))) continue;
+      QVERIFY2(placeOf(name).y() < placeOf(Option(routine)).y(), qPrintable(caption));
+    }
+  }
+  // "Existing" reads on to the number behind it, on the row of the partial invoices.
+  QCOMPARE(menu.Text(u"Label1_2"_s), u"Existing"_s);
+  QVERIFY(menu.IsVisible(u"Label1_2"_s));
+  QVERIFY(placeOf(Option(1)).x() < placeOf(u"Label1_2"_s).x());
+  QVERIFY(placeOf(u"Label1_2"_s).x() < placeOf(u"lblIncomplete"_s).x());
+  QCOMPARE(menu.Control(u"Label1_2"_s)->geometry().center().y(),
+           menu.Control(u"lblIncomplete"_s)->geometry().center().y());
+}
+
+void MainMenu::theMenuBarsCaptions() {
+  ProgramFixture program;
+  QVERIFY(program.StartAtMenu());
+  const ScreenDriver menu(u"frmStartup"_s);
+  QStringList bar;
+  for (const QAction* heading : menu.Window()->findChild<QMenuBar*>()->actions()) bar.append(Read(heading->text()));
+  QCOMPARE(bar, (QStringList{u" Files"_s, u"Order Forms"_s, u"Help"_s}));
+  QCOMPARE(Read(menu.Control<QMenu>(u"mnuFiles"_s)->title()), u" Files"_s);
+  QCOMPARE(Read(menu.Control<QMenu>(u"mnuOrder"_s)->title()), u"Order Forms"_s);
+  QCOMPARE(Read(menu.Entry(u"mnuHelp"_s)->text()), u"Help"_s);
+  QStringList files;
+  for (const QAction* entry : menu.Control<QMenu>(u"mnuFiles"_s)->actions()) {
+    if (!entry->isSeparator()) files.append(Read(entry->text()));
+  }
+  QCOMPARE(files, (QStringList{u"Create/Modify"_s, u"Exit"_s}));
+  QCOMPARE(Read(menu.Entry(u"mnuCreate"_s)->text()), u"Create/Modify"_s);
+  QCOMPARE(Read(menu.Entry(u"mnuExit"_s)->text()), u"Exit"_s);
 }
 
 void MainMenu::eachReportIsOfferedByItsFile() {
