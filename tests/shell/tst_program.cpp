@@ -13,12 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Runs something at the next opening of a file.
+/// Runs something at the next opening of a file that is awaited.
 class ListeningDevice final : public FileDevice {
  public:
   std::function<void()> OnOpen;
+  /// Only a path that holds this counts.
+  QString Awaited;
   int Open(const QString& path, OpenMode mode) override {
-    if (OnOpen) std::exchange(OnOpen, {})();
+    if (OnOpen && path.contains(Awaited)) std::exchange(OnOpen, {})();
     return FileDevice::Open(path, mode);
   }
 };
@@ -29,6 +31,17 @@ struct Bench {
     Running.Ended = [this] { ++Ends; };
   }
   bool Shows(const QString& screen) const { return ScreenDriver::IsShown(screen); }
+  /// A first run: the start-up screen's welcome, Setup from there, and what it can't do without.
+  ScreenDriver SetupOfAFirstRun() {
+    Running.Start();
+    const ScreenDriver splash(u"frmSplash"_s);
+    splash.Click(u"cmdContinue"_s);
+    splash.Click(u"Image1_1"_s);
+    ScreenDriver setup(u"frmSetup"_s);
+    setup.Fill(u"txtBusiness_0"_s, u"Acme"_s);
+    setup.Fill(u"txtBusiness_6"_s, u"555-1234"_s);
+    return setup;
+  }
 
   TemporaryTree Tree;
   TemporaryTree Locks;
@@ -49,6 +62,8 @@ class ProgramTest : public QObject {
   void anEndInTheMiddleOfAnEndIsTheSameEnd();
   void aScreenWhoseActivationEndsTheProgramDoesNotComeUp();
   void allScreensAreHiddenBeforeTheFirstOneGoes();
+  void theStartUpScreenIsAlwaysShownAnew();
+  void aReturnFromSetupWithAFileMissingShowsTheStartUpScreenAnew();
 };
 
 void ProgramTest::anEndInTheMiddleOfAnEndIsTheSameEnd() {
@@ -99,6 +114,45 @@ void ProgramTest::allScreensAreHiddenBeforeTheFirstOneGoes() {
   bench.reset();
   QCOMPARE(gone, 2);
   QVERIFY(!menuStood);
+}
+
+void ProgramTest::theStartUpScreenIsAlwaysShownAnew() {
+  Bench bench;
+  const ScreenDriver setup = bench.SetupOfAFirstRun();
+  setup.Click(u"cmdQuit"_s);
+  QVERIFY(bench.Shows(u"frmStartup"_s));
+  // The first one, whose welcome stood open, is gone by now.
+  QVERIFY(bench.Running.Built(ScreenName::frmSplash) == nullptr);
+
+  bench.Running.Show(ScreenName::frmSplash);
+  bench.Running.Hide(ScreenName::frmStartup);
+  const ScreenDriver anew(u"frmSplash"_s);
+  QVERIFY(!anew.IsVisible(u"fraWelcome"_s));
+  QVERIFY(anew.Text(u"lblVersion"_s).startsWith(u"Version "_s));
+  anew.Click(u"cmdContinue"_s);
+  QVERIFY(bench.Shows(u"frmStartup"_s));
+  QVERIFY(!bench.Shows(u"frmSplash"_s));
+}
+
+void ProgramTest::aReturnFromSetupWithAFileMissingShowsTheStartUpScreenAnew() {
+  Bench bench;
+  const ScreenDriver setup = bench.SetupOfAFirstRun();
+  // Somebody takes a file away that the save has just written, while it writes its last one.
+  bench.Files.Awaited = u"/TaxSettings.txt"_s;
+  bench.Files.OnOpen = [&] { bench.Tree.Remove(u"/Phone.txt"_s); };
+  setup.Click(u"cmdQuit"_s);
+  QVERIFY(!bench.Shows(u"frmSetup"_s));
+  QVERIFY(!bench.Shows(u"frmStartup"_s));
+
+  const ScreenDriver anew(u"frmSplash"_s);
+  QVERIFY(!anew.IsVisible(u"fraWelcome"_s));
+  anew.Click(u"cmdContinue"_s);
+  QVERIFY(anew.IsVisible(u"fraWelcome"_s));
+  anew.Click(u"Image1_1"_s);
+  ScreenDriver(u"frmSetup"_s).Click(u"cmdQuit"_s);
+  QVERIFY(bench.Shows(u"frmStartup"_s));
+  QVERIFY(!bench.Shows(u"frmSplash"_s));
+  QCOMPARE(bench.Boxes.Said, QStringList{});
 }
 
 QTEST_MAIN(ProgramTest)
