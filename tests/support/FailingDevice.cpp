@@ -90,7 +90,7 @@ int FailingDevice::Truncate(int descriptor, qint64 size) {
 
 int FailingDevice::Flush(int descriptor) {
   const int failed = Enter(Call::Flush);
-  return failed < 0 ? failed : FileDevice::Flush(descriptor);
+  return failed < 0 || m_skipFlushes ? failed : FileDevice::Flush(descriptor);
 }
 
 int FailingDevice::Close(int descriptor) {
@@ -127,5 +127,5 @@ int FailingDevice::MakeFolderIn(int folder, const char* name) {
 
 int FailingDevice::FlushFolder(const QString& path) {
   const int failed = Enter(Call::FlushFolder);
-  return failed < 0 ? failed : FileDevice::FlushFolder(path);
+  return failed < 0 || m_skipFlushes ? failed : FileDevice::FlushFolder(path);
 }

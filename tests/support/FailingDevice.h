@@ -37,6 +37,8 @@ class FailingDevice : public FileDevice {
   void WriteShortAt(int nth, qint64 size, int error);
   /// Every call from the `nth` on, whatever its kind.
   void KillAt(int nth);
+  /// Answers flushes without waiting for the disk: for tests of what is written, not of how safely.
+  void SkipFlushes() { m_skipFlushes = true; }
   /// All calls of a kind, or of any kind, since the last setting.
   int Count(Call call) const;
   int CountAll() const { return m_all; }
@@ -74,6 +76,7 @@ class FailingDevice : public FileDevice {
   std::map<std::pair<Call, int>, int> m_failures;
   std::map<Call, int> m_always;
   int m_killAt = 0;
+  bool m_skipFlushes = false;
   int m_shortAt = 0;
   qint64 m_shortSize = 0;
 };
