@@ -47,3 +47,15 @@ QString FromCodePage(QByteArrayView bytes) {
   QStringDecoder decoder(codePageName);
   return decoder(bytes);
 }
+
+std::array<char, 256> CapitalsOfCodePage() {
+  std::array<char, 256> capitals{};
+  for (std::size_t i = 0; i < capitals.size(); ++i) {
+    const char byte = static_cast<char>(i);
+    const QString letter = FromCodePage(QByteArrayView(&byte, 1));
+    const QString capital = letter.toUpper();
+    const QByteArray bytes = ToCodePage(capital);
+    capitals[i] = bytes.size() == 1 && FromCodePage(bytes) == capital ? bytes[0] : byte;
+  }
+  return capitals;
+}

@@ -93,6 +93,19 @@ void TextMatrix::SetRows(int rows) {
   if (m_row >= m_rows) SetRow(m_rows - 1);
 }
 
+void TextMatrix::AssignRows(std::vector<QStringList> rows) {
+  for (const QStringList& row : rows) {
+    if (row.size() != m_cols) throw NoSuch(u"column"_s, static_cast<int>(row.size()));
+  }
+  beginResetModel();
+  rows.insert(rows.begin(), m_cells[0]);
+  m_cells = std::move(rows);
+  m_rows = static_cast<int>(m_cells.size());
+  m_row = 0;
+  endResetModel();
+  if (m_rows > 1) SetRow(1);
+}
+
 const QString& TextMatrix::Text(int row, int col) const {
   Require(row, col);
   return m_cells[static_cast<size_t>(row)][col];

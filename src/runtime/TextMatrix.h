@@ -18,6 +18,8 @@ class TextMatrix : public QAbstractTableModel {
   int Rows() const { return m_rows; }
   int Cols() const { return m_cols; }
   void SetRows(int rows);  ///< New rows are blank. The current row stays inside.
+  /// All data rows at once, so that the views follow once however many there are. The first becomes the current row.
+  void AssignRows(std::vector<QStringList> rows);
   const QString& Text(int row, int col) const;
   void SetText(int row, int col, const QString& text);
   int Row() const { return m_row; }  ///< The current row; 0 is none.

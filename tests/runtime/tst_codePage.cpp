@@ -59,6 +59,19 @@ class CodePageTest : public QObject {
     QFETCH(QByteArray, bytes);
     QCOMPARE(ToCodePage(text), bytes);
   }
+
+  void everyByteHasItsCapital() {
+    const std::array<char, 256> capitals = CapitalsOfCodePage();
+    const auto capitalOf = [&](char byte) { return capitals[static_cast<unsigned char>(byte)]; };
+    const QByteArray small("az09 ?\xe0\xe9\xfe\x9a\x9c\x9e\xff");
+    const QByteArray capital("AZ09 ?\xc0\xc9\xde\x8a\x8c\x8e\x9f");
+    for (qsizetype i = 0; i < small.size(); ++i) {
+      QCOMPARE(capitalOf(small[i]), capital[i]);
+      QCOMPARE(capitalOf(capital[i]), capital[i]);
+    }
+    // A sharp s has two capitals; those of the micro sign and the florin aren't in the code page.
+    for (const char own : {'\xdf', '\xb5', '\x83', '\xd7', '\xf7', '\x81', '\0'}) QCOMPARE(capitalOf(own), own);
+  }
 };
 
 QTEST_GUILESS_MAIN(CodePageTest)

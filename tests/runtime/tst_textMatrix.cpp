@@ -269,6 +269,35 @@ class TextMatrixTest : public QObject {
     QVERIFY(!matrix.headerData(2, Qt::Horizontal, Qt::DisplayRole).isValid());
   }
 
+  void allRowsAreTakenAtOnceAndTheFirstIsCurrent() {
+    TextMatrix matrix(u"<A|<B"_s, 5);
+    matrix.SetRow(4);
+    QSignalSpy resets(&matrix, &QAbstractItemModel::modelReset);
+    QSignalSpy changes(&matrix, &QAbstractItemModel::dataChanged);
+    QList<int> told;
+    matrix.OnRowChanged(this, [&told](int row) { told.append(row); });
+    matrix.AssignRows({{u"1"_s, u"2"_s}, {u"3"_s, u"4"_s}});
+    QCOMPARE(matrix.Rows(), 3);
+    QCOMPARE(matrix.Text(0, 1), u"B"_s);
+    QCOMPARE(matrix.Text(1, 0), u"1"_s);
+    QCOMPARE(matrix.Text(2, 1), u"4"_s);
+    QCOMPARE(matrix.Row(), 1);
+    QCOMPARE(told, QList<int>{1});
+    QCOMPARE(resets.size(), 1);
+    QCOMPARE(changes.size(), 0);
+    matrix.AssignRows({});
+    QCOMPARE(matrix.Rows(), 1);
+    QCOMPARE(matrix.Row(), 0);
+  }
+
+  void aRowOfAnotherWidthIsRefusedAndNothingChanges() {
+    TextMatrix matrix(u"<A|<B"_s, 2);
+    matrix.SetText(1, 0, u"old"_s);
+    QCOMPARE(ErrorOf([&] { matrix.AssignRows({{u"1"_s, u"2"_s}, {u"3"_s}}); }), 9);
+    QCOMPARE(matrix.Rows(), 2);
+    QCOMPARE(matrix.Text(1, 0), u"old"_s);
+  }
+
   void theLargestListIsFilledAndSortedAtOnce() {
     TextMatrix matrix(u"<A|<B"_s);
     QElapsedTimer timer;
