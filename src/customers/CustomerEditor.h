@@ -43,6 +43,9 @@ class CustomerEditor {
   bool IsDuplicateAcctNo(const QString& number);
   void BuildAccountList();
   void AddCityToList(const QString& city);
+  bool HasFile() { return m_file.Exists(); }
+  /// One pass over the customers counted; it leaves the last one in the buffer.
+  std::vector<FoundCustomer> Find(const CustomerQuery& query) { return m_file.Find(query, m_customerCount); }
 
   /// The entry of the name list that a typed text is, ignoring case and blanks around; -1 if none.
   int FindAccount(const QString& typed) const;
@@ -54,6 +57,7 @@ class CustomerEditor {
   /// "Business", or anything else for an individual.
   void ApplyAccountType(const QString& type);
   void ToggleAccountType();
+  void ReapplyAccountType() { ApplyAccountType(Text(CustomerBox::lbLType)); }
   void LeaveAccountNo();
   void LeaveName();
   void EnterBox(CustomerBox box);  ///< A box that holds a "Must" is emptied.

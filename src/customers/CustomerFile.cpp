@@ -154,6 +154,14 @@ CustomerLists CustomerFile::ReadLists(int count) {
   return lists;
 }
 
+std::vector<FoundCustomer> CustomerFile::Find(const CustomerQuery& query, int count) {
+  const RecordBuffer records = m_disk.OpenCustomerFile().ReadAll();
+  if (count > 0) {
+    Buffer.Assign(records.Bytes(count));
+  }
+  return FindInRecords(records, count, query);
+}
+
 std::optional<RuntimeError> CustomerFile::Remove(int number, int count, const QString& account) {
   const QString temporary = u"/CUSTOMER.TMP"_s;
   m_disk.KillDataFile(temporary);

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "customers/CustomerRecord.h"
+#include "customers/FindInRecords.h"
 #include "runtime/RuntimeError.h"
 
 class CommonDiskRoutines;
@@ -37,6 +38,8 @@ class CustomerFile {
   /// A file that isn't there isn't made for it.
   bool HasAccount(const QString& number, int count, int skip);
   CustomerLists ReadLists(int count);
+  /// The hits among the first `count` records, in file order. The file is made where there is none.
+  std::vector<FoundCustomer> Find(const CustomerQuery& query, int count);
   /// Takes one of `count` records out, and the ledger of `account` with it, live and copied. What it throws leaves the
   /// file and the ledger as they were; what fails once the shorter file stands is answered instead.
   std::optional<RuntimeError> Remove(int number, int count, const QString& account);

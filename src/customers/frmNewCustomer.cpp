@@ -29,16 +29,25 @@ frmNewCustomer::frmNewCustomer(ScreenHost& host, Screens& screens, CommonDiskRou
       m_cmdCustomer(this, u"cmdCustomer"_s),
       m_cmdNav(this, u"cmdNav"_s),
       m_command1(this, u"Command1"_s),
+      m_optSearch(this, u"optSearch"_s),
+      m_txtHeading(this, u"txtHeading"_s),
+      m_txtAux(this, u"txtAux"_s),
+      m_cmdSaveAux(this, u"cmdSaveAux"_s),
       m_screens(screens),
       m_disk(disk),
       m_dialogs(dialogs),
       m_onScreen(onScreen),
-      m_editor(disk, dialogs, profile, onScreen, *this) {
+      m_editor(disk, dialogs, profile, onScreen, *this),
+      m_search(m_editor, dialogs, *this),
+      m_aux(disk, *this) {
   ConnectBoxes();
   ConnectKeys();
   ConnectNameList();
   ConnectButtons();
   ConnectMenu();
+  ConnectSearch();
+  ConnectFoundGrid();
+  ConnectAux();
   DrawTelephone();
   FillLists();
 }
@@ -58,6 +67,7 @@ void frmNewCustomer::Activate() {
   m_editor.DecideAddressStyle();
   SetNameListVisible(false);
   m_editor.ApplyAccountType(u"Business"_s);
+  m_aux.LoadAuxHeadings();
   m_editor.BlankBoxes();
   m_ui->mnuCust->menuAction()->setVisible(false);
   m_cmdCustomer[13]->hide();
@@ -76,19 +86,13 @@ void frmNewCustomer::ConnectButtons() {
   OnClick(m_cmdCustomer[0], [this] { LeaveScreen(false); });
   OnClick(m_cmdCustomer[1], [this] { LeaveScreen(true); });
   OnClick(m_cmdCustomer[13], [this] { CancelAddNew(); });
-  OnClick(m_command1[0], [this] { m_editor.SaveCustomer(); });
   OnClick(m_command1[1], [this] { ToggleNameList(); });
   OnClick(m_ui->cmdAcctType, [this] { m_editor.ToggleAccountType(); });
 }
 
 void frmNewCustomer::ConnectMenu() {
-  // A form holds no menu but the bar's: the popup of the customers found is made here.
-  auto* popup = new QMenu(this);
-  popup->setObjectName(u"mnupopup"_s);
-  popup->addAction(m_ui->mnuSelect);
   On(m_ui->mnuAdd, &QAction::triggered, [this] { AddNew(); });
   On(m_ui->mnuDelete, &QAction::triggered, [this] { m_editor.DeleteCustomer(); });
-  On(m_ui->mnuAux, &QAction::triggered, [this] { ToggleAux(); });
 }
 
 /// The two ways off the screen. A record that is being added is dropped by both, which is meant.
@@ -126,25 +130,30 @@ void frmNewCustomer::CancelAddNew() {
   m_editor.CancelAddNew();
 }
 
-void frmNewCustomer::ToggleAux() {
-  m_ui->fraAux->setVisible(m_ui->fraAux->isHidden());
-  if (!m_ui->fraAux->isHidden()) {
-    m_ui->lblAccount->setText(m_editor.AccountText());
-  }
-}
-
-/// Enter goes on to the next control, and in the name list shows the customer typed. Escape closes the list, else goes
-/// back to the menu, but not while a customer is being added: he would be lost.
+/// Enter goes on to the next control, in the name list shows the customer typed, and starts a search where its text
+/// was typed. Escape goes one step back.
 void frmNewCustomer::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (enter && focusWidget() == m_ui->cboAccounts) {
     Run([this] { SettleNameList(); });
+  } else if (enter && focusWidget() == m_ui->txtSearchfor) {
+    PressButton(m_ui->cmdStartSearch);
   } else if (enter) {
     focusNextChild();
-  } else if (event->key() != Qt::Key_Escape) {
+  } else if (event->key() == Qt::Key_Escape) {
+    StepBack();
+  } else {
     Screen::keyPressEvent(event);
-  } else if (m_ui->nameList->isVisible()) {
+  }
+}
+
+/// Closes the name list, else the frame on top, else goes back to the menu, but not while a customer is being added:
+/// he would be lost.
+void frmNewCustomer::StepBack() {
+  if (m_ui->nameList->isVisible()) {
     Run([this] { ToggleNameList(); });
+  } else if (!m_frames.empty()) {
+    Run([this] { HideTopFrame(); });
   } else if (m_cmdCustomer[13]->isHidden()) {
     PressButton(m_cmdCustomer[0]);
   }

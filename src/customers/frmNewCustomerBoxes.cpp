@@ -130,10 +130,3 @@ void frmNewCustomer::SetAuxCaption(const QString& caption) {
   // An ampersand in a name is no access key.
   m_ui->fraAux->setTitle(QString(caption).replace(u"&"_s, u"&&"_s));
 }
-
-void frmNewCustomer::HideSearchFrames() {
-  m_ui->fraSearch->hide();
-  m_ui->fraCustomersFound->hide();
-}
-
-void frmNewCustomer::LoadAuxiliaryBoxes() {}

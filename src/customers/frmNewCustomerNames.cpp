@@ -27,7 +27,7 @@ void frmNewCustomer::LabelNameList() {
 
 /// With an empty list only the list's own visibility changes.
 void frmNewCustomer::ToggleNameList() {
-  m_ui->fraCustomersFound->hide();
+  ShowFoundFrame(false);
   const bool visible = m_ui->nameList->isHidden();
   SetNameListVisible(visible);
   if (!visible) {

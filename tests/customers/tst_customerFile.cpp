@@ -302,6 +302,20 @@ class CustomerFileTest : public QObject {
     QCOMPARE(Customers(), kept);
     QVERIFY2(steps > 5, "the delete was killed at several steps");
   }
+
+  void aSearchLeavesTheLastRecordCountedInTheBuffer() {
+    PutCustomers(BusinessRecord("1", "One") + BusinessRecord("2", "Two") + BusinessRecord("3", "Three"));
+    const std::vector<FoundCustomer> found = m_file->Find({0, "ONE", false}, 2);
+    QCOMPARE(found.size(), 1U);
+    QCOMPARE(found[0].Record, 1);
+    QCOMPARE(m_file->Buffer.Text(CustomerField::AcctNo), u"2"_s);
+  }
+
+  void aSearchMakesTheFileThatIsMissing() {
+    QCOMPARE(m_file->Find({EveryCustomer, "All", true}, 1).size(), 1U);
+    QCOMPARE(Customers(), QByteArray());
+    QVERIFY(m_tree->Has(u"/CustomerData.txt"_s));
+  }
 };
 
 QTEST_GUILESS_MAIN(CustomerFileTest)

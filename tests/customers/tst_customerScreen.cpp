@@ -548,10 +548,21 @@ class CustomerScreenTest : public QObject {
     }
   }
 
+  void nothingIsCutOffAtTheSmallestSize_data() {
+    QTest::addColumn<QString>("frame");
+    for (const char* frame : {"", "fraAux", "fraBig", "fraSearch", "fraCustomersFound"}) {
+      QTest::newRow(frame) << QString::fromLatin1(frame);
+    }
+  }
   void nothingIsCutOffAtTheSmallestSize() {
+    QFETCH(QString, frame);
     CustomerDesk desk(PersonRecord("1", "Ann", "Q", "Bell"));
     desk.Open();
-    desk.Driver().Trigger(u"mnuAux"_s);
+    if (frame == u"fraAux" || frame == u"fraBig") desk.Driver().Trigger(u"mnuAux"_s);
+    if (frame == u"fraBig") desk.Driver().DoubleClick(u"txtAux_0"_s);
+    if (frame == u"fraSearch") desk.Click(u"Command1_0"_s);
+    if (frame == u"fraCustomersFound") desk.Click(u"Command1_2"_s);
+    if (!frame.isEmpty()) QVERIFY(desk.Sees(frame));
     desk.Driver().Window()->resize(1024, 700);
     ScreenDriver::ProcessEvents();
     QCOMPARE(desk.Driver().Window()->size(), QSize(1024, 700));

@@ -27,6 +27,7 @@ class Demonstration : public QObject {
   void theFirstStartLeadsThroughSetup();
   void theCatalogueIsEntered();
   void twoCustomersAreEntered();
+  void customersAreFoundAgainAndDescribed();
   void anInvoiceIsComposedPrintedAndRecorded();
   void aLongInvoiceGoesOnPerforatedPaper();
   void aProposalBecomesAnInvoice();
@@ -205,6 +206,39 @@ void Demonstration::twoCustomersAreEntered() {
                                               {u"txtCustomer_6"_s, u"352-555-0187"_s}};
   for (const auto& [box, text] : person) screen.Fill(box, text);
   Picture(screen, u"customer-individual"_s);
+}
+
+void Demonstration::customersAreFoundAgainAndDescribed() {
+  const ScreenDriver screen(u"frmNewCustomer"_s);
+  screen.Click(u"cmdNav_0"_s);
+  screen.Click(u"Command1_0"_s);
+  screen.Click(u"optSearch_1"_s);
+  screen.Fill(u"txtSearchfor"_s, u"palm"_s);
+  Picture(screen, u"customer-search"_s);
+  screen.Click(u"cmdStartSearch"_s);
+  QCOMPARE(screen.Text(u"txtCustomer_10"_s), u"Delgado"_s);
+  Picture(screen, u"customer-found"_s);
+  screen.Click(u"cmdRetry"_s);
+  screen.Click(u"Command1_2"_s);
+  Picture(screen, u"customer-complete-list"_s);
+  screen.SelectRow(u"fgCustomersFound"_s, 1);
+  screen.ClickPopup(u"mnupopup"_s, u"mnuSelect"_s);
+  QCOMPARE(screen.Text(u"txtCustomer_1"_s), u"Sunrise Juice Bar"_s);
+
+  screen.Trigger(u"mnuAux"_s);
+  const QStringList headings{u"Open"_s, u"Deliveries"_s, u"Keys"_s, u"Machines"_s, u"Wishes"_s, u"Notes"_s};
+  for (int i = 0; i < headings.size(); ++i) screen.Fill(u"txtHeading_%1"_s.arg(i), headings[i]);
+  screen.Click(u"cmdSaveAux_0"_s);
+  screen.Fill(u"txtAux_0"_s, u"Mon to Sat 7 to 19\nSun closed"_s);
+  screen.Fill(u"txtAux_1"_s, u"At the back door"_s);
+  screen.DoubleClick(u"txtAux_3"_s);
+  screen.Type(u"Juicer, two years old\nIce maker"_s);
+  Picture(screen, u"customer-big-window"_s);
+  screen.Click(u"cmdSaveAux_4"_s);
+  screen.Click(u"cmdSaveAux_1"_s);
+  Picture(screen, u"customer-auxiliary"_s);
+  screen.Click(u"cmdSaveAux_2"_s);
+  QVERIFY(QFile::exists(m_folder + u"/business/AuxFiles/1001/AuxFile3/Data.txt"_s));
 }
 
 void Demonstration::Post(const ScreenDriver& invoice, int element, const QString& description, const QString& units) {

@@ -141,6 +141,24 @@ void ScreenDriver::Click(const QString& name) const {
   ProcessEvents();
 }
 
+void ScreenDriver::DoubleClick(const QString& name) const {
+  Activate();
+  QWidget* control = Control(name);
+  QTest::mouseDClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, Reach(control, Aim(control)));
+  ProcessEvents();
+}
+
+void ScreenDriver::ClickPopup(const QString& menuName, const QString& actionName) const {
+  auto* menu = Control<QMenu>(menuName);
+  if (!menu->isVisible()) {
+    Fail(u"the popup %1 isn't open"_s.arg(menuName));
+    return;
+  }
+  const QPoint position = menu->actionGeometry(Entry(actionName)).center();
+  QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, Qt::NoModifier, position);
+  ProcessEvents();
+}
+
 void ScreenDriver::Type(const QString& text) const {
   Activate();
   for (const QChar character : text) {

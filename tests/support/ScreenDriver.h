@@ -44,6 +44,9 @@ class ScreenDriver {
 
   /// A click with the left button; on the indicator of radio buttons and check boxes.
   void Click(const QString& name) const;
+  void DoubleClick(const QString& name) const;
+  /// Clicks an entry of a popup that is open.
+  void ClickPopup(const QString& menuName, const QString& actionName) const;
   /// Into the control that has the focus.
   void Type(const QString& text) const;
   void PressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;

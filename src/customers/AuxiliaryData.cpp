@@ -1,0 +1,97 @@
+#include "customers/AuxiliaryData.h"
+
+#include "customers/CommonAccountRoutines.h"
+#include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
+#include "shell/CommonDiskRoutines.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString HeadingsFile() {
+  return u"/AuxHeadings.txt"_s;
+}
+
+QString AccountFolder(const QString& account) {
+  return u"/AuxFiles/"_s + account;
+}
+
+QString BoxFolder(const QString& account, int box) {
+  return AccountFolder(account) + u"/AuxFile"_s + QString::number(box);
+}
+
+QString BoxFile(const QString& account, int box) {
+  return BoxFolder(account, box) + u"/Data.txt"_s;
+}
+
+bool CanHaveFolders(const QString& account) {
+  return !account.isEmpty() && IsSafeAccount(account);
+}
+
+}  // namespace
+
+void AuxiliaryData::LoadAuxHeadings() {
+  if (!m_disk.FileExists(HeadingsFile())) {
+    return;
+  }
+  ListReader reader = m_disk.OpenInputFile(HeadingsFile());
+  for (int box = 0; box < AuxBoxCount; ++box) {
+    m_view.SetHeading(box, reader.ReadLine());
+  }
+  m_disk.CloseAllFiles();
+}
+
+void AuxiliaryData::SaveAuxHeadings() {
+  ListWriter writer;
+  for (int box = 0; box < AuxBoxCount; ++box) {
+    writer.Print(m_view.Heading(box));
+  }
+  m_disk.SaveFile(HeadingsFile(), writer.Content(), BackupCopy::Dropped);
+  m_disk.CloseAllFiles();
+}
+
+void AuxiliaryData::LoadAuxData() {
+  if (m_view.IsAuxRetained()) {
+    return;
+  }
+  for (int box = 0; box < AuxBoxCount; ++box) {
+    m_view.SetAuxText(box, {});
+  }
+  const QString account = TrimBlanks(m_view.AuxAccount());
+  if (!CanHaveFolders(account)) {
+    return;
+  }
+  for (int box = 0; box < AuxBoxCount; ++box) {
+    const QString file = BoxFile(account, box);
+    if (!m_disk.FileExists(file)) {
+      continue;
+    }
+    ListReader reader = m_disk.OpenInputFile(file);
+    QString text;
+    while (!reader.AtEnd()) {
+      text += reader.ReadString() + u"\r\n"_s;
+    }
+    m_view.SetAuxText(box, text);
+  }
+  m_disk.CloseAllFiles();
+}
+
+void AuxiliaryData::SaveAuxData() {
+  const QString account = TrimBlanks(m_view.AuxAccount());
+  if (!CanHaveFolders(account)) {
+    throw RuntimeError(ErrorNumber::BadFileName, account,
+                       u"The account number names the folder of these data, so it cannot be blank, . or .. and cannot "
+                       "hold / or \\ or characters outside the Western alphabets."_s)
+        .WithAdvice(u"Enter another Account No and save again. Nothing was lost."_s);
+  }
+  m_disk.MakeDataFolder(u"/AuxFiles"_s);
+  m_disk.MakeDataFolder(AccountFolder(account));
+  for (int box = 0; box < AuxBoxCount; ++box) {
+    m_disk.MakeDataFolder(BoxFolder(account, box));
+    QString text = m_view.AuxText(box);
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u"\n"_s, u"\r\n"_s);
+    m_disk.SaveFile(BoxFile(account, box), ListWriter().Print(text).Content(), BackupCopy::Kept);
+  }
+  m_disk.CloseAllFiles();
+}
