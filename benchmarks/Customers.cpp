@@ -5,12 +5,9 @@
 
 #include "benchmarks/Measure.h"
 #include "benchmarks/Operations.h"
+#include "benchmarks/Running.h"
 #include "benchmarks/Trees.h"
-#include "desktop/PaperPrinter.h"
-#include "desktop/QtDialogs.h"
 #include "desktop/Style.h"
-#include "Program.h"
-#include "runtime/Clock.h"
 #include "runtime/CodePage.h"
 #include "runtime/FileStore.h"
 #include "shell/CommonDiskRoutines.h"
@@ -18,26 +15,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A started program on a tree of so many customers.
-class Running {
- public:
-  explicit Running(const QString& tree) : m_store(m_files), m_paper(m_store, m_dialogs, tree), m_program(OnTree(tree)) {
-    m_program.Start();
-  }
-  Program& operator*() { return m_program; }
-
- private:
-  Platform OnTree(const QString& tree) { return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper); }
-
-  QTemporaryDir m_lock;
-  FileDevice m_files;
-  FileStore m_store;
-  SystemClock m_clock;
-  QtDialogs m_dialogs;
-  PaperPrinter m_paper;
-  Program m_program;
-};
 
 void OpenAndClose(Program& program) {
   program.Show(ScreenName::frmNewCustomer);

@@ -13,6 +13,8 @@ int RunAsStarter(int argc, char* argv[]);
 void MeasureDataTree(const QString& fullTree);
 /// Opening the customer screen over reading the file once and sorting the names, and one step of navigation.
 void MeasureCustomers(const QString& fullTree);
+/// A search by each criterion over one pass on the raw file, the complete list, and a key in the name list's search.
+void MeasureSearch(const QString& fullTree);
 /// A commit of 100 lines on full files over the same on empty ones.
 void MeasureCommit();
 /// A page to PDF over the same texts and lines drawn straight.

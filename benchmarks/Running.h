@@ -1,0 +1,29 @@
+/// A started program on a tree.
+#pragma once
+
+#include <QTemporaryDir>
+
+#include "desktop/PaperPrinter.h"
+#include "desktop/QtDialogs.h"
+#include "Program.h"
+#include "runtime/Clock.h"
+#include "runtime/FileStore.h"
+
+class Running {
+ public:
+  explicit Running(const QString& tree) : m_store(m_files), m_paper(m_store, m_dialogs, tree), m_program(OnTree(tree)) {
+    m_program.Start();
+  }
+  Program& operator*() { return m_program; }
+
+ private:
+  Platform OnTree(const QString& tree) { return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper); }
+
+  QTemporaryDir m_lock;
+  FileDevice m_files;
+  FileStore m_store;
+  SystemClock m_clock;
+  QtDialogs m_dialogs;
+  PaperPrinter m_paper;
+  Program m_program;
+};
