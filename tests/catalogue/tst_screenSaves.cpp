@@ -54,6 +54,8 @@ class ScreenSaves : public QObject {
   void modifyModeWithoutALineThereAsksForOne();
   void aSaveThatStopsLeavesBoxesAndMode();
   void enterInABoxSaves();
+  void enterInEachBoxSavesItsOwnList_data();
+  void enterInEachBoxSavesItsOwnList();
   void enterInABoxThatHoldsNoAmountSavesNothing();
   void aDescriptionOfBlanksIsRefusedInEveryList();
   void addNewAfterAModifyAddsARowAndLeavesTheOther();
@@ -452,6 +454,38 @@ void ScreenSaves::enterInABoxSaves() {
   screen.Driver().PressKey(Qt::Key_Return);
   QCOMPARE(screen.Rows("fgServices"), 1);
   QCOMPARE(screen.Focus(), u"txtCharge_0"_s);
+}
+
+void ScreenSaves::enterInEachBoxSavesItsOwnList_data() {
+  QTest::addColumn<int>("tab");
+  QTest::addColumn<int>("addNew");
+  QTest::addColumn<QByteArray>("grid");
+  const auto rows = [](int tab, int addNew, const char* grid, std::initializer_list<const char*> boxes) {
+    for (const char* box : boxes) QTest::newRow(box) << tab << addNew << QByteArray(grid);
+  };
+  rows(0, 1, "fgServices", {"txtDescription_0", "txtCharge_0"});
+  rows(1, 8, "fgItems",
+       {"txtDescription_1", "txtCharge_1", "txtCharge_2", "txtCost", "txtOnHand", "txtDiscountQty", "txtReorderAmount",
+        "txtReorderAt"});
+  rows(3, 18, "fgCustom", {"txtDescription_2", "txtCharge_3", "txtCharge_4", "txtCustomDiscItems"});
+}
+
+void ScreenSaves::enterInEachBoxSavesItsOwnList() {
+  QFETCH(int, tab);
+  QFETCH(int, addNew);
+  QFETCH(QByteArray, grid);
+  const QString last = QString::fromLatin1(QTest::currentDataTag());
+  CatalogueScreen screen;
+  screen.Open(tab);
+  screen.Click(addNew);
+  for (const char* box : {"txtDescription_0", "txtCharge_0", "txtDescription_1", "txtCharge_1", "txtCharge_2",
+                          "txtOnHand", "txtDescription_2", "txtCharge_3", "txtCharge_4"}) {
+    if (screen.Driver().IsVisible(QString::fromLatin1(box))) screen.Fill(box, "5");
+  }
+  screen.Driver().Fill(last, u"5"_s);
+  QCOMPARE(screen.Rows(grid.constData()), 0);
+  screen.Driver().PressKey(Qt::Key_Return);
+  QCOMPARE(screen.Rows(grid.constData()), 1);
 }
 
 void ScreenSaves::enterInABoxThatHoldsNoAmountSavesNothing() {
