@@ -74,7 +74,11 @@ Catalogue::Catalogue(CommonDiskRoutines& disk, CatalogueLists& lists, SalesItems
       m_salesItems(salesItems) {
   m_commands.fill(true);
   // Live only once there is something to modify, delete, clear or load again.
-  for (const std::size_t index : {2, 3, 9, 10, 11, 16, 19, 20}) m_commands.at(index) = false;
+  using namespace CatalogueCommand;
+  for (const int index :
+       {DeleteService, ModifyService, ModifyItem, DeleteItem, ClearItem, ReloadLabor, ModifyCustom, DeleteCustom}) {
+    m_commands.at(static_cast<std::size_t>(index)) = false;
+  }
 }
 
 TextMatrix& Catalogue::Grid(CatalogueList list) {
@@ -110,7 +114,7 @@ RecordBuffer Catalogue::ReadFile(CatalogueList list) {
 void Catalogue::LoadServices() {
   const RecordBuffer records = ReadFile(CatalogueList::Services);
   const int count = CatalogueRecordCount(records.Content(), ServiceRecord::Length, CatalogueFile::Services());
-  EnableCommand(3, true);
+  EnableCommand(CatalogueCommand::ModifyService, true);
   fgServices.SetRows(count + 1);
   for (int number = 1; number <= count; ++number) {
     const ServiceRecord record = ServiceRecord::Read(records.Record(number));
@@ -119,7 +123,7 @@ void Catalogue::LoadServices() {
     FillRow(fgServices, number, {record.Description, record.Charge, lstTime.value(time)});
   }
   fgServices.SortTextIgnoringCase(ServiceColumn::Description);
-  std::vector<CatalogueEntry>& entries = m_lists.Entries[0];
+  std::vector<CatalogueEntry>& entries = m_lists.EntriesOf(CatalogueList::Services);
   entries.clear();
   for (int row = 1; row <= count; ++row) {
     const QString& charge = fgServices.Text(row, ServiceColumn::Charge);
@@ -128,13 +132,13 @@ void Catalogue::LoadServices() {
   // The grid, and with it the file's next image, is ordered otherwise than the invoice's list; this is meant.
   fgServices.SortGenericAscending(ServiceColumn::Description);
   fgServices.SetRow(0);
-  m_lists.Announce(0);
+  m_lists.Announce(CatalogueList::Services);
 }
 
 void Catalogue::ClearItemLists() {
   m_categories.clear();
   m_categorySet.clear();
-  m_lists.Entries[1].clear();
+  m_lists.EntriesOf(CatalogueList::Items).clear();
   m_lists.lstCategories = {u"All"_s};
   if (CategoriesCleared) CategoriesCleared();
 }
@@ -143,7 +147,7 @@ void Catalogue::LoadAdditionalItems() {
   const RecordBuffer records = ReadFile(CatalogueList::Items);
   const int count = CatalogueRecordCount(records.Content(), InventoryItemRecord::Length, CatalogueFile::Items());
   ClearItemLists();
-  EnableCommand(9, true);
+  EnableCommand(CatalogueCommand::ModifyItem, true);
   m_lists.ItemBreaks.assign(static_cast<std::size_t>(count) + 1, {});
   fgItems.SetRows(count + 1);
   for (int number = 1; number <= count; ++number) {
@@ -155,19 +159,19 @@ void Catalogue::LoadAdditionalItems() {
              CurrencyText(record.DiscountPrice), Digits(record.DiscountQty), Digits(record.ReorderAmount),
              Digits(record.ReorderAt)});
     AddCategory(record.Category);
-    m_lists.Entries[1].push_back({record.Description, number - 1, price});
+    m_lists.EntriesOf(CatalogueList::Items).push_back({record.Description, number - 1, price});
     m_lists.ItemBreaks[static_cast<std::size_t>(number)] = {record.DiscountPrice, record.DiscountQty};
   }
   fgItems.SortGenericAscending(ItemColumn::Category);
   fgItems.SetRow(0);
-  m_lists.Announce(1);
+  m_lists.Announce(CatalogueList::Items);
 }
 
 void Catalogue::LoadCustomItems() {
   const RecordBuffer records = ReadFile(CatalogueList::Custom);
   const int count = CatalogueRecordCount(records.Content(), CustomItemRecord::Length, CatalogueFile::Custom());
-  m_lists.Entries[2].clear();
-  EnableCommand(19, true);
+  m_lists.EntriesOf(CatalogueList::Custom).clear();
+  EnableCommand(CatalogueCommand::ModifyCustom, true);
   m_lists.CustomBreaks.assign(static_cast<std::size_t>(count) + 1, {});
   fgCustom.SetRows(count + 1);
   for (int number = 1; number <= count; ++number) {
@@ -175,12 +179,12 @@ void Catalogue::LoadCustomItems() {
     const QString price = CurrencyText(record.Price);
     FillRow(fgCustom, number,
             {record.Description, price, CurrencyText(record.DiscountPrice), Digits(record.DiscountQty)});
-    m_lists.Entries[2].push_back({record.Description, number - 1, price});
+    m_lists.EntriesOf(CatalogueList::Custom).push_back({record.Description, number - 1, price});
     m_lists.CustomBreaks[static_cast<std::size_t>(number)] = {record.DiscountPrice, record.DiscountQty};
   }
   fgCustom.SortGenericAscending(CustomColumn::Description);
   fgCustom.SetRow(0);
-  m_lists.Announce(2);
+  m_lists.Announce(CatalogueList::Custom);
 }
 
 void Catalogue::AddCategory(const QString& category) {
@@ -192,7 +196,7 @@ void Catalogue::AddCategory(const QString& category) {
 }
 
 void Catalogue::ListCategory(const QString& category) {
-  std::vector<CatalogueEntry>& entries = m_lists.Entries[1];
+  std::vector<CatalogueEntry>& entries = m_lists.EntriesOf(CatalogueList::Items);
   entries.clear();
   m_lists.ItemBreaks.assign(1, {});
   for (int row = 1; row < fgItems.Rows(); ++row) {
@@ -203,5 +207,5 @@ void Catalogue::ListCategory(const QString& category) {
     entries.push_back(
         {fgItems.Text(row, ItemColumn::Description), int(entries.size()) + 1, fgItems.Text(row, ItemColumn::Price)});
   }
-  m_lists.Announce(1);
+  m_lists.Announce(CatalogueList::Items);
 }

@@ -12,14 +12,13 @@
 #include <QStringList>
 #include <vector>
 
+#include "catalogue/CatalogueCommands.h"
 #include "catalogue/CatalogueLists.h"
 #include "catalogue/CatalogueRecords.h"
 #include "runtime/TextMatrix.h"
 
 class CommonDiskRoutines;
 struct SalesItemsList;
-
-enum class CatalogueList { Services, Items, Custom };
 
 /// Columns of the three grids; all cells are text.
 namespace ServiceColumn {
@@ -101,7 +100,7 @@ class Catalogue {
   QStringList m_categories;
   QSet<QString> m_categorySet;
   InventoryItemRecord m_itemRecord;  ///< The one record buffer of the items: the record last read.
-  std::array<bool, 26> m_commands;
+  std::array<bool, CatalogueCommand::Count> m_commands;
 };
 
 /// Name and record length of a list's file.

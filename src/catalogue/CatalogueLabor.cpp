@@ -20,7 +20,7 @@ void Catalogue::LoadLabor() {
     rates.txtLaborRate.fill(ZeroCurrencyText());
   }
   Labor = rates;
-  EnableCommand(16, exists);
+  EnableCommand(CatalogueCommand::ReloadLabor, exists);
   if (LaborLoaded) LaborLoaded();
 }
 

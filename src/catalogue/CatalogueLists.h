@@ -1,12 +1,21 @@
 /// The catalogue as the invoice sees it: the names and prices that its entry lists offer, and the quantity breaks.
 #pragma once
 
-#include <QString>
 #include <array>
 #include <functional>
+#include <QString>
 #include <vector>
 
 #include "runtime/Currency.h"
+
+enum class CatalogueList { Services, Items, Custom };
+inline constexpr std::array AllCatalogueLists{CatalogueList::Services, CatalogueList::Items, CatalogueList::Custom};
+
+/// The list's place in what has one element for each: `CatalogueLists::Entries`, and the invoice's description and
+/// price boxes.
+constexpr int ElementOf(CatalogueList list) {
+  return static_cast<int>(list);
+}
 
 /// One entry of a description list with the price that stands at the same place of the price list.
 struct CatalogueEntry {
@@ -21,18 +30,18 @@ struct QuantityBreak {
   qint32 Units = 0;
 };
 
-/// Element 0 services, 1 inventoried items, 2 custom items. The catalogue fills it at each load; the invoice screen's
-/// lists show it.
+/// The catalogue fills it at each load; the invoice screen's lists show it.
 struct CatalogueLists {
-  std::array<std::vector<CatalogueEntry>, 3> Entries;
+  std::array<std::vector<CatalogueEntry>, AllCatalogueLists.size()> Entries;  ///< By `ElementOf` their list.
+  std::vector<CatalogueEntry>& EntriesOf(CatalogueList list) { return Entries.at(static_cast<std::size_t>(list)); }
   std::vector<QuantityBreak> ItemBreaks;    ///< `ItemDiscountPrice` and `ItemDiscountUnits`, indexed from 1.
   std::vector<QuantityBreak> CustomBreaks;  ///< `CustomDiscountPrice` and `CustomDiscountUnits`, indexed from 1.
   std::vector<QString> lstCategories;       ///< "All" first.
   /// Called after a list changed, with its element; the screens that show it listen. May be empty.
   std::vector<std::function<void(int element)>> Changed;
 
-  void Announce(int element) const {
-    for (const auto& listener : Changed) listener(element);
+  void Announce(CatalogueList list) const {
+    for (const auto& listener : Changed) listener(ElementOf(list));
   }
 };
 

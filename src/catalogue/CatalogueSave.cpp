@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array AllLists{CatalogueList::Services, CatalogueList::Items, CatalogueList::Custom};
-
 QString GridNameOf(CatalogueList list) {
   switch (list) {
     case CatalogueList::Services:
@@ -34,8 +32,8 @@ bool HoldsNothing(const TextMatrix& grid) {
 }  // namespace
 
 void Catalogue::SaveCatalogue() {
-  for (const CatalogueList list : AllLists) RequireRoom(list);
-  for (const CatalogueList list : AllLists) SaveList(list);
+  for (const CatalogueList list : AllCatalogueLists) RequireRoom(list);
+  for (const CatalogueList list : AllCatalogueLists) SaveList(list);
   if (m_disk.FileExists(CatalogueFile::Services())) LoadServices();
   if (m_disk.FileExists(CatalogueFile::Items())) LoadAdditionalItems();
   if (m_disk.FileExists(CatalogueFile::Custom())) LoadCustomItems();

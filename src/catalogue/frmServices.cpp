@@ -13,28 +13,26 @@ frmServices::frmServices(ScreenHost& host, Screens& screens, Catalogue& catalogu
       m_ui(std::make_unique<Ui::frmServices>()),
       m_screens(screens),
       m_catalogue(catalogue),
-      m_dialogs(dialogs) {
+      m_dialogs(dialogs),
+      m_editor(catalogue, dialogs, *this) {
   m_ui->setupUi(this);
-  m_cmdServices = std::make_unique<ControlArray<QPushButton, 26>>(this, u"cmdServices"_s);
+  m_cmdServices = std::make_unique<ControlArray<QPushButton, CatalogueCommand::Count>>(this, u"cmdServices"_s);
   m_txtDescription = std::make_unique<ControlArray<QLineEdit, 3>>(this, u"txtDescription"_s);
   m_txtCharge = std::make_unique<ControlArray<QLineEdit, 5>>(this, u"txtCharge"_s);
   m_txtLabor = std::make_unique<ControlArray<QLineEdit, 3>>(this, u"txtLabor"_s);
   m_txtLaborRate = std::make_unique<ControlArray<QLineEdit, 3>>(this, u"txtLaborRate"_s);
-  for (const CatalogueList list : {CatalogueList::Services, CatalogueList::Items, CatalogueList::Custom}) {
+  for (const CatalogueList list : AllCatalogueLists) {
     View(list)->SetMatrix(&m_catalogue.Grid(list));
-    View(list)->Click = [this, list] { RowClick(list); };
+    View(list)->Click = [this, list] { m_editor.ClickRow(list); };
     // Enter and the space bar click the row that the arrow keys reached.
     View(list)->KeyPress = [this, list](int key) {
-      if (key == 13 || key == ' ') RowClick(list);
+      if (key == 13 || key == ' ') m_editor.ClickRow(list);
     };
   }
   ShowCatalogue();
   ListenToCatalogue();
   ConnectTabs();
-  ConnectServiceCommands();
-  ConnectItemCommands();
-  ConnectLaborCommands();
-  ConnectCustomCommands();
+  ConnectCommands();
   ConnectBoxes();
   m_ui->Image1->SetPicture(DrawnPicture(Picture::Next, palette()));
 }
@@ -85,13 +83,13 @@ void frmServices::ConnectTabs() {
 void frmServices::FocusOnTab(int tab) {
   switch (tab) {
     case 0:
-      return SetFocusTo((*m_cmdServices)[1]);
+      return FocusOnCommand(CatalogueCommand::AddService);
     case 1:
-      return SetFocusTo((*m_cmdServices)[8]);
+      return FocusOnCommand(CatalogueCommand::AddItem);
     case 2:
-      return SetFocusTo((*m_txtLabor)[0]);
+      return FocusOn(CatalogueBox::txtLabor0);
     case 3:
-      return SetFocusTo((*m_cmdServices)[18]);
+      return FocusOnCommand(CatalogueCommand::AddCustom);
     default:
       return;
   }
@@ -106,7 +104,7 @@ void frmServices::changeEvent(QEvent* event) {
 }
 
 void frmServices::Activate() {
-  for (const int list : {0, 1, 2}) DisableEditing(list);
+  m_editor.Open();
   FocusOnTab(m_ui->tabServices->currentIndex());
 }
 
@@ -118,10 +116,7 @@ void frmServices::BeforeUserClose() {
 /// Escape is the way back, except while a record is being entered: that would be lost from sight.
 void frmServices::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return Screen::keyPressEvent(event);
-  for (const int save : {4, 13, 22}) {
-    if ((*m_cmdServices)[save]->isEnabled()) return;
-  }
-  PressButton((*m_cmdServices)[0]);
+  if (!m_editor.IsEntering()) PressButton((*m_cmdServices)[CatalogueCommand::Menu]);
 }
 
 GridView* frmServices::View(CatalogueList list) const {
@@ -134,62 +129,4 @@ GridView* frmServices::View(CatalogueList list) const {
       break;
   }
   return m_ui->fgCustom;
-}
-
-void frmServices::RowClick(CatalogueList list) {
-  if (m_catalogue.Grid(list).Row() < 1) return;
-  switch (list) {
-    case CatalogueList::Services:
-      // Its Modify button is made live by a load alone, which is meant.
-      return Enable(2, true);
-    case CatalogueList::Items:
-      Enable(10, true);
-      return Enable(9, true);
-    case CatalogueList::Custom:
-      Enable(20, true);
-      return Enable(19, true);
-  }
-}
-
-void frmServices::Enable(int command, bool enabled) {
-  m_catalogue.EnableCommand(command, enabled);
-}
-
-void frmServices::SetEditing(int list, bool enabled) {
-  switch (list) {
-    case 0:
-      Enable(4, enabled);
-      (*m_txtCharge)[0]->setEnabled(enabled);
-      return (*m_txtDescription)[0]->setEnabled(enabled);
-    case 1:
-      Enable(13, enabled);
-      (*m_txtCharge)[1]->setEnabled(enabled);
-      (*m_txtCharge)[2]->setEnabled(enabled);
-      return (*m_txtDescription)[1]->setEnabled(enabled);
-    default:
-      Enable(22, enabled);
-      (*m_txtCharge)[3]->setEnabled(enabled);
-      (*m_txtCharge)[4]->setEnabled(enabled);
-      return (*m_txtDescription)[2]->setEnabled(enabled);
-  }
-}
-
-/// `entry` is the first charge box of the list: 0, 1 or 3. Prices and category of an item stay, which is meant.
-void frmServices::ClearEntry(int entry) {
-  (*m_txtCharge)[entry]->clear();
-  switch (entry) {
-    case 0:
-      m_ui->lstTime->setCurrentRow(0);
-      return (*m_txtDescription)[0]->clear();
-    case 1:
-      for (QLineEdit* box : {(*m_txtDescription)[1], m_ui->txtOnHand, m_ui->txtDiscountQty, m_ui->txtReorderAmount,
-                             m_ui->txtReorderAt}) {
-        box->clear();
-      }
-      return;
-    default:
-      (*m_txtDescription)[2]->clear();
-      (*m_txtCharge)[4]->clear();
-      return m_ui->txtCustomDiscItems->clear();
-  }
 }

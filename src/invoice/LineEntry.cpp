@@ -17,7 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int CustomElement = 2;
+constexpr int ItemElement = ElementOf(CatalogueList::Items);
+constexpr int CustomElement = ElementOf(CatalogueList::Custom);
 
 /// A line that its boxes passed, not yet in the grid.
 struct DraftLine {
@@ -185,7 +186,7 @@ void SelectDescription(WorkingInvoice& invoice, const CatalogueLists& lists, int
   box = {entry.Description, index};
   // The custom list is sorted and its prices are not: there the data word says where the price stands.
   SelectPrice(invoice, lists, element, element == CustomElement ? entry.Data : index);
-  if (element == 1) invoice.Controls.Focus = u"txtUnits"_s;
+  if (element == ItemElement) invoice.Controls.Focus = u"txtUnits"_s;
   if (element == CustomElement) invoice.Controls.Focus = u"txtCUnits"_s;
 }
 
@@ -214,7 +215,7 @@ void ClearSelection(WorkingInvoice& invoice, int element) {
 
 void PickCategory(WorkingInvoice& invoice, Catalogue& catalogue, const CatalogueLists& lists, int index) {
   if (index < 0 || static_cast<size_t>(index) >= lists.lstCategories.size()) return;
-  ClearSelection(invoice, 1);
+  ClearSelection(invoice, ItemElement);
   if (index == 0) {
     catalogue.LoadAdditionalItems();
     return;

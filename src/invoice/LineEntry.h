@@ -4,9 +4,10 @@
 #include <QString>
 #include <vector>
 
+#include "catalogue/CatalogueLists.h"
+
 class Catalogue;
 class Dialogs;
-struct CatalogueLists;
 struct TaxConfiguration;
 struct WorkingInvoice;
 
@@ -19,9 +20,10 @@ inline constexpr int Custom = 3;
 inline constexpr int Labor = 4;
 }  // namespace LineKind
 
-/// Element of `cboDescription` and `cboPrice` that a kind works on: custom lines on 2, the others on their own index.
+/// Element of `cboDescription` and `cboPrice` that a kind works on, `ElementOf` its list: custom lines on the custom
+/// items', the others on their own index.
 constexpr int ElementOf(int kind) {
-  return kind == LineKind::Custom ? 2 : kind;
+  return kind == LineKind::Custom ? ElementOf(CatalogueList::Custom) : kind;
 }
 
 /// What posting reads beside the invoice.

@@ -84,7 +84,7 @@ void frmInvoice::WireCategories() {
     if (!self) return;
     self->FillList(element);
     ClearSelection(self->m_invoice, element);
-    if (element == LineKind::Item && !self->m_picking) self->FillCategories();
+    if (element == ElementOf(CatalogueList::Items) && !self->m_picking) self->FillCategories();
     self->ShowInvoice();
   });
   On(ui->lstCategories, &QListWidget::itemClicked, Doing([this] { Pick(); }));

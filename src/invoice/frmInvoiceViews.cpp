@@ -121,7 +121,7 @@ void frmInvoice::mnuItems() {
   HideFrames();
   ShowInstructions(6);
   ui->lstCategories->setCurrentRow(-1);
-  ClearSelection(m_invoice, 1);
+  ClearSelection(m_invoice, ElementOf(LineKind::Item));
   m_invoice.Entry.txtUnits.clear();
   ui->fraItems->show();
   m_invoice.Controls.Focus = u"cboDescription_1"_s;
