@@ -286,6 +286,34 @@ class AuxiliaryDataTest : public QObject {
     QCOMPARE(desk.Program.Tree.Bytes(File(u"1"_s, 2)), "third\r\n");
   }
 
+  void theBigWindowGoesIntoTheBoxOfTheCustomerThenShown() {
+    CustomerDesk desk(CustomerDesk::Many(2));
+    desk.Program.Tree.Write(File(u"1"_s, 1), "first\r\n");
+    desk.Program.Tree.Write(File(u"2"_s, 1), "second\r\n");
+    OpenAux(desk);
+    desk.Driver().DoubleClick(u"txtAux_1"_s);
+    desk.Click(u"cmdNav_2"_s);
+    QVERIFY(desk.Sees(u"fraBig"_s));
+    QCOMPARE(desk.Text(u"txtBig"_s), u"first\n"_s);
+    QCOMPARE(Aux(desk, 1), u"second\n"_s);
+    desk.Click(u"cmdSaveAux_6"_s);
+    QCOMPARE(desk.Text(u"txtBig"_s), u"second\n"_s);
+    desk.Fill(u"txtBig"_s, u"first"_s);
+    desk.Click(u"cmdSaveAux_4"_s);
+    QCOMPARE(Aux(desk, 1), u"first"_s);
+    QCOMPARE(Aux(desk, 0), QString());
+  }
+
+  void aCustomerBeingAddedShowsTheBoxesOfTheOneBefore() {
+    CustomerDesk desk(CustomerDesk::Many(1));
+    desk.Program.Tree.Write(File(u"1"_s, 0), "first\r\n");
+    OpenAux(desk);
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QCOMPARE(desk.Box(0), QString());
+    QCOMPARE(Aux(desk, 0), u"first\n"_s);
+    QVERIFY(desk.Sees(u"fraAux"_s));
+  }
+
   void theKeyboardOpensAndClosesTheBigWindow() {
     CustomerDesk desk(CustomerDesk::Many(1));
     OpenAux(desk);
