@@ -27,6 +27,7 @@ int main(int argc, char* argv[]) {
   measure("customers", [&] { MeasureCustomers(full.path()); });
   measure("search", [&] { MeasureSearch(full.path()); });
   measure("commit", [] { MeasureCommit(); });
+  measure("sales", [] { MeasureItemSales(); });
   measure("page", [] { MeasurePage(); });
   return 0;
 }

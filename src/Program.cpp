@@ -8,6 +8,7 @@
 #include "printing/frmBlanks.h"
 #include "ProgramObjects.h"
 #include "records/frmIncomplete.h"
+#include "records/frmSalesReport.h"
 #include "records/PartialList.h"
 #include "setup/frmSetup.h"
 #include "shell/DataTree.h"
@@ -116,6 +117,8 @@ Program::Builder Program::BuilderOf(ScreenName screen) {
             *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
                                *m_platform.Calendar, *this, m_objects->Reports});
       };
+    case ScreenName::frmSalesReport:
+      return [this] { return BuildSalesReport(); };
     default:
       return nullptr;
   }
@@ -128,6 +131,13 @@ std::unique_ptr<Screen> Program::BuildInvoice() {
                          *m_platform.Calendar, *this, our.Customer, our.SalesItems, our.Routines, our.Pages,
                          [&our] { return our.Partials.SelectedInvoiceNo(); },
                          [&our] { LoadPartialList(our.Partials, our.Disk); }});
+}
+
+std::unique_ptr<Screen> Program::BuildSalesReport() {
+  Objects& our = *m_objects;
+  return std::make_unique<frmSalesReport>(
+      *this, SalesDesk{our.Sales, our.SalesDays, our.SalesPickers, our.SalesItems, our.SalesPages, our.Routines,
+                       our.Disk, *m_platform.Boxes, *m_platform.Calendar, our.Live.Business, *this});
 }
 
 MainMenuContext Program::MenuContext() {

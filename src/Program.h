@@ -77,6 +77,7 @@ class Program final : public Screens, public ScreenHost {
   /// Makes the screen if it isn't there; nullptr where it can't.
   Screen* Build(ScreenName screen);
   std::unique_ptr<Screen> BuildInvoice();
+  std::unique_ptr<Screen> BuildSalesReport();
   void Open(Screen& screen);
   void KeepAWindow();
   void HideAll();

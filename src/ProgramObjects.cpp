@@ -11,7 +11,9 @@ Program::Objects::Objects(const Platform& platform)
       Prices(Disk, Lists, SalesItems),
       Routines(*platform.Paper, Live.Print, Dialog),
       Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}),
-      Reports(Routines, Pages, *platform.Calendar) {}
+      Reports(Routines, Pages, *platform.Calendar),
+      SalesPickers(SalesDays, *platform.Boxes, *platform.Calendar),
+      SalesPages(Routines, Pages, *platform.Calendar) {}
 
 void Program::Objects::LoadSettings() {
   LoadSetup(Disk, Live, &IsPicture, [this] {
@@ -22,5 +24,6 @@ void Program::Objects::LoadSettings() {
 
 void Program::Objects::LoadHiddenScreens() {
   LoadSalesItems(SalesItems, Disk);
+  SalesPickers.Load();
   Prices.Load();
 }

@@ -11,7 +11,10 @@
 #include "printing/PrinterRoutines.h"
 #include "Program.h"
 #include "records/GridReport.h"
+#include "records/ItemSales.h"
 #include "records/PartialList.h"
+#include "records/SalesRange.h"
+#include "records/SalesReport.h"
 #include "runtime/Clock.h"
 #include "runtime/Dialogs.h"
 #include "setup/LiveSettings.h"
@@ -44,4 +47,8 @@ struct Program::Objects {
   PrinterRoutines Routines;
   KVPrint Pages;
   GridReport Reports;
+  ItemSales Sales;
+  SalesRange SalesDays;
+  SalesDates SalesPickers;
+  SalesReport SalesPages;
 };

@@ -1,5 +1,6 @@
 #include "catalogue/SalesItemsList.h"
 
+#include <algorithm>
 #include <QSet>
 
 #include "catalogue/CatalogueRecords.h"
@@ -17,6 +18,10 @@ void AddNames(std::vector<SalesItem>& items, CommonDiskRoutines& disk, const QSt
 }
 
 }  // namespace
+
+bool AnyTicked(const SalesItemsList& list) {
+  return std::any_of(list.Items.begin(), list.Items.end(), [](const SalesItem& item) { return item.Ticked; });
+}
 
 void LoadSalesItems(SalesItemsList& list, CommonDiskRoutines& disk) {
   std::vector<SalesItem> items;

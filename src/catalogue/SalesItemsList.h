@@ -16,6 +16,9 @@ struct SalesItemsList {
   std::vector<SalesItem> Items;
 };
 
+/// Whether any entry is ticked.
+bool AnyTicked(const SalesItemsList& list);
+
 /// Fills the list from the two record files, each only if it exists. Ticks are kept by name. A file of more than 255
 /// records throws RuntimeError 6 that names it.
 void LoadSalesItems(SalesItemsList& list, CommonDiskRoutines& disk);

@@ -9,6 +9,7 @@
 #include "catalogue/SalesItemsList.h"
 #include "customers/CommonAccountRoutines.h"
 #include "customers/CustomerOnScreen.h"
+#include "invoice/SoldItemRecord.h"
 #include "invoice/WorkingInvoice.h"
 #include "runtime/Dates.h"
 #include "runtime/Dialogs.h"
@@ -20,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int SoldItemLength = 90;
 constexpr int SalesJournalLength = 125;
 constexpr int TaxRecordLength = 75;
 
@@ -42,9 +42,9 @@ void WriteSoldItems(const WorkingInvoice& invoice, const SalesItemsList& list, C
   qint32 number = 1;
   if (disk.FileExists(name)) {
     const auto length = static_cast<double>(disk.Store().Size(disk.PathOf(name)));
-    number = ToInt32(length / SoldItemLength + 1.0, name);
+    number = ToInt32(length / SoldItemRecord::Length + 1.0, name);
   }
-  RandomFile file = disk.OpenRandomFile(name, SoldItemLength);
+  RandomFile file = disk.OpenRandomFile(name, SoldItemRecord::Length);
   // How often each name is on the list: a name that stands there twice is recorded twice, which is meant.
   QHash<QString, int> timesListed;
   for (const SalesItem& item : list.Items) ++timesListed[TrimBlanks(item.Name)];
@@ -52,9 +52,10 @@ void WriteSoldItems(const WorkingInvoice& invoice, const SalesItemsList& list, C
     const QString& description = invoice.fgInvoice.Text(row, LineColumn::Description);
     for (int times = timesListed.value(description); times > 0; --times) {
       const qint16 quantity = ToInt16(invoice.fgInvoice.Text(row, LineColumn::Quantity), u"Quantity"_s);
-      RecordBuilder record(SoldItemLength);
-      record.Text(0, 60, TrimBlanks(description)).Double(60, ToDayCount(today));
-      record.Text(68, 20, QString::number(invoice.InvoiceNo)).Int16(88, quantity);
+      using namespace SoldItemRecord;
+      RecordBuilder record(Length);
+      record.Text(Description, DescriptionWidth, TrimBlanks(description)).Double(SaleDate, ToDayCount(today));
+      record.Text(InvoiceNo, InvoiceNoWidth, QString::number(invoice.InvoiceNo)).Int16(Quantity, quantity);
       file.Put(number++, record.Record());
     }
   }

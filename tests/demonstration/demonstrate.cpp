@@ -31,6 +31,7 @@ class Demonstration : public QObject {
   void anInvoiceIsComposedPrintedAndRecorded();
   void aLongInvoiceGoesOnPerforatedPaper();
   void aProposalBecomesAnInvoice();
+  void theSalesAreReported();
   void theDayEnds();
 
  private:
@@ -348,6 +349,19 @@ void Demonstration::aProposalBecomesAnInvoice() {
   invoice.Click(u"cmdPrint"_s);
   FinishInvoice(invoice, u"proposal-invoice"_s);
   m_store->Remove(file);
+}
+
+void Demonstration::theSalesAreReported() {
+  OpenRoutine(5);
+  const ScreenDriver sales(u"frmSalesReport"_s);
+  sales.Click(u"cmdSales_1"_s);
+  sales.Click(u"cmdIncome_2"_s);
+  QCOMPARE(sales.Control<QTableView>(u"fgTotals"_s)->model()->rowCount(), 4);
+  Picture(sales, u"item-sales"_s);
+  m_answers->AcceptDialog();
+  sales.Click(u"cmdSales_4"_s);
+  QVERIFY(!sales.IsEnabled(u"cmdSales_4"_s));
+  sales.Click(u"cmdSales_0"_s);
 }
 
 void Demonstration::theDayEnds() {

@@ -46,6 +46,12 @@ class DateBoxTest : public QObject {
   void aDateThatIsSetIsToldAtOnce();
   void aDateThatIsShownIsNotTold();
   void aDateIsNotShownIntoTheTyping();
+  void aBoxWithALatestDateTakesEarlierOnesInWhateverOrder_data();
+  void aBoxWithALatestDateTakesEarlierOnesInWhateverOrder();
+  void aLaterDateThatIsTypedIsToldAndCutIfItStays();
+  void nobodyStepsBeyondTheLatestDate();
+  void aLatestDateIsToldToNobody();
+  void whatTheCalendarPassesOverIsNotTold();
 };
 
 void DateBoxTest::aTypedDateIsToldOnceWhenItIsEnded_data() {
@@ -98,6 +104,70 @@ void DateBoxTest::aDateIsNotShownIntoTheTyping() {
   bench.Box->ShowDate(QDate(2026, 3, 7));
   bench.Driver.PressKey(Qt::Key_Return);
   QCOMPARE(bench.Told, QList<QDate>{QDate(2026, 2, 9)});
+}
+
+void DateBoxTest::aBoxWithALatestDateTakesEarlierOnesInWhateverOrder_data() {
+  QTest::addColumn<QString>("typed");
+  QTest::addColumn<QDate>("date");
+  QTest::newRow("a later month of an earlier year") << u"12/5/2025"_s << QDate(2025, 12, 5);
+  QTest::newRow("a later day of an earlier month") << u"2/28/2026"_s << QDate(2026, 2, 28);
+  QTest::newRow("the latest itself") << u"3/7/2026"_s << QDate(2026, 3, 7);
+}
+
+void DateBoxTest::aBoxWithALatestDateTakesEarlierOnesInWhateverOrder() {
+  QFETCH(const QString, typed);
+  QFETCH(const QDate, date);
+  Bench bench;
+  bench.Box->SetLatest(QDate(2026, 3, 7));
+  bench.Type(typed);
+  bench.Driver.PressKey(Qt::Key_Tab);
+  QCOMPARE(bench.Box->date(), date);
+}
+
+void DateBoxTest::aLaterDateThatIsTypedIsToldAndCutIfItStays() {
+  Bench bench;
+  bench.Box->SetLatest(QDate(2026, 3, 7));
+  bench.Type(u"4/9/2026"_s);
+  bench.Driver.PressKey(Qt::Key_Tab);
+  QCOMPARE(bench.Told, QList<QDate>{QDate(2026, 4, 9)});
+  QCOMPARE(bench.Box->date(), QDate(2026, 3, 7));
+}
+
+void DateBoxTest::nobodyStepsBeyondTheLatestDate() {
+  Bench bench;
+  bench.Box->SetLatest(QDate(2026, 3, 7));
+  bench.Type(u"3/6/2026"_s);
+  bench.Driver.PressKey(Qt::Key_Return);
+  for (int i = 0; i < 3; ++i) {
+    bench.Box->setCurrentSection(QDateTimeEdit::DaySection);
+    bench.Driver.PressKey(Qt::Key_Up);
+  }
+  QCOMPARE(bench.Box->date(), QDate(2026, 3, 7));
+  QCOMPARE(bench.Told, (QList<QDate>{QDate(2026, 3, 6), QDate(2026, 3, 7)}));
+}
+
+void DateBoxTest::aLatestDateIsToldToNobody() {
+  Bench bench;
+  bench.Box->SetLatest(QDate(2026, 3, 1));
+  QCOMPARE(bench.Box->date(), QDate(2026, 3, 1));
+  QCOMPARE(bench.Told, QList<QDate>{});
+  bench.Box->ShowDate(QDate(2026, 2, 1));
+  QCOMPARE(bench.Told, QList<QDate>{});
+}
+
+void DateBoxTest::whatTheCalendarPassesOverIsNotTold() {
+  Bench bench;
+  QTest::mouseClick(bench.Box, Qt::LeftButton, {}, QPoint(bench.Box->width() - 8, bench.Box->height() / 2));
+  ScreenDriver::ProcessEvents();
+  QVERIFY(QApplication::activePopupWidget() != nullptr);
+  auto* days = bench.Box->calendarWidget()->findChild<QTableView*>();
+  for (int i = 0; i < 2; ++i) QTest::keyClick(days, Qt::Key_Down);
+  ScreenDriver::ProcessEvents();
+  QCOMPARE(bench.Told, QList<QDate>{});
+  QTest::keyClick(days, Qt::Key_Return);
+  ScreenDriver::ProcessEvents();
+  QVERIFY(QApplication::activePopupWidget() == nullptr);
+  QCOMPARE(bench.Told, QList<QDate>{QDate(2026, 3, 21)});
 }
 
 QTEST_MAIN(DateBoxTest)

@@ -1,0 +1,14 @@
+/// How far a long piece of work has come.
+#pragma once
+
+#include <functional>
+#include <QtGlobal>
+
+/// The work tells `done` of `total` steps now and then; the answer is whether to go on. Work that is told to stop
+/// leaves everything whole. An empty one always goes on.
+using Progress = std::function<bool(qint64 done, qint64 total)>;
+
+/// Asks at every 1024th step only, so that asking costs nothing.
+inline bool GoesOn(const Progress& progress, qint64 done, qint64 total) {
+  return !progress || done % 1024 != 0 || progress(done, total);
+}
