@@ -7,8 +7,7 @@
 using namespace Qt::StringLiterals;
 
 void PurgeAllPartials(PartialList& list, CommonDiskRoutines& disk) {
-  const QString folder = u"/KarvexInvoicer/IncompleteInvoices"_s;
-  for (const QString& file : disk.ListFiles(folder, u"*"_s)) disk.KillDataFile(folder + u'/' + file);
+  disk.KillEveryFile(u"/KarvexInvoicer/IncompleteInvoices"_s);
   LoadPartialList(list, disk);
 }
 

@@ -74,10 +74,14 @@ QByteArray ReadUpTo(FileDevice& device, int descriptor, qint64 size, qint64 offs
   return bytes;
 }
 
+/// Whether what the checked writer is writing, or left where it was killed, counts as a file.
+enum class Unfinished { Skipped, Listed };
+
 /// Calls `found` with each file of the folder that matches until it answers false. The kind of an entry comes with
 /// its name; only where the file system doesn't tell it is the file itself looked at. A folder that isn't there is
 /// empty; one that can't be read throws.
-void EachMatch(const QString& folder, const QString& wildcard, const std::function<bool(const QString&)>& found) {
+void EachMatch(const QString& folder, const QString& wildcard, Unfinished unfinished,
+               const std::function<bool(const QString&)>& found) {
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);
   if (!listing && errno == ENOENT) return;
   if (!listing) RaiseFileError(-errno, folder);
@@ -90,11 +94,25 @@ void EachMatch(const QString& folder, const QString& wildcard, const std::functi
     if (entry == nullptr) break;
     if (entry->d_type == DT_DIR) continue;
     const QString name = QFile::decodeName(entry->d_name);
-    if (name.endsWith(TemporaryEnding) || !pattern.match(name).hasMatch()) continue;
+    if (unfinished == Unfinished::Skipped && name.endsWith(TemporaryEnding)) continue;
+    if (!pattern.match(name).hasMatch()) continue;
     if (entry->d_type != DT_REG && !IsFileAt(folder + u'/' + name)) continue;
     if (!found(name)) return;
   }
   if (errno != 0) RaiseFileError(-errno, folder);
+}
+
+QStringList SortedMatches(const QString& folder, const QString& wildcard, Unfinished unfinished) {
+  QStringList names;
+  EachMatch(folder, wildcard, unfinished, [&](const QString& name) {
+    names.append(name);
+    return true;
+  });
+  std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+    const int order = a.compare(b, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : a < b;
+  });
+  return names;
 }
 
 }  // namespace
@@ -114,21 +132,16 @@ qint64 FileStore::Size(const QString& path) const {
 }
 
 QStringList FileStore::List(const QString& folder, const QString& wildcard) const {
-  QStringList names;
-  EachMatch(folder, wildcard, [&](const QString& name) {
-    names.append(name);
-    return true;
-  });
-  std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
-    const int order = a.compare(b, Qt::CaseInsensitive);
-    return order != 0 ? order < 0 : a < b;
-  });
-  return names;
+  return SortedMatches(folder, wildcard, Unfinished::Skipped);
+}
+
+QStringList FileStore::ListEverything(const QString& folder) const {
+  return SortedMatches(folder, QStringLiteral("*"), Unfinished::Listed);
 }
 
 bool FileStore::AnyMatch(const QString& folder, const QString& wildcard) const {
   bool any = false;
-  EachMatch(folder, wildcard, [&](const QString&) {
+  EachMatch(folder, wildcard, Unfinished::Skipped, [&](const QString&) {
     any = true;
     return false;
   });

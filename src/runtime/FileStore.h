@@ -24,6 +24,8 @@ class FileStore {
   /// what the checked writer is just writing isn't among them. A folder that isn't there is empty, one that can't be
   /// read throws.
   QStringList List(const QString& folder, const QString& wildcard) const;
+  /// The names of all files, with what the checked writer left where it was killed.
+  QStringList ListEverything(const QString& folder) const;
   /// Whether any file matches, without reading the rest of the folder.
   bool AnyMatch(const QString& folder, const QString& wildcard) const;
 

@@ -152,6 +152,12 @@ void CommonDiskRoutines::KillWithBackup(const QString& name) {
   KillDataFile(name);
 }
 
+void CommonDiskRoutines::KillEveryFile(const QString& folder) {
+  CloseAllFiles();
+  const QString path = PathOf(folder);
+  for (const QString& name : m_store.ListEverything(path)) m_store.Remove(path + u'/' + name);
+}
+
 void CommonDiskRoutines::CopyDataFile(const QString& from, const QString& to) {
   m_store.Copy(PathOf(from), PathOf(to));
 }

@@ -70,9 +70,10 @@ class CommonDiskRoutines {
   /// `SaveFile` of the text as one plain line, the backup copy dropped.
   void ReplaceTextFile(const QString& name, const QString& text);
 
-  void MakeDataFolder(const QString& name);  ///< Nothing if it is there; the parent must exist.
-  void KillDataFile(const QString& name);    ///< Closes all open files first; nothing if absent.
-  void KillWithBackup(const QString& name);  ///< The copy in /Backup, then the file.
+  void MakeDataFolder(const QString& name);   ///< Nothing if it is there; the parent must exist.
+  void KillDataFile(const QString& name);     ///< Closes all open files first; nothing if absent.
+  void KillWithBackup(const QString& name);   ///< The copy in /Backup, then the file.
+  void KillEveryFile(const QString& folder);  ///< Whatever their names, unfinished ones too; folders in it stay.
   void CopyDataFile(const QString& from, const QString& to);
   void RenameDataFile(const QString& from, const QString& to);
   bool AnyFileMatches(const QString& folder, const QString& wildcard) const;
