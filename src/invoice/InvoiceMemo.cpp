@@ -24,18 +24,22 @@ void SaveInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
 }  // namespace
 
 void LoadInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
-  invoice.DefaultMemo.clear();
-  if (!disk.FileExists(MemoFile)) {
-    invoice.txtMemo.clear();
-    SetMemoTick(invoice, false);
-    invoice.ckAddMemo = false;
-    return;
+  const bool isThere = disk.FileExists(MemoFile);
+  QString memo;
+  if (isThere) {
+    ListReader file = disk.OpenInputFile(MemoFile);
+    while (!file.AtEnd()) memo += file.ReadString() + u'\n';
   }
-  SetMemoTick(invoice, true);
-  invoice.ckAddMemo = true;
-  ListReader file = disk.OpenInputFile(MemoFile);
-  while (!file.AtEnd()) invoice.DefaultMemo += file.ReadString() + u'\n';
-  invoice.txtMemo += invoice.DefaultMemo;
+  invoice.DefaultMemo = memo;
+  SetMemoTick(invoice, isThere);
+  invoice.ckAddMemo = isThere;
+  if (!isThere) invoice.txtMemo.clear();
+  invoice.txtMemo += memo;
+}
+
+void ReloadInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
+  LoadInvoiceMemo(invoice, disk);
+  invoice.txtMemo = invoice.DefaultMemo;
 }
 
 void DoInvoiceMemoCommand(WorkingInvoice& invoice, int index, CommonDiskRoutines& disk) {
@@ -44,8 +48,7 @@ void DoInvoiceMemoCommand(WorkingInvoice& invoice, int index, CommonDiskRoutines
     invoice.txtMemo.clear();
     invoice.Controls.Focus = u"txtMemo"_s;
   } else if (index == 1) {
-    invoice.txtMemo.clear();
-    LoadInvoiceMemo(invoice, disk);
+    ReloadInvoiceMemo(invoice, disk);
   } else if (index == 2) {
     SaveInvoiceMemo(invoice, disk);
   }

@@ -2,6 +2,7 @@
 
 #include "invoice/ClearInvoice.h"
 #include "invoice/InvoiceImage.h"
+#include "invoice/InvoiceMemo.h"
 #include "invoice/WorkingInvoice.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
@@ -75,6 +76,8 @@ void LoadIncomplete(WorkingInvoice& invoice, CommonDiskRoutines& disk, const Clo
   // Everything is read before anything is taken over.
   const PartialImage image = OpenImage(disk, name);
   const QDate date = ParseShortDate(lastModified, name);
+  // The memo isn't saved either: the default takes the place of what was typed for the invoice before.
+  ReloadInvoiceMemo(invoice, disk);
   invoice.RecalledInvoice = true;
   TakeOver(invoice, image);
   ClearInvoice(invoice, clock);  // Spares the reference of a recalled invoice.
