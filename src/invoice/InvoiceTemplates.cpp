@@ -1,7 +1,5 @@
 #include "invoice/InvoiceTemplates.h"
 
-#include <QScopeGuard>
-
 #include "invoice/ClearInvoice.h"
 #include "invoice/WorkingInvoice.h"
 #include "runtime/Dialogs.h"
@@ -67,6 +65,37 @@ void ShowRecord(TextMatrix& grid, int row, const RecordView& record, const QStri
   grid.SetText(row, LineColumn::ApplyTax, record.Text(65, 5));
 }
 
+/// The failure of a load with what the user can do about it. The usual words would be untrue: no start of the program
+/// makes the folder, and the invoice was cleared before.
+RuntimeError LoadFailure(const RuntimeError& error, const CommonDiskRoutines& disk, const QString& fileName) {
+  const QString opened = disk.PathOf(OpenedName(fileName));
+  const QString counted = disk.PathOf(CountedName(fileName));
+  QString subject = error.Subject().startsWith(u'\\') ? disk.PathOf(error.Subject()) : error.Subject();
+  QString text = error.Text();
+  QString advice =
+      u"A template is read from %1, and its lines are counted in %2: put the same good file in both "
+      "places, then load it again."_s.arg(opened, counted);
+  if (error.Number() == ErrorNumber::PathNotFound) {
+    advice =
+        u"The program doesn't make that folder. Make it, put a copy of %1 there as %2, then load the template "
+        "again."_s.arg(counted, fileName);
+  } else if (error.Number() == ErrorNumber::OutOfRange) {
+    subject = counted;
+    text = u"It counts more lines than the %1 of an invoice."_s.arg(MaximumLines);
+    advice = u"Remove the file and save the template anew, then copy it and load it again."_s;
+  }
+  return RuntimeError(error.Number(), subject, text)
+      .WithAdvice(advice + u" The invoice was cleared for the load: enter again what it held."_s);
+}
+
+void LoadRecords(const TemplateDesk& desk, const QString& fileName) {
+  WorkingInvoice& invoice = desk.Invoice;
+  invoice.LineCount = static_cast<qint16>(desk.Disk.RecordCount(CountedName(fileName), RecordLength));
+  const QString name = OpenedName(fileName);
+  const RecordBuffer records = desk.Disk.OpenRandomFile(name, RecordLength).ReadAll();
+  for (int row = 1; row <= invoice.LineCount; ++row) ShowRecord(invoice.fgInvoice, row, records.Record(row), name);
+}
+
 }  // namespace
 
 QString TemplateFolder() {
@@ -74,15 +103,14 @@ QString TemplateFolder() {
 }
 
 void LoadTemplate(const TemplateDesk& desk, const QString& fileName) {
-  WorkingInvoice& invoice = desk.Invoice;
-  ClearInvoice(invoice, desk.Today);
-  // A load that fails on the way must not leave a count of lines that aren't there.
-  auto failed = qScopeGuard([&invoice] { ClearGrid(invoice); });
-  invoice.LineCount = static_cast<qint16>(desk.Disk.RecordCount(CountedName(fileName), RecordLength));
-  const QString name = OpenedName(fileName);
-  const RecordBuffer records = desk.Disk.OpenRandomFile(name, RecordLength).ReadAll();
-  for (int row = 1; row <= invoice.LineCount; ++row) ShowRecord(invoice.fgInvoice, row, records.Record(row), name);
-  failed.dismiss();
+  ClearInvoice(desk.Invoice, desk.Today);
+  try {
+    LoadRecords(desk, fileName);
+  } catch (const RuntimeError& error) {
+    // A load that fails on the way must not leave a count of lines that aren't there.
+    ClearGrid(desk.Invoice);
+    throw LoadFailure(error, desk.Disk, fileName);
+  }
 }
 
 bool SaveAsTemplate(const TemplateDesk& desk) {
@@ -102,7 +130,12 @@ bool SaveAsTemplate(const TemplateDesk& desk) {
   // A shorter list over a longer template keeps the old records behind it; that is meant.
   QByteArray content;
   if (desk.Disk.FileExists(SavedName(name))) content = desk.Disk.Store().ReadWhole(desk.Disk.PathOf(SavedName(name)));
-  desk.Disk.SaveFile(SavedName(name), records + content.mid(records.size()), BackupCopy::Kept);
+  try {
+    desk.Disk.SaveFile(SavedName(name), records + content.mid(records.size()), BackupCopy::Kept);
+  } catch (const RuntimeError& error) {
+    if (error.Number() != ErrorNumber::PathNotFound) throw;
+    throw error.WithAdvice(u"Save the template under a name without / and \\. Nothing was lost."_s);
+  }
   return true;
 }
 

@@ -24,7 +24,8 @@ struct TemplateDesk {
 QString TemplateFolder();
 
 /// Replaces the lines by those of the listed file. Throws RuntimeError 76 where the folder that it is opened under
-/// isn't there, 13 for a price that isn't a number, 9 for more lines than the grid holds; the invoice is empty then.
+/// isn't there, 13 for a price that isn't a number, 9 for more lines than the grid holds; the invoice is empty then,
+/// and the error's advice says so.
 void LoadTemplate(const TemplateDesk& desk, const QString& fileName);
 
 /// Asks for a name and writes the lines that have a quantity above 0. False where nothing was written: no name, one
