@@ -1,9 +1,10 @@
 // A whole day of a small business on the real screens, unattended: the first start, Setup, a catalogue, customers, and
-// three invoices, one of them for a proposal, printed to PDF and recorded. Leaves the data tree, the PDFs and a picture
-// of each screen in the folder that the command line names.
+// invoices of every kind, printed to PDF and recorded. Leaves the data tree, the PDFs and a picture of each screen in
+// the folder that the command line names.
 
 #include <cstdio>
 
+#include "demonstration/OtherInvoices.h"
 #include "desktop/PaperPrinter.h"
 #include "desktop/Style.h"
 #include "Program.h"
@@ -30,6 +31,7 @@ class Demonstration : public QObject {
   void customersAreFoundAgainAndDescribed();
   void anInvoiceIsComposedPrintedAndRecorded();
   void aLongInvoiceGoesOnPerforatedPaper();
+  void invoicesCarryEverythingElse();
   void aProposalBecomesAnInvoice();
   void theSalesAreReported();
   void theDayEnds();
@@ -324,6 +326,16 @@ void Demonstration::aLongInvoiceGoesOnPerforatedPaper() {
   invoice.Fill(u"txtFlatDiscount"_s, u"25"_s);
   invoice.Click(u"cmdAddDiscount"_s);
   FinishInvoice(invoice, u"long-invoice"_s);
+}
+
+void Demonstration::invoicesCarryEverythingElse() {
+  OtherInvoices others(*m_answers, *m_store, m_folder + u"/business"_s,
+                       [this](const ScreenDriver& screen, const QString& name) { Picture(screen, name); });
+  others.PayAnInvoiceWithANarrative();
+  others.ParkAnInvoiceAndKeepItsLines();
+  others.PackFromTheTemplate();
+  others.FinishTheParkedInvoice();
+  others.PrintSheetsToFillIn();
 }
 
 void Demonstration::aProposalBecomesAnInvoice() {
