@@ -1,6 +1,7 @@
 #include "runtime/FileStore.h"
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,6 +10,8 @@
 #include <functional>
 #include <QFile>
 #include <QRegularExpression>
+#include <QScopeGuard>
+#include <vector>
 
 #include "runtime/FileErrors.h"
 #include "runtime/RuntimeError.h"
@@ -77,34 +80,43 @@ QByteArray ReadUpTo(FileDevice& device, int descriptor, qint64 size, qint64 offs
 /// Whether what the checked writer is writing, or left where it was killed, counts as a file.
 enum class Unfinished { Skipped, Listed };
 
+/// How much of a folder the system tells at a time. One question about it needs little, however much it holds.
+constexpr size_t WholeFolder = 32768;
+constexpr size_t StartOfFolder = 1024;
+
 /// Calls `found` with each file of the folder that matches until it answers false. The kind of an entry comes with
 /// its name; only where the file system doesn't tell it is the file itself looked at. A folder that isn't there is
 /// empty; one that can't be read throws.
-void EachMatch(const QString& folder, const QString& wildcard, Unfinished unfinished,
+void EachMatch(const QString& folder, const QString& wildcard, Unfinished unfinished, size_t atATime,
                const std::function<bool(const QString&)>& found) {
-  const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);
-  if (!listing && errno == ENOENT) return;
-  if (!listing) RaiseFileError(-errno, folder);
+  const int descriptor = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0 && errno == ENOENT) return;
+  if (descriptor < 0) RaiseFileError(-errno, folder);
+  const auto close = qScopeGuard([descriptor] { ::close(descriptor); });
   const auto pattern =
       QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::wildcardToRegularExpression(wildcard)),
                          QRegularExpression::CaseInsensitiveOption);
+  std::vector<char> entries(atATime);
   while (true) {
-    errno = 0;
-    const dirent* entry = ::readdir(listing.get());
-    if (entry == nullptr) break;
-    if (entry->d_type == DT_DIR) continue;
-    const QString name = QFile::decodeName(entry->d_name);
-    if (unfinished == Unfinished::Skipped && name.endsWith(TemporaryEnding)) continue;
-    if (!pattern.match(name).hasMatch()) continue;
-    if (entry->d_type != DT_REG && !IsFileAt(folder + u'/' + name)) continue;
-    if (!found(name)) return;
+    const ssize_t told = ::getdents64(descriptor, entries.data(), entries.size());
+    if (told < 0) RaiseFileError(-errno, folder);
+    if (told == 0) return;
+    for (ssize_t at = 0; at < told;) {
+      const auto* entry = reinterpret_cast<const dirent64*>(entries.data() + at);
+      at += entry->d_reclen;
+      if (entry->d_type == DT_DIR) continue;
+      const QString name = QFile::decodeName(entry->d_name);
+      if (unfinished == Unfinished::Skipped && name.endsWith(TemporaryEnding)) continue;
+      if (!pattern.match(name).hasMatch()) continue;
+      if (entry->d_type != DT_REG && !IsFileAt(folder + u'/' + name)) continue;
+      if (!found(name)) return;
+    }
   }
-  if (errno != 0) RaiseFileError(-errno, folder);
 }
 
 QStringList SortedMatches(const QString& folder, const QString& wildcard, Unfinished unfinished) {
   QStringList names;
-  EachMatch(folder, wildcard, unfinished, [&](const QString& name) {
+  EachMatch(folder, wildcard, unfinished, WholeFolder, [&](const QString& name) {
     names.append(name);
     return true;
   });
@@ -141,7 +153,7 @@ QStringList FileStore::ListEverything(const QString& folder) const {
 
 bool FileStore::AnyMatch(const QString& folder, const QString& wildcard) const {
   bool any = false;
-  EachMatch(folder, wildcard, Unfinished::Skipped, [&](const QString&) {
+  EachMatch(folder, wildcard, Unfinished::Skipped, StartOfFolder, [&](const QString&) {
     any = true;
     return false;
   });
@@ -157,6 +169,34 @@ QByteArray FileStore::ReadPart(const QString& path, qint64 offset, qint64 size) 
   CheckFile(descriptor, path);
   const OpenFile file(m_device, descriptor);
   return ReadUpTo(m_device, descriptor, size, offset, path);
+}
+
+QByteArray FileStore::ReadLines(const QString& path, int lines) const {
+  constexpr qint64 chunk = 512;
+  const int descriptor = m_device.Open(path, FileDevice::OpenMode::Read);
+  CheckFile(descriptor, path);
+  const OpenFile file(m_device, descriptor);
+  QByteArray bytes;
+  qsizetype end = 0;  // Behind the last line found.
+  int found = 0;
+  while (true) {
+    const qsizetype before = bytes.size();
+    bytes.resize(before + chunk);
+    const qint64 got = m_device.Read(descriptor, bytes.data() + before, chunk, before);
+    CheckFile(got, path);
+    bytes.truncate(before + got);
+    while (found < lines) {
+      const qsizetype feed = bytes.indexOf('\n', end);
+      if (feed < 0) break;
+      end = feed + 1;
+      ++found;
+    }
+    if (found == lines) break;
+    // The last line may have no end.
+    if (got == 0) return bytes;
+  }
+  bytes.truncate(end);
+  return bytes;
 }
 
 void FileStore::WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content) {

@@ -30,6 +30,8 @@ class FileStore {
   bool AnyMatch(const QString& folder, const QString& wildcard) const;
 
   QByteArray ReadWhole(const QString& path) const;
+  /// The first `lines` lines with their ends, without reading the rest; fewer where the file has fewer.
+  QByteArray ReadLines(const QString& path, int lines) const;
   /// Up to `size` bytes from `offset`; fewer at the end of the file.
   QByteArray ReadPart(const QString& path, qint64 offset, qint64 size) const;
 

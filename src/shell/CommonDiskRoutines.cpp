@@ -103,6 +103,12 @@ ListReader CommonDiskRoutines::OpenInputFile(const QString& name) {
   return reader;
 }
 
+ListReader CommonDiskRoutines::OpenInputStart(const QString& name, int lines) {
+  ListReader reader(name, m_store.ReadLines(PathOf(name), lines));
+  reader.Attach(NewOpenMark());
+  return reader;
+}
+
 RandomFile CommonDiskRoutines::OpenRandomFile(const QString& name, int recordLength) {
   const QString path = PathOf(name);
   const bool created = !m_store.IsFile(path);

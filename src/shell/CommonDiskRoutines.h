@@ -55,7 +55,9 @@ class CommonDiskRoutines {
   bool FileExists(const QString& name);
   /// Number of records, 0 if the file is absent (after the restore). Above 32767: RuntimeError 6.
   int RecordCount(const QString& name, int recordLength);
-  ListReader OpenInputFile(const QString& name);                     ///< Reads the file whole; error 53 if absent.
+  ListReader OpenInputFile(const QString& name);  ///< Reads the file whole; error 53 if absent.
+  /// The same for no more of the file than its first `lines` lines, where a list needs no more of each.
+  ListReader OpenInputStart(const QString& name, int lines);
   RandomFile OpenRandomFile(const QString& name, int recordLength);  ///< Creates the file if absent.
   /// Writes the record behind the last one, into a new file if there is none, after the restore. Error 6 on a full
   /// file.

@@ -50,6 +50,27 @@ class FileStoreTest : public QObject {
     QCOMPARE(m_store.ReadPart(Path(u"/a.txt"_s), 20, 4), "");
   }
 
+  void theFirstLinesAreReadWithoutTheRest() {
+    const QByteArray head = "one\r\n\r\nthree\n";
+    m_tree->Write(u"/a.txt"_s, head + QByteArray(100000, 'x'));
+    QCOMPARE(m_store.ReadLines(Path(u"/a.txt"_s), 3), head);
+    QCOMPARE(m_store.ReadLines(Path(u"/a.txt"_s), 1), "one\r\n");
+    m_device.Reset();
+    QCOMPARE(m_store.ReadLines(Path(u"/a.txt"_s), 3), head);
+    QVERIFY(m_device.BytesRead() < 1000);
+    QCOMPARE(m_device.Count(Call::Read), 1);
+    // Long lines, and a last one without an end.
+    const QByteArray line(3000, 'y');
+    m_tree->Write(u"/b.txt"_s, line + "\r\n" + line + "\r\nend");
+    QCOMPARE(m_store.ReadLines(Path(u"/b.txt"_s), 2), line + "\r\n" + line + "\r\n");
+    QCOMPARE(m_store.ReadLines(Path(u"/b.txt"_s), 5), line + "\r\n" + line + "\r\nend");
+    m_tree->Write(u"/c.txt"_s, "");
+    QCOMPARE(m_store.ReadLines(Path(u"/c.txt"_s), 5), "");
+    const RuntimeError missing = CaughtFrom([&] { m_store.ReadLines(Path(u"/none.txt"_s), 5); });
+    QCOMPARE(missing.Number(), 53);
+    QCOMPARE(missing.Subject(), Path(u"/none.txt"_s));
+  }
+
   void whatCannotBeReadIsToldWithItsPath() {
     m_tree->Write(u"/a.txt"_s, "x");
     const RuntimeError missing = CaughtFrom([&] { m_store.ReadWhole(Path(u"/none.txt"_s)); });
