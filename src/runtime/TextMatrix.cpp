@@ -190,15 +190,24 @@ void TextMatrix::SortRows(const std::function<bool(const QStringList&, const QSt
 }
 
 void TextMatrix::SortGenericAscending(int col) {
+  SortGeneric(col, false);
+}
+
+void TextMatrix::SortGenericDescending(int col) {
+  SortGeneric(col, true);
+}
+
+void TextMatrix::SortGeneric(int col, bool descending) {
   Require(0, col);
   std::vector<double> numbers;
   numbers.reserve(m_cells.size());
   for (int row = 1; row < m_rows; ++row) numbers.push_back(NumberOrNaN(Text(row, col)));
-  Reorder(StableOrder(m_rows - 1, [&](int a, int b) {
+  const auto less = [&](int a, int b) {
     const double x = numbers[static_cast<size_t>(a)], y = numbers[static_cast<size_t>(b)];
     if (!std::isnan(x) && !std::isnan(y)) return x < y;
     return Text(a + 1, col) < Text(b + 1, col);
-  }));
+  };
+  Reorder(StableOrder(m_rows - 1, [&](int a, int b) { return descending ? less(b, a) : less(a, b); }));
 }
 
 void TextMatrix::SortTextIgnoringCase(int col) {

@@ -34,6 +34,8 @@ class TextMatrix : public QAbstractTableModel {
   void SortRows(const std::function<bool(const QStringList&, const QStringList&)>& less);
   /// Generic ascending order of one column: as numbers where both cells are numeric, else as text by character code.
   void SortGenericAscending(int col);
+  /// The same the other way round; rows that are alike keep their order here too.
+  void SortGenericDescending(int col);
   /// Text order ignoring case.
   void SortTextIgnoringCase(int col);
   /// `told` whenever the current row changes, by code or by hand, as long as `context` lives; in the order in which
@@ -59,6 +61,7 @@ class TextMatrix : public QAbstractTableModel {
   };
 
   void Require(int row, int col) const;
+  void SortGeneric(int col, bool descending);
   void Reorder(const std::vector<int>& order);  ///< Of the data rows, counted from 0.
   int m_rows;
   int m_cols;

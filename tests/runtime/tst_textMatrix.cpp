@@ -202,6 +202,20 @@ class TextMatrixTest : public QObject {
     QCOMPARE(Column(matrix, 0), (QStringList{u"0"_s, u"1.0"_s, u"1"_s, u"1.00"_s}));
   }
 
+  void theGenericOrderRunsTheOtherWayRoundAndStaysStable() {
+    TextMatrix matrix(u"a|b"_s, 6);
+    const QList<QStringList> rows{
+        {u"2"_s, u"x"_s}, {u"10"_s, u"y"_s}, {u"b"_s, u"z"_s}, {u"2.0"_s, u"v"_s}, {u"B"_s, u"w"_s}};
+    for (int row = 1; row <= 5; ++row) {
+      for (int col = 0; col < 2; ++col) matrix.SetText(row, col, rows[row - 1][col]);
+    }
+    matrix.SortGenericDescending(0);
+    QStringList order;
+    for (int row = 1; row <= 5; ++row) order.append(matrix.Text(row, 1));
+    QCOMPARE(order, (QStringList{u"z"_s, u"w"_s, u"y"_s, u"x"_s, u"v"_s}));
+    QCOMPARE(ErrorOf([&] { matrix.SortGenericDescending(2); }), 9);
+  }
+
   void aMixtureThatHasNoConsistentOrderStillEndsWithEveryRow() {
     TextMatrix matrix(u"<A|<B"_s);
     QStringList texts;
