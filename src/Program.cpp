@@ -8,6 +8,7 @@
 #include "printing/frmBlanks.h"
 #include "ProgramObjects.h"
 #include "records/frmIncomplete.h"
+#include "records/frmReprint.h"
 #include "records/frmSalesReport.h"
 #include "records/PartialList.h"
 #include "setup/frmSetup.h"
@@ -16,10 +17,9 @@
 #include "shell/frmSplash.h"
 #include "shell/frmStartup.h"
 #include "shell/KarvexMasterModule.h"
-#include "telephony/frmDialer.h"
 
 Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper, SerialPort& modem) {
+                    Dialogs& boxes, Printer& paper) {
   Platform platform;
   platform.DataRoot = root;
   platform.EXEName = QStringLiteral("KarvexInvoicer");
@@ -30,7 +30,6 @@ Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& 
   platform.Calendar = &calendar;
   platform.Boxes = &boxes;
   platform.Paper = &paper;
-  platform.Modem = &modem;
   return platform;
 }
 
@@ -121,11 +120,8 @@ Program::Builder Program::BuilderOf(ScreenName screen) {
       };
     case ScreenName::frmSalesReport:
       return [this] { return BuildSalesReport(); };
-    case ScreenName::frmDialer:
-      return [this] {
-        return std::make_unique<frmDialer>(
-            *this, *this, DialerDesk{*m_platform.Modem, m_objects->Disk, *m_platform.Boxes, m_objects->Live.Phone});
-      };
+    case ScreenName::frmReprint:
+      return [this] { return BuildReprint(); };
     default:
       return nullptr;
   }
@@ -147,13 +143,20 @@ std::unique_ptr<Screen> Program::BuildSalesReport() {
                        our.Disk, *m_platform.Boxes, *m_platform.Calendar, our.Live.Business, *this});
 }
 
+std::unique_ptr<Screen> Program::BuildReprint() {
+  Objects& our = *m_objects;
+  return std::make_unique<frmReprint>(
+      *this, ReprintDesk{our.Completed, our.Reprinted, our.Disk, *m_platform.Boxes, *m_platform.Calendar, *this,
+                         our.Live.Tax, our.Customer, our.Routines, our.Pages, our.Reports, m_platform.Patience});
+}
+
 MainMenuContext Program::MenuContext() {
   return {m_objects->Disk, *m_platform.Boxes, m_platform.ProgramFolder,
           [this] {
             LoadPartialList(m_objects->Partials, m_objects->Disk);
             return m_objects->Partials.Count();
           },
-          [this](ScreenName screen) { return BuilderOf(screen) != nullptr; }};
+          [this](ScreenName screen) { return Built(screen) != nullptr && Built(screen)->isVisible(); }};
 }
 
 Screen* Program::Built(ScreenName screen) const {
@@ -167,8 +170,8 @@ void Program::Show(ScreenName screen) {
   // Without a partial invoice their screen hides at once: no window is left then, and the program lives on. Meant.
   if (screen == ScreenName::frmIncomplete && !LoadPartialList(m_objects->Partials, m_objects->Disk)) return;
   built->Activate();
-  // The activation may have ended the program.
-  if (!m_ended) Open(*built);
+  // The activation may have ended the program, or left for another screen.
+  if (!m_ended && Built(screen) == built) Open(*built);
 }
 
 void Program::Open(Screen& screen) {
@@ -190,10 +193,6 @@ void Program::Unload(ScreenName screen) {
   // The screen may be in the middle of its own handler.
   found->second.release()->deleteLater();
   m_screens.erase(found);
-  // What it stood over has the keyboard again.
-  for (const auto& [name, behind] : m_screens) {
-    if (behind && behind->isVisible()) behind->activateWindow();
-  }
 }
 
 void Program::ShowSetupAtFirstTab() {
@@ -204,11 +203,6 @@ void Program::ShowSetupAtFirstTab() {
 void Program::StartInvoiceFor(const SoldTo& customer) {
   TakeSoldTo(m_objects->Invoice, customer);
   Show(ScreenName::frmInvoice);
-}
-
-void Program::StartCall(const QString& name, const QString& number) {
-  static_cast<frmDialer&>(*Build(ScreenName::frmDialer)).SetRecipient(name, number);
-  Show(ScreenName::frmDialer);
 }
 
 void Program::PrintSample() {

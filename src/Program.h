@@ -16,7 +16,6 @@ class CommonDiskRoutines;
 class Dialogs;
 class FileDevice;
 class Printer;
-class SerialPort;
 struct MainMenuContext;
 
 /// What a program runs on.
@@ -30,13 +29,13 @@ struct Platform {
   const Clock* Calendar = nullptr;
   Dialogs* Boxes = nullptr;
   Printer* Paper = nullptr;
-  SerialPort* Modem = nullptr;
+  int Patience = 500;  ///< Milliseconds that work may last before a screen shows its progress.
 };
 
 /// A platform on one folder, under the program's own name and version: what tests, benchmarks and the demonstration run
 /// on, and what `main` starts from.
 Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper, SerialPort& modem);
+                    Dialogs& boxes, Printer& paper);
 
 class Program final : public Screens, public ScreenHost {
  public:
@@ -61,7 +60,6 @@ class Program final : public Screens, public ScreenHost {
   void Unload(ScreenName screen) override;
   void ShowSetupAtFirstTab() override;
   void StartInvoiceFor(const SoldTo& customer) override;
-  void StartCall(const QString& name, const QString& number) override;
   void PrintSample() override;
   void QuitProgram() override;
 
@@ -81,6 +79,7 @@ class Program final : public Screens, public ScreenHost {
   Screen* Build(ScreenName screen);
   std::unique_ptr<Screen> BuildInvoice();
   std::unique_ptr<Screen> BuildSalesReport();
+  std::unique_ptr<Screen> BuildReprint();
   void Open(Screen& screen);
   void KeepAWindow();
   void HideAll();

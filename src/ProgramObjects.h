@@ -10,6 +10,8 @@
 #include "printing/KVPrint.h"
 #include "printing/PrinterRoutines.h"
 #include "Program.h"
+#include "records/CompletedInvoice.h"
+#include "records/CompletedInvoices.h"
 #include "records/GridReport.h"
 #include "records/ItemSales.h"
 #include "records/PartialList.h"
@@ -43,6 +45,8 @@ struct Program::Objects {
   ProposalList Proposals;
   WorkingInvoice Invoice;
   PartialList Partials;
+  CompletedInvoices Completed;
+  CompletedInvoice Reprinted;
   CommonDialog Dialog;
   PrinterRoutines Routines;
   KVPrint Pages;

@@ -5,7 +5,6 @@
 #include "desktop/PaperPrinter.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtDialogs.h"
-#include "desktop/SerialLine.h"
 #include "desktop/Style.h"
 #include "Program.h"
 #include "runtime/Clock.h"
@@ -25,7 +24,6 @@ int main(int argc, char* argv[]) {
   SystemClock clock;
   QtDialogs dialogs;
   PaperPrinter paper(store, dialogs, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-  SerialLine modem(PortsOfThisMachine());
   const QFileInfo programFile(QApplication::applicationFilePath());
   QString root;
   try {
@@ -37,7 +35,7 @@ int main(int argc, char* argv[]) {
   }
 
   Platform platform = PlatformOn(root, QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation), files,
-                                 clock, dialogs, paper, modem);
+                                 clock, dialogs, paper);
   platform.EXEName = programFile.completeBaseName();
   platform.ProgramFolder = programFile.absolutePath();
   Program program(platform);

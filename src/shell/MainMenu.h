@@ -16,7 +16,7 @@ struct MainMenuContext {
   Dialogs& Boxes;
   QString ProgramFolder;                    ///< Where the manual stands.
   std::function<int()> LoadPartialList;     ///< Loads the list of partial invoices and answers their number.
-  std::function<bool(ScreenName)> IsThere;  ///< Whether the program has that screen yet.
+  std::function<bool(ScreenName)> IsShown;  ///< Whether its window stands.
 };
 
 struct MainMenuState {

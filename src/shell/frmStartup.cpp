@@ -108,9 +108,9 @@ void frmStartup::RunMainMenuRoutine(int index) {
   // The invoice report has no routine: the menu hides and no other screen is shown. That is meant.
   if (index != 4) {
     const ScreenName routine = RoutineOf(index);
-    // One that the program doesn't have yet leaves the menu.
-    if (!m_context.IsThere(routine)) return;
     m_screens.Show(routine);
+    // That screen leads back here at once where it has nothing to show.
+    if (routine == ScreenName::frmReprint && !m_context.IsShown(routine)) return;
   }
   m_screens.Hide(ScreenName::frmStartup);
 }

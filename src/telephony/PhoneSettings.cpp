@@ -1,12 +1,11 @@
 #include "telephony/PhoneSettings.h"
 
 #include "shell/CommonDiskRoutines.h"
-#include "telephony/ModemSearch.h"
 
 using namespace Qt::StringLiterals;
 
-void StartModem(SerialPort& modem, CommonDiskRoutines& disk, PhoneSettings& phone) {
-  FindModemPort(modem, phone);
+void StartModem(CommonDiskRoutines& disk, PhoneSettings& phone) {
+  FindModemPort(phone);
   phone.ckPhone = false;
   phone.PhoneDaisyChained = false;
   if (disk.FileExists(u"/Phone.txt"_s)) {
@@ -16,6 +15,11 @@ void StartModem(SerialPort& modem, CommonDiskRoutines& disk, PhoneSettings& phon
     phone.ckPhone = phone.PhoneDaisyChained;
   }
   LoadCallerIdSetting(disk, phone);
+}
+
+void FindModemPort(PhoneSettings& phone) {
+  phone.ModemPort = 1;
+  phone.txtModemPort = QString::number(phone.ModemPort);
 }
 
 void LoadCallerIdSetting(CommonDiskRoutines& disk, PhoneSettings& phone) {

@@ -19,7 +19,7 @@ const std::initializer_list<std::pair<ScreenName, const char*>> AllScreens{
     {ScreenName::frmBlanks, "frmBlanks"},
     {ScreenName::frmIncomplete, "frmIncomplete"},
     {ScreenName::frmSalesReport, "frmSalesReport"},
-    {ScreenName::frmDialer, "frmDialer"}};
+    {ScreenName::frmReprint, "frmReprint"}};
 
 /// Both purges bear the P on purpose: the letter moves the focus between them and runs neither.
 const QSet<QString> SharedLetter{u"Command1_2"_s, u"Command1_3"_s};
@@ -91,6 +91,9 @@ class Family : public QObject {
       program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/20260001.txt"_s,
                          "20260001\r\n7\r\nSmith\r\n3/7/2026\r\n");
     }
+    // Nor theirs without a completed one.
+    if (screen == ScreenName::frmReprint)
+      program.Tree.Write(u"/CompletedInvoices/20260001.txt"_s, "20260001\r\n7\r\nSmith\r\n3/7/2026\r\n$1.00\r\n");
     if (screen == ScreenName::frmSplash) {
       program.Start();
     } else {

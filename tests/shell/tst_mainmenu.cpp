@@ -51,7 +51,6 @@ class MainMenu : public QObject {
   void theInvoiceReportHidesTheMenuAndOpensNothing();
   void aDoubleClickRunsAnOption();
   void invoicesBeginWithTheProposalsWhereThereAreAny();
-  void aRoutineThatIsNotThereYetLeavesTheMenu();
   void theLastPartialGoneTakesItsSelectionAlong();
   void aRestoreThatFailsAtTheMenuLeavesAWindow();
   void theMenuEntriesOpenSetupAndTheManualAndEnd();
@@ -260,17 +259,6 @@ void MainMenu::invoicesBeginWithTheProposalsWhereThereAreAny() {
   menu.Click(u"cmdGoto"_s);
   QVERIFY(ScreenDriver::IsShown(u"frmNewCustomer"_s));
   QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
-}
-
-void MainMenu::aRoutineThatIsNotThereYetLeavesTheMenu() {
-  ProgramFixture program;
-  program.Tree.Write(u"/Services.txt"_s, OneService);
-  program.Tree.Write(u"/CompletedInvoices/20260001.txt"_s, "");
-  QVERIFY(program.StartAtMenu());
-  const ScreenDriver menu(u"frmStartup"_s);
-  menu.Click(Option(2));
-  menu.Click(u"cmdGoto"_s);
-  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
 void MainMenu::theLastPartialGoneTakesItsSelectionAlong() {

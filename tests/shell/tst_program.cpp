@@ -1,6 +1,5 @@
 // What the roof does at its ends: whichever way the program ends, it ends once, and no screen comes up behind it.
 
-#include "desktop/SerialLine.h"
 #include "desktop/Style.h"
 #include "Program.h"
 #include "runtime/FileDevice.h"
@@ -50,8 +49,7 @@ struct Bench {
   FixedClock Calendar;
   ScriptedDialogs Boxes;
   RecordingPrinter Paper;
-  SerialLine NoPorts{PortTable{}};
-  Program Running{PlatformOn(Tree.Root(), Locks.Root(), Files, Calendar, Boxes, Paper, NoPorts)};
+  Program Running{PlatformOn(Tree.Root(), Locks.Root(), Files, Calendar, Boxes, Paper)};
   int Ends = 0;
 };
 

@@ -4,7 +4,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include "desktop/SerialLine.h"
 #include "desktop/Style.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
@@ -99,9 +98,8 @@ InvoiceBench::InvoiceBench()
 InvoiceBench::~InvoiceBench() = default;
 
 void InvoiceBench::Open() {
-  SerialLine noPorts(PortTable{});
   LoadSetup(
-      noPorts, Disk, Live, [](const QByteArray&) { return false; },
+      Disk, Live, [](const QByteArray&) { return false; },
       [this] { LoadInvoiceScreen(Invoice, Live.Invoicer, Disk, Calendar); });
   LoadSalesItems(SalesItems, Disk);
   Prices.Load();

@@ -14,25 +14,23 @@ ProgramFixture::~ProgramFixture() {
   m_program.reset();
 }
 
-Platform ProgramFixture::OnThisTree(SerialPort& modem) {
-  Platform platform = PlatformOn(Tree.Root(), m_lockFolder.Root(), Files, Calendar, Dialogs, Paper, modem);
+Platform ProgramFixture::OnThisTree() {
+  Platform platform = PlatformOn(Tree.Root(), m_lockFolder.Root(), Files, Calendar, Dialogs, Paper);
   platform.EXEName = EXEName;
   platform.Version = u"1.0.0"_s;
+  platform.Patience = Patience;
   return platform;
 }
 
 bool ProgramFixture::Start() {
-  m_program.reset();
-  m_modem = std::make_unique<SerialLine>(Ports);
-  m_program = std::make_unique<Program>(OnThisTree(*m_modem));
+  m_program = std::make_unique<Program>(OnThisTree());
   const bool runs = m_program->Start();
   ScreenDriver::ProcessEvents();
   return runs;
 }
 
 bool ProgramFixture::StartSecond() {
-  SerialLine none(PortTable{});
-  return Program(OnThisTree(none)).Start();
+  return Program(OnThisTree()).Start();
 }
 
 bool ProgramFixture::StartAtMenu() {

@@ -1,7 +1,6 @@
 // The telephone's two files: what a load makes of them, and the bytes that a save writes.
 #include <QtTest>
 
-#include "desktop/SerialLine.h"
 #include "support/DataFolder.h"
 #include "support/ErrorOf.h"
 #include "telephony/PhoneSettings.h"
@@ -11,16 +10,13 @@ using namespace Qt::StringLiterals;
 class PhoneSettingsTest : public QObject {
   Q_OBJECT
 
- private:
-  SerialLine m_noPorts{PortTable{}};
-
  private Q_SLOTS:
   void withoutFilesNoPhoneIsChainedAndThePortIsOne() {
     DataFolder folder;
     PhoneSettings phone;
     phone.ckPhone = true;
     phone.PhoneDaisyChained = true;
-    StartModem(m_noPorts, folder.Disk, phone);
+    StartModem(folder.Disk, phone);
     QCOMPARE(phone.ckPhone, false);
     QCOMPARE(phone.PhoneDaisyChained, false);
     QCOMPARE(phone.ModemPort, 1);
@@ -32,7 +28,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     folder.Put(u"/Phone.txt"_s, "#TRUE#\r\n5\r\n");
     PhoneSettings phone;
-    StartModem(m_noPorts, folder.Disk, phone);
+    StartModem(folder.Disk, phone);
     QCOMPARE(phone.ModemPort, 5);
     QCOMPARE(phone.txtModemPort, u"1"_s);
     QCOMPARE(phone.PhoneDaisyChained, true);
@@ -43,7 +39,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     folder.Put(u"/Phone.txt"_s, "#FALSE#\n3\n");
     PhoneSettings phone;
-    StartModem(m_noPorts, folder.Disk, phone);
+    StartModem(folder.Disk, phone);
     QCOMPARE(phone.ckPhone, false);
     QCOMPARE(phone.PhoneDaisyChained, false);
     QCOMPARE(phone.ModemPort, 3);
@@ -62,7 +58,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     if (!content.isEmpty()) folder.Put(u"/CallID.txt"_s, content);
     PhoneSettings phone;
-    StartModem(m_noPorts, folder.Disk, phone);
+    StartModem(folder.Disk, phone);
     QCOMPARE(phone.ckCallerID, true);
     QCOMPARE(phone.UsingCallerId, stored);
   }
@@ -72,7 +68,7 @@ class PhoneSettingsTest : public QObject {
     folder.Put(u"/Backup/Phone.txt"_s, "#TRUE#\r\n2\r\n");
     folder.Put(u"/Backup/CallID.txt"_s, "#TRUE#\r\n");
     PhoneSettings phone;
-    StartModem(m_noPorts, folder.Disk, phone);
+    StartModem(folder.Disk, phone);
     QCOMPARE(phone.ModemPort, 2);
     QCOMPARE(phone.UsingCallerId, true);
     QCOMPARE(folder.Bytes(u"/Phone.txt"_s), "#TRUE#\r\n2\r\n");
@@ -113,7 +109,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     folder.Put(name, content);
     PhoneSettings phone;
-    const RuntimeError error = CaughtFrom([&] { StartModem(m_noPorts, folder.Disk, phone); });
+    const RuntimeError error = CaughtFrom([&] { StartModem(folder.Disk, phone); });
     QCOMPARE(error.Number(), number);
     QCOMPARE(error.From(), RuntimeError::Origin::FileContent);
     QCOMPARE(error.Subject(), name);

@@ -1,0 +1,48 @@
+/// One completed invoice as its image holds it, and as a page prints it once more.
+#pragma once
+
+#include <array>
+
+#include "printing/InvoicePage.h"
+#include "runtime/TextMatrix.h"
+
+class CommonDiskRoutines;
+
+/// What an image holds beside its lines.
+struct CompletedTexts {
+  QString CreationDate;  ///< As the list shows it.
+  std::array<QString, 6> lblBillTo;
+  std::array<QString, 6> lblShipTo;
+  QString ShipVia;
+  QString ShipDate;
+  QString InvoiceNo;
+  QString AcctNo;
+  QString Reference;
+  QString txtAttn;
+  qint16 LineCount = 0;
+  /// Currency text, in the image's order: sub-total, first tax, second tax, grand total, shipping, handling, discount.
+  std::array<QString, 7> Amounts;
+};
+
+struct CompletedInvoice : CompletedTexts {
+  CompletedInvoice();
+
+  TextMatrix fgItems;  ///< Units, description, date, unit cost, extension.
+};
+
+/// Reads the image of that number, after the restore, whole before anything is taken over. False where there is none.
+/// Throws RuntimeError 62, 13, 9 or 6, naming the file, for an image that is shorter than its count or whose count or
+/// amounts aren't what they must be; 64 for a number that can't name a file.
+bool OpenCompletedInvoice(CompletedInvoice& invoice, CommonDiskRoutines& disk, const QString& invoiceNo,
+                          const QString& creationDate);
+
+/// Every text of the page; the grid is referred to, so the invoice must outlive the page.
+InvoicePage PageOf(const CompletedInvoice& invoice, bool usaAddress);
+
+/// The memo that would print now, a line for each field of /InvoiceMemo.txt (a comma in it becomes a line break), each
+/// line ended; empty without a file.
+QString LoadedMemo(CommonDiskRoutines& disk);
+/// Makes the text the memo that prints, unless it is empty.
+void SaveMemo(const QString& memo, CommonDiskRoutines& disk);
+/// The memo's file, with its copy in /Backup.
+void KillMemo(CommonDiskRoutines& disk);
