@@ -5,7 +5,6 @@
 
 #include "desktop/PaperPrinter.h"
 #include "desktop/QtDialogs.h"
-#include "desktop/SerialLine.h"
 #include "Program.h"
 #include "runtime/Clock.h"
 #include "runtime/FileStore.h"
@@ -18,9 +17,7 @@ class Running {
   Program& operator*() { return m_program; }
 
  private:
-  Platform OnTree(const QString& tree) {
-    return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper, m_noPorts);
-  }
+  Platform OnTree(const QString& tree) { return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper); }
 
   QTemporaryDir m_lock;
   FileDevice m_files;
@@ -28,6 +25,5 @@ class Running {
   SystemClock m_clock;
   QtDialogs m_dialogs;
   PaperPrinter m_paper;
-  SerialLine m_noPorts{PortTable{}};
   Program m_program;
 };
