@@ -4,7 +4,6 @@
 
 #include <cstdio>
 
-#include "demonstration/Call.h"
 #include "demonstration/OtherInvoices.h"
 #include "desktop/PaperPrinter.h"
 #include "desktop/Style.h"
@@ -30,12 +29,12 @@ class Demonstration : public QObject {
   void theCatalogueIsEntered();
   void twoCustomersAreEntered();
   void customersAreFoundAgainAndDescribed();
-  void aCustomerIsCalled();
   void anInvoiceIsComposedPrintedAndRecorded();
   void aLongInvoiceGoesOnPerforatedPaper();
   void invoicesCarryEverythingElse();
   void aProposalBecomesAnInvoice();
   void theSalesAreReported();
+  void aCompletedInvoiceIsPrintedOnceMore();
   void theDayEnds();
 
  private:
@@ -53,8 +52,6 @@ class Demonstration : public QObject {
   SystemClock m_clock;
   TestDialogs m_dialogs;
   std::unique_ptr<PaperPrinter> m_paper;
-  PlayedModem m_modem;
-  SerialLine m_line{PortsOn({{3, m_modem.Device()}})};
   std::unique_ptr<QueuedAnswers> m_answers;
   std::unique_ptr<Program> m_program;
 };
@@ -65,8 +62,8 @@ void Demonstration::initTestCase() {
   m_store = std::make_unique<FileStore>(m_files);
   m_paper = std::make_unique<PaperPrinter>(*m_store, m_dialogs, m_folder + u"/pages"_s);
   m_answers = std::make_unique<QueuedAnswers>();
-  m_program = std::make_unique<Program>(
-      PlatformOn(m_folder + u"/business"_s, m_folder, m_files, m_clock, m_dialogs, *m_paper, m_line));
+  m_program =
+      std::make_unique<Program>(PlatformOn(m_folder + u"/business"_s, m_folder, m_files, m_clock, m_dialogs, *m_paper));
   QVERIFY(m_program->Start());
 }
 
@@ -248,17 +245,6 @@ void Demonstration::customersAreFoundAgainAndDescribed() {
   QVERIFY(QFile::exists(m_folder + u"/business/AuxFiles/1001/AuxFile3/Data.txt"_s));
 }
 
-void Demonstration::aCustomerIsCalled() {
-  // The number comes from the record that was read last: the arrow makes it the first customer's.
-  ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdNav_0"_s);
-  CallTheCustomer([this](const ScreenDriver& dialer) {
-    QCOMPARE(dialer.Text(u"lblStatus"_s), u"Pickup Receiver - Then Click Hangup"_s);
-    Picture(dialer, u"dialer"_s);
-  });
-  QVERIFY(!ScreenDriver::IsShown(u"frmDialer"_s));
-  QCOMPARE(m_modem.Commands(), (QByteArrayList{"AT", "AT#CID=1", "ATDT1-321-555-0142;", "ATH"}));
-}
-
 void Demonstration::Post(const ScreenDriver& invoice, int element, const QString& description, const QString& units) {
   invoice.PickEntry(u"cboDescription_%1"_s.arg(element), description);
   if (element == 1) invoice.Fill(u"txtUnits"_s, units);
@@ -389,6 +375,25 @@ void Demonstration::theSalesAreReported() {
   sales.Click(u"cmdSales_4"_s);
   QVERIFY(!sales.IsEnabled(u"cmdSales_4"_s));
   sales.Click(u"cmdSales_0"_s);
+}
+
+void Demonstration::aCompletedInvoiceIsPrintedOnceMore() {
+  OpenRoutine(2);
+  const ScreenDriver screen(u"frmReprint"_s);
+  screen.Trigger(u"mnuSort"_s);
+  screen.Click(u"optSort_1"_s);
+  Picture(screen, u"completed-invoices"_s);
+  screen.Click(u"cmdMode"_s);
+  m_answers->AcceptDialog();
+  screen.Click(u"cmdReport"_s);
+  screen.SelectRow(u"fgReceivables"_s, 2);
+  QVERIFY(screen.IsVisible(u"fraInvoice"_s));
+  Picture(screen, u"completed-invoice"_s);
+  m_answers->AcceptDialog();
+  screen.Click(u"cmdPrint"_s);
+  screen.Click(u"cmdHide"_s);
+  screen.Click(u"cmdExit"_s);
+  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
 void Demonstration::theDayEnds() {
