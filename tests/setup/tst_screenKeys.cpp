@@ -45,6 +45,23 @@ class ScreenKeysTest : public QObject {
     QCOMPARE(setup.Text(u"cmdAddress"_s), u"International Style Address"_s);
   }
 
+  void theTabKeyGoesThroughTheTaxationAsTheEyeDoes() {
+    SetupScreen program;
+    const ScreenDriver setup = OpenScheme(program);
+    setup.Control(u"cboTaxHeading1"_s)->setFocus();
+    ScreenDriver::ProcessEvents();
+    QStringList way{setup.FocusName()};
+    while (way.last() != u"cmdQuit" && way.size() < 30) {
+      setup.PressKey(Qt::Key_Tab);
+      way << setup.FocusName();
+    }
+    // Tax by tax, then what is taxed, then the graduated scheme: its switch, its button, its amounts, its ways out.
+    QCOMPARE(way, (QStringList{u"cboTaxHeading1"_s, u"cboRate1"_s, u"ckApply1stTax"_s, u"cboTaxHeading2"_s,
+                               u"cboRate2"_s, u"ckApply2ndTax"_s, u"ckSalesItems"_s, u"ckServices"_s, u"ckLabor"_s,
+                               u"ckCustom"_s, u"ckApplyGraduated"_s, u"cmdGraduatedTax_0"_s, u"txtGradulated_0"_s,
+                               u"txtGradulated_1"_s, u"cmdGraduatedTax_1"_s, u"cmdGraduatedTax_2"_s, u"cmdQuit"_s}));
+  }
+
   void enterStopsAtTicksOptionsAndListsAndChangesNone() {
     SetupScreen program;
     const ScreenDriver setup = program.Open();
