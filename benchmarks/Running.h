@@ -5,6 +5,7 @@
 
 #include "desktop/PaperPrinter.h"
 #include "desktop/QtDialogs.h"
+#include "desktop/SerialLine.h"
 #include "Program.h"
 #include "runtime/Clock.h"
 #include "runtime/FileStore.h"
@@ -17,7 +18,9 @@ class Running {
   Program& operator*() { return m_program; }
 
  private:
-  Platform OnTree(const QString& tree) { return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper); }
+  Platform OnTree(const QString& tree) {
+    return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper, m_noPorts);
+  }
 
   QTemporaryDir m_lock;
   FileDevice m_files;
@@ -25,5 +28,6 @@ class Running {
   SystemClock m_clock;
   QtDialogs m_dialogs;
   PaperPrinter m_paper;
+  SerialLine m_noPorts{PortTable{}};
   Program m_program;
 };

@@ -56,7 +56,8 @@ int ShowFirstScreen(QApplication& application, const QString& root) {
   SystemClock clock;
   QtDialogs dialogs;
   PaperPrinter paper(store, dialogs, root);
-  Program program(PlatformOn(root, root + u"-lock"_s, files, clock, dialogs, paper));
+  SerialLine modem(AbsentPorts());
+  Program program(PlatformOn(root, root + u"-lock"_s, files, clock, dialogs, paper, modem));
   if (!program.Start()) return 1;
   LeaveAfterFirstPaint();
   return application.exec();

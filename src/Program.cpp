@@ -17,9 +17,10 @@
 #include "shell/frmSplash.h"
 #include "shell/frmStartup.h"
 #include "shell/KarvexMasterModule.h"
+#include "telephony/frmDialer.h"
 
 Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper) {
+                    Dialogs& boxes, Printer& paper, SerialPort& modem) {
   Platform platform;
   platform.DataRoot = root;
   platform.EXEName = QStringLiteral("KarvexInvoicer");
@@ -30,6 +31,7 @@ Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& 
   platform.Calendar = &calendar;
   platform.Boxes = &boxes;
   platform.Paper = &paper;
+  platform.Modem = &modem;
   return platform;
 }
 
@@ -122,6 +124,11 @@ Program::Builder Program::BuilderOf(ScreenName screen) {
       return [this] { return BuildSalesReport(); };
     case ScreenName::frmReprint:
       return [this] { return BuildReprint(); };
+    case ScreenName::frmDialer:
+      return [this] {
+        return std::make_unique<frmDialer>(
+            *this, *this, DialerDesk{*m_platform.Modem, m_objects->Disk, *m_platform.Boxes, m_objects->Live.Phone});
+      };
     default:
       return nullptr;
   }
@@ -193,6 +200,10 @@ void Program::Unload(ScreenName screen) {
   // The screen may be in the middle of its own handler.
   found->second.release()->deleteLater();
   m_screens.erase(found);
+  // What it stood over has the keyboard again.
+  for (const auto& [name, behind] : m_screens) {
+    if (behind && behind->isVisible()) behind->activateWindow();
+  }
 }
 
 void Program::ShowSetupAtFirstTab() {
@@ -203,6 +214,11 @@ void Program::ShowSetupAtFirstTab() {
 void Program::StartInvoiceFor(const SoldTo& customer) {
   TakeSoldTo(m_objects->Invoice, customer);
   Show(ScreenName::frmInvoice);
+}
+
+void Program::StartCall(const QString& name, const QString& number) {
+  static_cast<frmDialer&>(*Build(ScreenName::frmDialer)).SetRecipient(name, number);
+  Show(ScreenName::frmDialer);
 }
 
 void Program::PrintSample() {

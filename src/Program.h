@@ -16,6 +16,7 @@ class CommonDiskRoutines;
 class Dialogs;
 class FileDevice;
 class Printer;
+class SerialPort;
 struct MainMenuContext;
 
 /// What a program runs on.
@@ -29,13 +30,14 @@ struct Platform {
   const Clock* Calendar = nullptr;
   Dialogs* Boxes = nullptr;
   Printer* Paper = nullptr;
+  SerialPort* Modem = nullptr;
   int Patience = 500;  ///< Milliseconds that work may last before a screen shows its progress.
 };
 
 /// A platform on one folder, under the program's own name and version: what tests, benchmarks and the demonstration run
 /// on, and what `main` starts from.
 Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper);
+                    Dialogs& boxes, Printer& paper, SerialPort& modem);
 
 class Program final : public Screens, public ScreenHost {
  public:
@@ -60,6 +62,7 @@ class Program final : public Screens, public ScreenHost {
   void Unload(ScreenName screen) override;
   void ShowSetupAtFirstTab() override;
   void StartInvoiceFor(const SoldTo& customer) override;
+  void StartCall(const QString& name, const QString& number) override;
   void PrintSample() override;
   void QuitProgram() override;
 

@@ -16,7 +16,7 @@ Program::Objects::Objects(const Platform& platform)
       SalesPages(Routines, Pages, *platform.Calendar) {}
 
 void Program::Objects::LoadSettings() {
-  LoadSetup(Disk, Live, &IsPicture, [this] {
+  LoadSetup(*On.Modem, Disk, Live, &IsPicture, [this] {
     // What the invoice screen sets at its own load; the settings file then has the last word.
     LoadInvoiceScreen(Invoice, Live.Invoicer, Disk, *On.Calendar);
   });

@@ -5,6 +5,7 @@
 #include "desktop/PaperPrinter.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtDialogs.h"
+#include "desktop/SerialLine.h"
 #include "desktop/Style.h"
 #include "Program.h"
 #include "runtime/Clock.h"
@@ -24,6 +25,7 @@ int main(int argc, char* argv[]) {
   SystemClock clock;
   QtDialogs dialogs;
   PaperPrinter paper(store, dialogs, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  SerialLine modem(PortsOfThisMachine());
   const QFileInfo programFile(QApplication::applicationFilePath());
   QString root;
   try {
@@ -35,7 +37,7 @@ int main(int argc, char* argv[]) {
   }
 
   Platform platform = PlatformOn(root, QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation), files,
-                                 clock, dialogs, paper);
+                                 clock, dialogs, paper, modem);
   platform.EXEName = programFile.completeBaseName();
   platform.ProgramFolder = programFile.absolutePath();
   Program program(platform);

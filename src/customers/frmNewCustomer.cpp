@@ -87,6 +87,7 @@ void frmNewCustomer::ConnectButtons() {
   OnClick(m_cmdCustomer[1], [this] { LeaveScreen(true); });
   OnClick(m_cmdCustomer[13], [this] { CancelAddNew(); });
   OnClick(m_command1[1], [this] { ToggleNameList(); });
+  OnClick(m_ui->Image1_1, [this] { m_screens.StartCall(m_editor.ScreenCustomerName(), m_editor.NumberToDial()); });
   OnClick(m_ui->cmdAcctType, [this] { m_editor.ToggleAccountType(); });
 }
 

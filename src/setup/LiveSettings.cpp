@@ -73,10 +73,10 @@ void SaveSettings(CommonDiskRoutines& disk, LiveSettings& live) {
   LoadSettings(disk, live);
 }
 
-void LoadSetup(CommonDiskRoutines& disk, LiveSettings& live, const PictureTest& isPicture,
+void LoadSetup(SerialPort& modem, CommonDiskRoutines& disk, LiveSettings& live, const PictureTest& isPicture,
                const std::function<void()>& loadInvoice) {
   LoadBusinessData(disk, live.Business);
-  StartModem(disk, live.Phone);
+  StartModem(modem, disk, live.Phone);
   SetAddressStyle(live.Business);
   LoadPrintColors(disk, live.Print);
   LoadTaxLists(disk, live.Tax);

@@ -28,5 +28,5 @@ void SaveSettings(CommonDiskRoutines& disk, LiveSettings& live);
 
 /// The load of Setup, once at start: profile, modem, address style, colours, taxes, logo, settings file, in this order.
 /// `loadInvoice` loads the invoice screen's lists and their own defaults, which the settings file then overrides.
-void LoadSetup(CommonDiskRoutines& disk, LiveSettings& live, const PictureTest& isPicture,
+void LoadSetup(SerialPort& modem, CommonDiskRoutines& disk, LiveSettings& live, const PictureTest& isPicture,
                const std::function<void()>& loadInvoice);

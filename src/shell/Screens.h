@@ -39,6 +39,8 @@ class Screens {
   virtual void ShowSetupAtFirstTab() = 0;
   /// Hands the customer to the invoice screen and shows it.
   virtual void StartInvoiceFor(const SoldTo& customer) = 0;
+  /// Hands the name and the number to the dialer and shows it over the screen that asks.
+  virtual void StartCall(const QString& name, const QString& number) = 0;
   /// Setup's sample: the page frame with the number 12345, and the end of the job.
   virtual void PrintSample() = 0;
   /// The one way out: exit backup, all screens unloaded, the process ends.

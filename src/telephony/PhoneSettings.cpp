@@ -1,11 +1,12 @@
 #include "telephony/PhoneSettings.h"
 
 #include "shell/CommonDiskRoutines.h"
+#include "telephony/ModemSearch.h"
 
 using namespace Qt::StringLiterals;
 
-void StartModem(CommonDiskRoutines& disk, PhoneSettings& phone) {
-  FindModemPort(phone);
+void StartModem(SerialPort& modem, CommonDiskRoutines& disk, PhoneSettings& phone) {
+  FindModemPort(modem, phone);
   phone.ckPhone = false;
   phone.PhoneDaisyChained = false;
   if (disk.FileExists(u"/Phone.txt"_s)) {
@@ -15,11 +16,6 @@ void StartModem(CommonDiskRoutines& disk, PhoneSettings& phone) {
     phone.ckPhone = phone.PhoneDaisyChained;
   }
   LoadCallerIdSetting(disk, phone);
-}
-
-void FindModemPort(PhoneSettings& phone) {
-  phone.ModemPort = 1;
-  phone.txtModemPort = QString::number(phone.ModemPort);
 }
 
 void LoadCallerIdSetting(CommonDiskRoutines& disk, PhoneSettings& phone) {

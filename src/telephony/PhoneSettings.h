@@ -4,12 +4,17 @@
 #include <QString>
 
 class CommonDiskRoutines;
+class SerialPort;
 
 struct PhoneSettings {
   // Live values of Setup's controls.
   bool ckPhone = false;     ///< A phone is chained behind the computer.
   bool ckCallerID = false;  ///< Ticked at every load, whatever the file says; nothing reads it.
   QString txtModemPort;     ///< The port that the search found; the dialer opens this one.
+
+  // What the dialer says of the port, each time that it is loaded.
+  QString Text1;
+  QString Label2;
 
   // Stored: a load or a save changes them, no control touches them.
   int ModemPort = 1;
@@ -19,9 +24,7 @@ struct PhoneSettings {
 
 /// Finds the modem, then reads /Phone.txt and /CallID.txt. The stored port replaces the found one in `ModemPort` only.
 /// Throws RuntimeError 62 or 13 for a file that isn't what it must be.
-void StartModem(CommonDiskRoutines& disk, PhoneSettings& phone);
-/// The search on the serial ports. It has no port to look at yet: port 1 is taken, as when nothing answers.
-void FindModemPort(PhoneSettings& phone);
+void StartModem(SerialPort& modem, CommonDiskRoutines& disk, PhoneSettings& phone);
 /// Reads /CallID.txt if it is there; ticks `ckCallerID` whatever it holds, which is meant.
 void LoadCallerIdSetting(CommonDiskRoutines& disk, PhoneSettings& phone);
 

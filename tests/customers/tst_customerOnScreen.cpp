@@ -33,6 +33,7 @@ class NotedScreens final : public Screens {
     Customer = customer;
     Calls.append(u"invoice"_s);
   }
+  void StartCall(const QString&, const QString&) override {}
   void PrintSample() override {}
   void QuitProgram() override {}
 

@@ -1,6 +1,7 @@
 // The settings file, and the one load of everything at start in its order.
 #include <QtTest>
 
+#include "desktop/SerialLine.h"
 #include "setup/LiveSettings.h"
 #include "support/DataFolder.h"
 #include "support/ErrorOf.h"
@@ -11,6 +12,9 @@ class LiveSettingsTest : public QObject {
   Q_OBJECT
 
   static bool AnyPicture(const QByteArray&) { return true; }
+
+ private:
+  SerialLine m_noPorts{PortTable{}};
 
  private Q_SLOTS:
   void aFirstSaveWithTheDefaultsWritesThisLine() {
@@ -160,7 +164,7 @@ class LiveSettingsTest : public QObject {
     DataFolder folder;
     LiveSettings live;
     int loads = 0;
-    LoadSetup(folder.Disk, live, AnyPicture, [&] {
+    LoadSetup(m_noPorts, folder.Disk, live, AnyPicture, [&] {
       ++loads;
       live.Invoicer = {u"2.0"_s, u"10"_s};
     });
@@ -172,7 +176,7 @@ class LiveSettingsTest : public QObject {
   void aFirstStartIsInUsaStyleWithTheDefaultsAndTouchesNoFile() {
     DataFolder folder;
     LiveSettings live;
-    LoadSetup(folder.Disk, live, AnyPicture, {});
+    LoadSetup(m_noPorts, folder.Disk, live, AnyPicture, {});
     QVERIFY(live.Business.IsUsaStyle());
     QCOMPARE(live.Tax.cboTaxHeading1, u"Sales Tax"_s);
     QCOMPARE(live.Tax.ckSalesItems, true);
@@ -194,7 +198,7 @@ class LiveSettingsTest : public QObject {
       LiveSettings live;
       bool invoiceLoaded = false;
       const RuntimeError error =
-          CaughtFrom([&] { LoadSetup(folder.Disk, live, AnyPicture, [&] { invoiceLoaded = true; }); });
+          CaughtFrom([&] { LoadSetup(m_noPorts, folder.Disk, live, AnyPicture, [&] { invoiceLoaded = true; }); });
       QCOMPARE(error.Subject(), order[damaged]);
       QVERIFY(!invoiceLoaded);
       QCOMPARE(live.Business.IsUsaStyle(), damaged >= 3);
@@ -207,7 +211,7 @@ class LiveSettingsTest : public QObject {
     LiveSettings live;
     QList<bool> told;
     live.Business.UseAddressStyle = [&](bool usaStyle) { told << usaStyle; };
-    LoadSetup(folder.Disk, live, AnyPicture, {});
+    LoadSetup(m_noPorts, folder.Disk, live, AnyPicture, {});
     QVERIFY(!live.Business.IsUsaStyle());
     QCOMPARE(told, QList<bool>{false});
   }
@@ -217,7 +221,7 @@ class LiveSettingsTest : public QObject {
     folder.Put(u"/logo.png"_s, "picture");
     folder.Put(u"/CompanyLogo.txt"_s, '"' + folder.Path(u"/logo.png"_s).toLatin1() + "\"\r\n");
     LiveSettings live;
-    LoadSetup(folder.Disk, live, AnyPicture, {});
+    LoadSetup(m_noPorts, folder.Disk, live, AnyPicture, {});
     QCOMPARE(live.Print.Logo, "picture");
     QVERIFY(!folder.Has(u"/LogoSettings.txt"_s));
   }

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QtTest>
 
+#include "desktop/SerialLine.h"
 #include "desktop/Style.h"
 #include "setup/frmSetup.h"
 #include "shell/CommonDialog.h"
@@ -29,6 +30,7 @@ class NotedScreens final : public Screens, public ScreenHost {
   void Unload(ScreenName) override { Asked << u"unload"_s; }
   void ShowSetupAtFirstTab() override { Asked << u"first tab"_s; }
   void StartInvoiceFor(const SoldTo&) override { Asked << u"invoice"_s; }
+  void StartCall(const QString&, const QString&) override { Asked << u"call"_s; }
   void PrintSample() override { Asked << u"sample"_s; }
   void QuitProgram() override { Asked << u"quit"_s; }
   void UnhandledError(const RuntimeError& error) override { Asked << error.Text(); }
@@ -39,7 +41,7 @@ class NotedScreens final : public Screens, public ScreenHost {
 struct Bench {
   Bench() {
     ApplyStyle(*qApp);
-    LoadSetup(Folder.Disk, Live, [](const QByteArray&) { return true; }, {});
+    LoadSetup(NoPorts, Folder.Disk, Live, [](const QByteArray&) { return true; }, {});
     Setup = std::make_unique<frmSetup>(Around, Around, SetupContext{Folder.Disk, Boxes, Live, Dialog, u"/program"_s});
     Setup->Activate();
     Setup->show();
@@ -57,6 +59,7 @@ struct Bench {
   DataFolder Folder;
   TestDialogs Boxes;
   NotedScreens Around;
+  SerialLine NoPorts{PortTable{}};
   LiveSettings Live;
   CommonDialog Dialog;
   std::unique_ptr<frmSetup> Setup;

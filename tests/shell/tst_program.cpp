@@ -1,5 +1,6 @@
 // What the roof does at its ends: whichever way the program ends, it ends once, and no screen comes up behind it.
 
+#include "desktop/SerialLine.h"
 #include "desktop/Style.h"
 #include "Program.h"
 #include "runtime/FileDevice.h"
@@ -49,7 +50,8 @@ struct Bench {
   FixedClock Calendar;
   ScriptedDialogs Boxes;
   RecordingPrinter Paper;
-  Program Running{PlatformOn(Tree.Root(), Locks.Root(), Files, Calendar, Boxes, Paper)};
+  SerialLine NoPorts{PortTable{}};
+  Program Running{PlatformOn(Tree.Root(), Locks.Root(), Files, Calendar, Boxes, Paper, NoPorts)};
   int Ends = 0;
 };
 

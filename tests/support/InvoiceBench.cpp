@@ -4,6 +4,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include "desktop/SerialLine.h"
 #include "desktop/Style.h"
 #include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
@@ -98,8 +99,9 @@ InvoiceBench::InvoiceBench()
 InvoiceBench::~InvoiceBench() = default;
 
 void InvoiceBench::Open() {
+  SerialLine noPorts(PortTable{});
   LoadSetup(
-      Disk, Live, [](const QByteArray&) { return false; },
+      noPorts, Disk, Live, [](const QByteArray&) { return false; },
       [this] { LoadInvoiceScreen(Invoice, Live.Invoicer, Disk, Calendar); });
   LoadSalesItems(SalesItems, Disk);
   Prices.Load();

@@ -42,6 +42,7 @@ class NotingProgram final : public Screens, public ScreenHost {
   void Unload(ScreenName) override {}
   void ShowSetupAtFirstTab() override {}
   void StartInvoiceFor(const SoldTo&) override {}
+  void StartCall(const QString&, const QString&) override {}
   void PrintSample() override {}
   void QuitProgram() override { Asked << QStringLiteral("quit"); }
   void UnhandledError(const RuntimeError& error) override;

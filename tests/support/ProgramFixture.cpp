@@ -14,8 +14,8 @@ ProgramFixture::~ProgramFixture() {
   m_program.reset();
 }
 
-Platform ProgramFixture::OnThisTree() {
-  Platform platform = PlatformOn(Tree.Root(), m_lockFolder.Root(), Files, Calendar, Dialogs, Paper);
+Platform ProgramFixture::OnThisTree(SerialPort& modem) {
+  Platform platform = PlatformOn(Tree.Root(), m_lockFolder.Root(), Files, Calendar, Dialogs, Paper, modem);
   platform.EXEName = EXEName;
   platform.Version = u"1.0.0"_s;
   platform.Patience = Patience;
@@ -23,14 +23,17 @@ Platform ProgramFixture::OnThisTree() {
 }
 
 bool ProgramFixture::Start() {
-  m_program = std::make_unique<Program>(OnThisTree());
+  m_program.reset();
+  m_modem = std::make_unique<SerialLine>(Ports);
+  m_program = std::make_unique<Program>(OnThisTree(*m_modem));
   const bool runs = m_program->Start();
   ScreenDriver::ProcessEvents();
   return runs;
 }
 
 bool ProgramFixture::StartSecond() {
-  return Program(OnThisTree()).Start();
+  SerialLine none(PortTable{});
+  return Program(OnThisTree(none)).Start();
 }
 
 bool ProgramFixture::StartAtMenu() {

@@ -11,6 +11,7 @@
 
 #include <memory>
 
+#include "desktop/SerialLine.h"
 #include "Program.h"
 #include "support/FailingDevice.h"
 #include "support/FixedClock.h"
@@ -44,14 +45,17 @@ class ProgramFixture {
   FailingDevice Files;
   TestDialogs Dialogs;
   RecordingPrinter Paper;
+  /// The serial ports of the next start; none of the machine's own is ever touched.
+  PortTable Ports;
   QueuedAnswers Answers;
   /// Of a program that is started after that: 0 shows each progress at once.
   int Patience = 60000;
   QString EXEName = QStringLiteral("KarvexInvoicer");
 
  private:
-  Platform OnThisTree();
+  Platform OnThisTree(SerialPort& modem);
 
   TemporaryTree m_lockFolder;
+  std::unique_ptr<SerialLine> m_modem;
   std::unique_ptr<Program> m_program;
 };

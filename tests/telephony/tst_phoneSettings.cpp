@@ -1,6 +1,7 @@
 // The telephone's two files: what a load makes of them, and the bytes that a save writes.
 #include <QtTest>
 
+#include "desktop/SerialLine.h"
 #include "support/DataFolder.h"
 #include "support/ErrorOf.h"
 #include "telephony/PhoneSettings.h"
@@ -10,13 +11,16 @@ using namespace Qt::StringLiterals;
 class PhoneSettingsTest : public QObject {
   Q_OBJECT
 
+ private:
+  SerialLine m_noPorts{PortTable{}};
+
  private Q_SLOTS:
   void withoutFilesNoPhoneIsChainedAndThePortIsOne() {
     DataFolder folder;
     PhoneSettings phone;
     phone.ckPhone = true;
     phone.PhoneDaisyChained = true;
-    StartModem(folder.Disk, phone);
+    StartModem(m_noPorts, folder.Disk, phone);
     QCOMPARE(phone.ckPhone, false);
     QCOMPARE(phone.PhoneDaisyChained, false);
     QCOMPARE(phone.ModemPort, 1);
@@ -28,7 +32,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     folder.Put(u"/Phone.txt"_s, "#TRUE#\r\n5\r\n");
     PhoneSettings phone;
-    StartModem(folder.Disk, phone);
+    StartModem(m_noPorts, folder.Disk, phone);
     QCOMPARE(phone.ModemPort, 5);
     QCOMPARE(phone.txtModemPort, u"1"_s);
     QCOMPARE(phone.PhoneDaisyChained, true);
@@ -39,7 +43,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     folder.Put(u"/Phone.txt"_s, "#FALSE#\n3\n");
     PhoneSettings phone;
-    StartModem(folder.Disk, phone);
+    StartModem(m_noPorts, folder.Disk, phone);
     QCOMPARE(phone.ckPhone, false);
     QCOMPARE(phone.PhoneDaisyChained, false);
     QCOMPARE(phone.ModemPort, 3);
@@ -58,7 +62,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     if (!content.isEmpty()) folder.Put(u"/CallID.txt"_s, content);
     PhoneSettings phone;
-    StartModem(folder.Disk, phone);
+    StartModem(m_noPorts, folder.Disk, phone);
     QCOMPARE(phone.ckCallerID, true);
     QCOMPARE(phone.UsingCallerId, stored);
   }
@@ -68,7 +72,7 @@ class PhoneSettingsTest : public QObject {
     folder.Put(u"/Backup/Phone.txt"_s, "#TRUE#\r\n2\r\n");
     folder.Put(u"/Backup/CallID.txt"_s, "#TRUE#\r\n");
     PhoneSettings phone;
-    StartModem(folder.Disk, phone);
+    StartModem(m_noPorts, folder.Disk, phone);
     QCOMPARE(phone.ModemPort, 2);
     QCOMPARE(phone.UsingCallerId, true);
     QCOMPARE(folder.Bytes(u"/Phone.txt"_s), "#TRUE#\r\n2\r\n");
@@ -109,7 +113,7 @@ class PhoneSettingsTest : public QObject {
     DataFolder folder;
     folder.Put(name, content);
     PhoneSettings phone;
-    const RuntimeError error = CaughtFrom([&] { StartModem(folder.Disk, phone); });
+    const RuntimeError error = CaughtFrom([&] { StartModem(m_noPorts, folder.Disk, phone); });
     QCOMPARE(error.Number(), number);
     QCOMPARE(error.From(), RuntimeError::Origin::FileContent);
     QCOMPARE(error.Subject(), name);

@@ -1,0 +1,108 @@
+#include "desktop/SerialLine.h"
+
+#include <unistd.h>
+#include <QEventLoop>
+#include <QFile>
+#include <QSerialPort>
+#include <QTimer>
+
+#include "runtime/CodePage.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The longest that a text may take to leave the program: a few characters on a line that doesn't stand still.
+constexpr int DrainMilliseconds = 100;
+/// The longest pass of the event loop without bytes: short enough that a click in it is answered at once.
+constexpr int PassMilliseconds = 20;
+
+/// Whether there is something to open. Asked first, so that absent ports cost one question to the system each and
+/// not the lock file that the toolkit makes before it looks.
+bool CanBeOpened(const QString& device) {
+  return !device.isEmpty() && access(QFile::encodeName(device).constData(), R_OK | W_OK) == 0;
+}
+
+}  // namespace
+
+PortTable PortsOfThisMachine() {
+  return {u"/dev/ttyS0"_s,   u"/dev/ttyS1"_s,   u"/dev/ttyS2"_s,   u"/dev/ttyS3"_s,
+          u"/dev/ttyACM0"_s, u"/dev/ttyACM1"_s, u"/dev/ttyACM2"_s, u"/dev/ttyACM3"_s,
+          u"/dev/ttyUSB0"_s, u"/dev/ttyUSB1"_s, u"/dev/ttyUSB2"_s, u"/dev/ttyUSB3"_s,
+          u"/dev/ttyUSB4"_s, u"/dev/ttyUSB5"_s, u"/dev/ttyUSB6"_s, u"/dev/ttyUSB7"_s};
+}
+
+SerialLine::SerialLine(PortTable ports) : m_ports(std::move(ports)) {}
+
+SerialLine::~SerialLine() = default;
+
+void SerialLine::SetCommPort(int port) {
+  if (!PortOpen()) m_commPort = port;
+}
+
+bool SerialLine::PortOpen() const {
+  return m_port != nullptr && !m_dropped;
+}
+
+void SerialLine::SetPortOpen(bool open) {
+  if (open == PortOpen()) return;
+  m_port.reset();
+  if (open) Open();
+}
+
+void SerialLine::Open() {
+  if (m_commPort < 1 || m_commPort > Ports) return;
+  const QString& device = m_ports[static_cast<std::size_t>(m_commPort - 1)];
+  if (!CanBeOpened(device)) return;
+  auto port = std::make_unique<QSerialPort>(device);
+  if (!port->open(QIODevice::ReadWrite)) return;
+  m_dropped = false;
+  m_port = std::move(port);
+  const auto watch = [this, line = m_port.get()](QSerialPort::SerialPortError error) {
+    const bool gone =
+        error == QSerialPort::ReadError || error == QSerialPort::WriteError || error == QSerialPort::ResourceError;
+    if (!gone || m_dropped) return;
+    m_dropped = true;
+    // A line that has dropped reports so without end while it is open; it can't be closed within its own report.
+    QMetaObject::invokeMethod(line, &QSerialPort::close, Qt::QueuedConnection);
+  };
+  QObject::connect(m_port.get(), &QSerialPort::errorOccurred, m_port.get(), watch);
+}
+
+void SerialLine::Output(const QString& text) {
+  if (!PortOpen()) return;
+  m_port->write(ToCodePage(text));
+  m_port->waitForBytesWritten(DrainMilliseconds);
+}
+
+int SerialLine::InBufferCount() {
+  return PortOpen() ? static_cast<int>(m_port->bytesAvailable()) : 0;
+}
+
+void SerialLine::ClearInBuffer() {
+  if (PortOpen()) m_port->clear(QSerialPort::Input);
+}
+
+QString SerialLine::Input() {
+  return PortOpen() ? FromCodePage(m_port->readAll()) : QString();
+}
+
+void SerialLine::WaitForBytes(int count, int milliseconds) {
+  if (!PortOpen() || InBufferCount() >= count) return;
+  QEventLoop pass;
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &pass, &QEventLoop::quit);
+  QObject::connect(m_port.get(), &QSerialPort::readyRead, &pass, [this, &pass, count] {
+    if (InBufferCount() >= count) pass.quit();
+  });
+  pass.exec(QEventLoop::ExcludeUserInputEvents);
+  // On a busy machine the time may be over before the loop came to look: what has come by then still counts.
+  if (InBufferCount() < count && PortOpen()) m_port->waitForReadyRead(0);
+}
+
+bool SerialLine::Yield() {
+  QEventLoop pass;
+  QTimer::singleShot(PassMilliseconds, &pass, &QEventLoop::quit);
+  if (PortOpen()) QObject::connect(m_port.get(), &QSerialPort::readyRead, &pass, &QEventLoop::quit);
+  // Once the application has been told to leave, a loop doesn't begin any more.
+  return pass.exec() >= 0;
+}

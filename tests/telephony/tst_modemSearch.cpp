@@ -1,0 +1,254 @@
+// The search for the modem at start, on pseudo-terminals whose far end the test plays.
+#include <QElapsedTimer>
+#include <QFile>
+#include <QtTest>
+
+#include "desktop/SerialLine.h"
+#include "support/DataFolder.h"
+#include "support/PlayedModem.h"
+#include "telephony/ModemSearch.h"
+#include "telephony/PhoneSettings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray Silence(const QByteArray&) {
+  return {};
+}
+
+/// Notes what is asked of it; no port of it can be opened.
+class AbsentPorts final : public SerialPort {
+ public:
+  void SetCommPort(int port) override { m_port = port; }
+  int CommPort() const override { return m_port; }
+  void SetPortOpen(bool open) override {
+    if (open) Tried.append(m_port);
+  }
+  bool PortOpen() const override { return false; }
+  void Output(const QString& text) override { Sent.append(text); }
+  int InBufferCount() override { return 0; }
+  void ClearInBuffer() override {}
+  QString Input() override { return {}; }
+  void WaitForBytes(int, int) override {}
+  bool Yield() override { return false; }
+
+  QList<int> Tried;
+  QStringList Sent;
+
+ private:
+  int m_port = 1;
+};
+
+void ExpectPort(const PhoneSettings& phone, int port) {
+  const QString number = QString::number(port);
+  QCOMPARE(phone.ModemPort, port);
+  QCOMPARE(phone.txtModemPort, number);
+  QCOMPARE(phone.Text1, u"Your Modem Comm Port Is "_s + number + u"."_s);
+  QCOMPARE(phone.Label2, u"COM Port # "_s + number);
+}
+
+}  // namespace
+
+class ModemSearch : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void thePortsOfTheMachineStandInTheirOrder() {
+    const PortTable ports = PortsOfThisMachine();
+    QCOMPARE(
+        QStringList(ports.begin(), ports.end()).join(u' '),
+        u"/dev/ttyS0 /dev/ttyS1 /dev/ttyS2 /dev/ttyS3 /dev/ttyACM0 /dev/ttyACM1 /dev/ttyACM2 /dev/ttyACM3 "
+        "/dev/ttyUSB0 /dev/ttyUSB1 /dev/ttyUSB2 /dev/ttyUSB3 /dev/ttyUSB4 /dev/ttyUSB5 /dev/ttyUSB6 /dev/ttyUSB7"_s);
+  }
+
+  void withoutAModemSixteenPortsAreTriedAndPortOneIsClaimed() {
+    AbsentPorts ports;
+    PhoneSettings phone;
+    FindModemPort(ports, phone);
+    // Once each, then port 1 again, which the program goes on with.
+    QCOMPARE(ports.Tried, (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 1}));
+    QCOMPARE(ports.Sent.last(), u"AT#CID=1\r"_s);
+    ExpectPort(phone, 1);
+  }
+
+  void portsThatAreNotThereAreSilent() {
+    SerialLine line(PortsOn({{1, u"/nowhere/one"_s}, {2, u"/nowhere/two"_s}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    QVERIFY(!line.PortOpen());
+    ExpectPort(phone, 1);
+  }
+
+  void aModemOnPortTwoIsFoundAndLeftOpenWithCallerIdentificationAsked() {
+    PlayedModem modem;
+    SerialLine line(PortsOn({{2, modem.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 2);
+    QVERIFY(line.PortOpen());
+    QCOMPARE(line.CommPort(), 2);
+    QCOMPARE(modem.Commands(), (QByteArrayList{"AT", "AT#CID=1"}));
+  }
+
+  void theFirstOfTwoModemsIsTaken() {
+    PlayedModem third;
+    PlayedModem ninth;
+    SerialLine line(PortsOn({{3, third.Device()}, {9, ninth.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 3);
+    QVERIFY(ninth.Commands().isEmpty());
+  }
+
+  void theModemMayBeOnTheLastPort() {
+    PlayedModem modem;
+    SerialLine line(PortsOn({{16, modem.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 16);
+  }
+
+  void anEchoOfTwoBytesIsTakenForAModem() {
+    PlayedModem echo;
+    echo.Answer = [](const QByteArray& command) { return command.left(2); };
+    SerialLine line(PortsOn({{2, echo.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 2);
+  }
+
+  void oneCharacterIsNoAnswer() {
+    PlayedModem short1;
+    short1.Answer = [](const QByteArray&) { return QByteArray("O"); };
+    PlayedModem modem;
+    SerialLine line(PortsOn({{2, short1.Device()}, {3, modem.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 3);
+    QCOMPARE(short1.Commands(), QByteArrayList{"AT"});
+  }
+
+  void aSilentDeviceIsPassedOverAtOnceAndLetGo() {
+    PlayedModem silent;
+    silent.Answer = Silence;
+    PlayedModem modem;
+    SerialLine line(PortsOn({{1, silent.Device()}, {2, modem.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 2);
+    // Nobody holds it any more: another line can have it.
+    SerialLine other(PortsOn({{1, silent.Device()}}));
+    other.SetPortOpen(true);
+    QVERIFY(other.PortOpen());
+  }
+
+  void aModemThatAnswersLateIsPassedOver() {
+    PlayedModem slow;
+    slow.Answer = Silence;
+    SerialLine line(PortsOn({{2, slow.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    slow.Say("\r\nOK\r\n");
+    ExpectPort(phone, 1);
+    QVERIFY(!line.PortOpen());
+    QCOMPARE(slow.Commands(), QByteArrayList{"AT"});
+  }
+
+  void theLookAtAnOpenPortIsShort() {
+    PlayedModem silent;
+    silent.Answer = Silence;
+    SerialLine line(PortsOn({{1, silent.Device()}}));
+    line.SetPortOpen(true);
+    QElapsedTimer timer;
+    timer.start();
+    line.WaitForBytes(2, 5);
+    QVERIFY2(timer.nsecsElapsed() >= 4'000'000, qPrintable(QString::number(timer.nsecsElapsed())));
+    // On a port that isn't open there is nothing to wait for.
+    line.SetPortOpen(false);
+    timer.start();
+    line.WaitForBytes(2, 60'000);
+    QVERIFY(timer.elapsed() < 30'000);
+  }
+
+  void aPortThatAnotherProgramHoldsIsPassedOver() {
+    PlayedModem held;
+    SerialLine holder(PortsOn({{1, held.Device()}}));
+    holder.SetPortOpen(true);
+    QVERIFY(holder.PortOpen());
+    SerialLine line(PortsOn({{1, held.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 1);
+    QVERIFY(!line.PortOpen());
+    QVERIFY(held.Commands().isEmpty());
+  }
+
+  void aDeviceThatIsNoSerialLineIsPassedOver() {
+    DataFolder folder;
+    folder.Put(u"/device"_s, "xx");
+    SerialLine line(PortsOn({{1, folder.Path(u"/device"_s)}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    ExpectPort(phone, 1);
+    QVERIFY(!line.PortOpen());
+    QCOMPARE(folder.Bytes(u"/device"_s), "xx");
+  }
+
+  void theRepliesToTheCallerIdentificationStayUnread() {
+    PlayedModem modem;
+    SerialLine line(PortsOn({{1, modem.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    // What it said to "AT" is cleared; what it says to the last command waits.
+    line.WaitForBytes(6, 1000);
+    QCOMPARE(line.Input(), u"\r\nOK\r\n"_s);
+  }
+
+  void theStoredPortFiveReplacesTheFoundPortThreeInTheVariableOnly() {
+    PlayedModem modem;
+    DataFolder folder;
+    folder.Put(u"/Phone.txt"_s, "#TRUE#\r\n5\r\n");
+    SerialLine line(PortsOn({{3, modem.Device()}}));
+    PhoneSettings phone;
+    StartModem(line, folder.Disk, phone);
+    QCOMPARE(phone.ModemPort, 5);
+    QCOMPARE(phone.txtModemPort, u"3"_s);
+    QCOMPARE(phone.Text1, u"Your Modem Comm Port Is 3."_s);
+    QCOMPARE(line.CommPort(), 3);
+    QVERIFY(line.PortOpen());
+  }
+
+  void thePortStaysWhileItIsOpen() {
+    PlayedModem modem;
+    SerialLine line(PortsOn({{1, modem.Device()}}));
+    line.SetPortOpen(true);
+    line.SetCommPort(4);
+    QCOMPARE(line.CommPort(), 1);
+    line.SetPortOpen(false);
+    line.SetCommPort(4);
+    QCOMPARE(line.CommPort(), 4);
+    line.SetCommPort(17);
+    line.SetPortOpen(true);
+    QVERIFY(!line.PortOpen());
+  }
+
+  void aLineThatDropsIsClosedAndCostsNothingMore() {
+    PlayedModem modem;
+    SerialLine line(PortsOn({{1, modem.Device()}}));
+    line.SetPortOpen(true);
+    modem.Drop();
+    for (int pass = 0; pass < 100 && line.PortOpen(); ++pass) QVERIFY(line.Yield());
+    QVERIFY(!line.PortOpen());
+    QCOMPARE(line.InBufferCount(), 0);
+    line.Output(u"ATH\r"_s);
+    // A pass without anything to hear rests until its time is over.
+    QElapsedTimer timer;
+    timer.start();
+    for (int pass = 0; pass < 5; ++pass) line.Yield();
+    QVERIFY2(timer.elapsed() >= 50, qPrintable(QString::number(timer.elapsed())));
+  }
+};
+
+QTEST_GUILESS_MAIN(ModemSearch)
+#include "tst_modemSearch.moc"
