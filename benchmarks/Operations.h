@@ -3,11 +3,18 @@
 
 #include <QString>
 
+#include "desktop/SerialLine.h"
+
 /// Time to the first window, and memory beside it, over a bare window of the toolkit: each run is a process of its own,
 /// which `RunAsStarter` is.
 void MeasureStart(const QString& ownProgramFile, const QString& fullTree);
 /// The part of a child process of `MeasureStart`; answers its exit code, or -1 where the arguments ask for none.
 int RunAsStarter(int argc, char* argv[]);
+
+/// Sixteen ports on which nothing stands: no device of the machine is touched.
+PortTable AbsentPorts();
+/// The search for a modem where no port is there, over the failing opens alone.
+void MeasureAbsentPorts();
 
 /// The customers' folders at start, over the same calls made raw.
 void MeasureDataTree(const QString& fullTree);

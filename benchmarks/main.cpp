@@ -23,6 +23,7 @@ int main(int argc, char* argv[]) {
     if (chosen.isEmpty() || chosen.contains(QLatin1String(part))) work();
   };
   measure("start", [&] { MeasureStart(QApplication::applicationFilePath(), full.path()); });
+  measure("ports", [] { MeasureAbsentPorts(); });
   measure("folders", [&] { MeasureDataTree(full.path()); });
   measure("customers", [&] { MeasureCustomers(full.path()); });
   measure("search", [&] { MeasureSearch(full.path()); });

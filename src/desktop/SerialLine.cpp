@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 #include <QEventLoop>
-#include <QFile>
 #include <QSerialPort>
 #include <QTimer>
 
@@ -20,7 +19,7 @@ constexpr int PassMilliseconds = 20;
 /// Whether there is something to open. Asked first, so that absent ports cost one question to the system each and
 /// not the lock file that the toolkit makes before it looks.
 bool CanBeOpened(const QString& device) {
-  return !device.isEmpty() && access(QFile::encodeName(device).constData(), R_OK | W_OK) == 0;
+  return !device.isEmpty() && access(device.toLocal8Bit().constData(), R_OK | W_OK) == 0;
 }
 
 }  // namespace

@@ -123,7 +123,7 @@ void frmDialer::SetSlotCaption(int slot, const QString& caption) {
   button->setText(QString(caption).replace(u'&', "&&"_L1));
   button->setAccessibleName(caption.isEmpty() ? u"Speed dial %1, empty"_s.arg(slot + 1)
                                               : u"Speed dial %1, %2"_s.arg(QString::number(slot + 1), caption));
-  button->setToolTip(caption.isEmpty() ? u"Add a Speed Dial entry here"_s : u"Call this entry"_s);
+  button->setToolTip(caption.isEmpty() ? u"Add a Speed Dial entry here"_s : u"Call "_s + caption);
 }
 
 void frmDialer::SetEnabled(DialerControl control, bool enabled) {

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 
+#include "demonstration/Call.h"
 #include "demonstration/OtherInvoices.h"
 #include "desktop/PaperPrinter.h"
 #include "desktop/Style.h"
@@ -29,6 +30,7 @@ class Demonstration : public QObject {
   void theCatalogueIsEntered();
   void twoCustomersAreEntered();
   void customersAreFoundAgainAndDescribed();
+  void aCustomerIsCalled();
   void anInvoiceIsComposedPrintedAndRecorded();
   void aLongInvoiceGoesOnPerforatedPaper();
   void invoicesCarryEverythingElse();
@@ -52,6 +54,8 @@ class Demonstration : public QObject {
   SystemClock m_clock;
   TestDialogs m_dialogs;
   std::unique_ptr<PaperPrinter> m_paper;
+  PlayedModem m_modem;
+  SerialLine m_line{PortsOn({{3, m_modem.Device()}})};
   std::unique_ptr<QueuedAnswers> m_answers;
   std::unique_ptr<Program> m_program;
 };
@@ -62,8 +66,8 @@ void Demonstration::initTestCase() {
   m_store = std::make_unique<FileStore>(m_files);
   m_paper = std::make_unique<PaperPrinter>(*m_store, m_dialogs, m_folder + u"/pages"_s);
   m_answers = std::make_unique<QueuedAnswers>();
-  m_program =
-      std::make_unique<Program>(PlatformOn(m_folder + u"/business"_s, m_folder, m_files, m_clock, m_dialogs, *m_paper));
+  m_program = std::make_unique<Program>(
+      PlatformOn(m_folder + u"/business"_s, m_folder, m_files, m_clock, m_dialogs, *m_paper, m_line));
   QVERIFY(m_program->Start());
 }
 
@@ -243,6 +247,17 @@ void Demonstration::customersAreFoundAgainAndDescribed() {
   Picture(screen, u"customer-auxiliary"_s);
   screen.Click(u"cmdSaveAux_2"_s);
   QVERIFY(QFile::exists(m_folder + u"/business/AuxFiles/1001/AuxFile3/Data.txt"_s));
+}
+
+void Demonstration::aCustomerIsCalled() {
+  // The number comes from the record that was read last: the arrow makes it the first customer's.
+  ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdNav_0"_s);
+  CallTheCustomer([this](const ScreenDriver& dialer) {
+    QCOMPARE(dialer.Text(u"lblStatus"_s), u"Pickup Receiver - Then Click Hangup"_s);
+    Picture(dialer, u"dialer"_s);
+  });
+  QVERIFY(!ScreenDriver::IsShown(u"frmDialer"_s));
+  QCOMPARE(m_modem.Commands(), (QByteArrayList{"AT", "AT#CID=1", "ATDT1-321-555-0142;", "ATH"}));
 }
 
 void Demonstration::Post(const ScreenDriver& invoice, int element, const QString& description, const QString& units) {

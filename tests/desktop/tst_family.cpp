@@ -19,7 +19,8 @@ const std::initializer_list<std::pair<ScreenName, const char*>> AllScreens{
     {ScreenName::frmBlanks, "frmBlanks"},
     {ScreenName::frmIncomplete, "frmIncomplete"},
     {ScreenName::frmSalesReport, "frmSalesReport"},
-    {ScreenName::frmReprint, "frmReprint"}};
+    {ScreenName::frmReprint, "frmReprint"},
+    {ScreenName::frmDialer, "frmDialer"}};
 
 /// Both purges bear the P on purpose: the letter moves the focus between them and runs neither.
 const QSet<QString> SharedLetter{u"Command1_2"_s, u"Command1_3"_s};

@@ -25,7 +25,7 @@ class ScreenDialer : public QObject {
   void itStandsOverTheCustomerScreen();
   void helpIsShownAndHidden();
   void thePrefixIsPutInFrontAndTakenAway();
-  void tickingAndUntickingFollowsTheNumberThatStandsThere();
+  void thePrefixFollowsTheNumberThatStandsThere();
   void aDialEndsAtTheModemsOk();
   void whatTheModemSaidBeforeIsNoAnswer();
   void anyOtherReplyIsIgnored();
@@ -174,7 +174,7 @@ void ScreenDialer::thePrefixIsPutInFrontAndTakenAway() {
   QCOMPARE(dialer.Text(u"lblNumber"_s), u"321-555-0142"_s);
 }
 
-void ScreenDialer::tickingAndUntickingFollowsTheNumberThatStandsThere() {
+void ScreenDialer::thePrefixFollowsTheNumberThatStandsThere() {
   PhoneDesk desk(PhoneDesk::Customer("1-321-0142"));
   desk.Program.Tree.Write(u"/SpeedNumbers.txt"_s, "\"Ann\"\r\n\"1-555\"\r\n\"Bob\"\r\n\"777\"\r\n");
   const ScreenDriver dialer = desk.Open();
