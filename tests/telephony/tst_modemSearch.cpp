@@ -17,27 +17,35 @@ QByteArray Silence(const QByteArray&) {
   return {};
 }
 
-/// Notes what is asked of it; no port of it can be opened.
-class AbsentPorts final : public SerialPort {
+/// Notes what is asked of it. A modem answers on one port; the others can't be opened.
+class NotedPorts final : public SerialPort {
  public:
+  explicit NotedPorts(int modemOn) : m_modemOn(modemOn) {}
   void SetCommPort(int port) override { m_port = port; }
   int CommPort() const override { return m_port; }
   void SetPortOpen(bool open) override {
-    if (open) Tried.append(m_port);
+    if (open) Asked.append(u"open %1"_s.arg(m_port));
+    if (!open && m_open) Asked.append(u"close"_s);
+    m_open = open && m_port == m_modemOn;
   }
-  bool PortOpen() const override { return false; }
-  void Output(const QString& text) override { Sent.append(text); }
-  int InBufferCount() override { return 0; }
-  void ClearInBuffer() override {}
+  bool PortOpen() const override { return m_open; }
+  void Output(const QString& text) override {
+    if (m_open || text != u"AT\r") Asked.append(u"send "_s + text.trimmed());
+  }
+  int InBufferCount() override { return m_open ? 2 : 0; }
+  void ClearInBuffer() override { Asked.append(u"clear"_s); }
   QString Input() override { return {}; }
-  void WaitForBytes(int, int) override {}
+  void WaitForBytes(int count, int milliseconds) override {
+    if (m_open) Asked.append(u"wait %1 bytes %2 ms"_s.arg(count).arg(milliseconds));
+  }
   bool Yield() override { return false; }
 
-  QList<int> Tried;
-  QStringList Sent;
+  QStringList Asked;
 
  private:
+  int m_modemOn;
   int m_port = 1;
+  bool m_open = false;
 };
 
 void ExpectPort(const PhoneSettings& phone, int port) {
@@ -63,13 +71,24 @@ class ModemSearch : public QObject {
   }
 
   void withoutAModemSixteenPortsAreTriedAndPortOneIsClaimed() {
-    AbsentPorts ports;
+    NotedPorts ports(0);
     PhoneSettings phone;
     FindModemPort(ports, phone);
-    // Once each, then port 1 again, which the program goes on with.
-    QCOMPARE(ports.Tried, (QList<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 1}));
-    QCOMPARE(ports.Sent.last(), u"AT#CID=1\r"_s);
+    QStringList expected;
+    for (int port = 1; port <= 16; ++port) expected.append(u"open %1"_s.arg(port));
+    // The program goes on with port 1, and asks for caller identification whether it is there or not.
+    expected += {u"open 1"_s, u"clear"_s, u"send AT#CID=1"_s};
+    QCOMPARE(ports.Asked, expected);
     ExpectPort(phone, 1);
+  }
+
+  void theStepsOfASearchThatEndsOnPortTwo() {
+    NotedPorts ports(2);
+    PhoneSettings phone;
+    FindModemPort(ports, phone);
+    QCOMPARE(ports.Asked, (QStringList{u"open 1"_s, u"open 2"_s, u"send AT"_s, u"wait 2 bytes 5 ms"_s, u"close"_s,
+                                       u"open 2"_s, u"clear"_s, u"send AT#CID=1"_s}));
+    QVERIFY(ports.PortOpen());
   }
 
   void portsThatAreNotThereAreSilent() {

@@ -149,7 +149,7 @@ void ScreenDialer::itStandsOverTheCustomerScreen() {
   QVERIFY(ScreenDriver::IsShown(u"frmNewCustomer"_s));
   PhoneDesk::HangUp();
   QVERIFY(!PhoneDesk::Shown());
-  QVERIFY(PhoneDesk::Customers().Window()->isActiveWindow());
+  QVERIFY(ScreenDriver::FindWindow(u"frmNewCustomer"_s)->isActiveWindow());
   PhoneDesk::Customers().Click(u"cmdCustomer_0"_s);
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
 }
