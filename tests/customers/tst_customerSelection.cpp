@@ -106,6 +106,7 @@ class NotedProgram final : public Screens, public ScreenHost {
     Asked << u"invoice "_s + customer.Acct + u": "_s +
                  QStringList(customer.Line.begin(), customer.Line.end()).join(u'|');
   }
+  void StartCall(const QString&, const QString&) override {}
   void PrintSample() override {}
   void QuitProgram() override {}
   void UnhandledError(const RuntimeError& error) override { Asked << error.Text(); }
