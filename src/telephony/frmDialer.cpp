@@ -31,7 +31,11 @@ frmDialer::frmDialer(ScreenHost& host, Screens& screens, const DialerDesk& desk)
 frmDialer::~frmDialer() = default;
 
 void frmDialer::ConnectCall() {
-  OnClick(m_ui->cmdNewDial, [this] { m_dialer.NewDial(); });
+  OnClick(m_ui->cmdNewDial, [this] {
+    // The button is disabled while it dials: the focus would go to a speed-dial slot, which a second Enter would take.
+    SetFocusTo(m_ui->cmdHangup);
+    m_dialer.NewDial();
+  });
   OnClick(m_ui->cmdCancel, [this] { m_dialer.Cancel(); });
   OnClick(m_ui->cmdHangup, [this] { m_dialer.Hangup(); });
   OnClick(m_ui->cmdHelp, [this] { ToggleHelp(); });

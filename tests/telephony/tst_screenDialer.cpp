@@ -198,16 +198,19 @@ void ScreenDialer::aDialEndsAtTheModemsOk() {
   PhoneDesk desk;
   desk.Open();
   QString status;
+  QString focus;
   bool dial = true;
   bool cancel = true;
   desk.DialAnd([&] {
     const ScreenDriver dialer = PhoneDesk::Dialer();
     status = dialer.Text(u"lblStatus"_s);
+    focus = dialer.FocusName();
     dial = dialer.IsEnabled(u"cmdNewDial"_s);
     cancel = dialer.IsEnabled(u"cmdCancel"_s);
     desk.Modem.Say("\r\nOK\r\n");
   });
   QCOMPARE(status, u"Dialing..... 321-555-0142"_s);
+  QCOMPARE(focus, u"cmdHangup"_s);
   QVERIFY(!dial);
   QVERIFY(!cancel);
   const ScreenDriver dialer = PhoneDesk::Dialer();
