@@ -56,18 +56,17 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
 }
 
 GridView::~GridView() {
-  if (m_alive != nullptr) {
-    m_alive->ForgetRowChanged(this);
+  if (m_matrix != nullptr) {
+    m_matrix->ForgetRowChanged(this);
   }
 }
 
 void GridView::SetMatrix(TextMatrix* matrix) {
-  if (m_alive != nullptr) {
-    m_alive->ForgetRowChanged(this);
-    disconnect(m_alive, nullptr, this, nullptr);
+  if (m_matrix != nullptr) {
+    m_matrix->ForgetRowChanged(this);
+    disconnect(m_matrix, nullptr, this, nullptr);
   }
   m_matrix = matrix;
-  m_alive = matrix;
   setModel(matrix);
   matrix->OnRowChanged(this, [this](int row) {
     ShowRow();
@@ -103,6 +102,9 @@ void GridView::SetTopRow(int row) {
 }
 
 void GridView::ShowRow() {
+  if (m_matrix == nullptr) {
+    return;
+  }
   const QModelIndex index = m_matrix->index(m_matrix->Row() - 1, std::max(0, m_matrix->Col()));
   if (!index.isValid()) {
     setCurrentIndex({});
@@ -206,9 +208,7 @@ void GridView::keyReleaseEvent(QKeyEvent* event) {
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
   // The toolkit makes the first cell current on its own; the matrix knows better.
-  if (m_matrix != nullptr) {
-    ShowRow();
-  }
+  ShowRow();
 }
 
 bool GridView::event(QEvent* event) {

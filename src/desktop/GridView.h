@@ -12,11 +12,11 @@ class GridView : public QTableView {
  public:
   explicit GridView(QWidget* parent = nullptr);
   ~GridView() override;
-  /// The matrix must outlive the view. Columns are at least as wide as the format string says and as their texts, and
-  /// the widest takes what is left. Several views may follow one matrix, and go in any order; who wants to be told when
-  /// this one has followed sets its `RowChanged`.
+  /// Columns are at least as wide as the format string says and as their texts, and the widest takes what is left.
+  /// Several views may follow one matrix; views and matrix go in any order, and a view whose matrix went is empty. Who
+  /// wants to be told when this one has followed sets its `RowChanged`.
   void SetMatrix(TextMatrix* matrix);
-  TextMatrix* Matrix() const { return m_matrix; }
+  TextMatrix* Matrix() const { return m_matrix; }  ///< nullptr before there is one, and when it went.
   int TopRow() const;
   /// Bounded by the first row and by the last one that can stand on top.
   void SetTopRow(int row);
@@ -52,8 +52,7 @@ class GridView : public QTableView {
   int TextsWidth(int col) const;
   int NeededWidth(int col) const;
 
-  TextMatrix* m_matrix = nullptr;
-  QPointer<TextMatrix> m_alive;
+  QPointer<TextMatrix> m_matrix;
   QPersistentModelIndex m_pressed;
   int m_pressedKey = 0;
   int m_wheel = 0;

@@ -112,6 +112,35 @@ class GridViews : public QObject {
     QCOMPARE(matrix.Row(), 3);
   }
 
+  void aViewWhoseMatrixWentIsEmptyAndTakesEveryEvent() {
+    Bench bench(3);
+    auto matrix = std::make_unique<TextMatrix>(u"A"_s, 5);
+    bench.grid->SetMatrix(matrix.get());
+    matrix->SetRow(2);
+    bench.log.clear();
+    // One that changed just before has its columns measured after it went.
+    matrix->SetText(1, 0, u"wide"_s);
+    matrix.reset();
+    QVERIFY(bench.grid->Matrix() == nullptr);
+    QCOMPARE(bench.grid->model()->rowCount(), 0);
+    ScreenDriver::ProcessEvents();
+    bench.screen.resize(bench.screen.size() + QSize(40, 40));
+    const QPoint inside = bench.grid->viewport()->mapTo(&bench.screen, QPoint(20, 10));
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+      QTest::mouseClick(bench.screen.windowHandle(), button, Qt::NoModifier, inside);
+    }
+    QTest::mouseDClick(bench.screen.windowHandle(), Qt::LeftButton, Qt::NoModifier, inside);
+    bench.grid->clearFocus();
+    bench.grid->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(bench.screen.windowHandle(), Qt::Key_Down);
+    ScreenDriver::ProcessEvents();
+    QCOMPARE(bench.log, QStringList());
+    TextMatrix next(u"A"_s, 5);
+    next.SetRow(3);
+    bench.grid->SetMatrix(&next);
+    QCOMPARE(bench.grid->currentIndex().row(), 2);
+  }
+
   void aViewThatGotAnotherMatrixFollowsOnlyThat() {
     TextMatrix former(u"A"_s, 5), matrix(u"A"_s, 5);
     GridView grid;
