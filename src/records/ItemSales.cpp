@@ -113,13 +113,14 @@ SalesFound LoadSalesGrid(ItemSales& sales, SalesRange& range, const SalesItemsLi
   }
   ClearSalesGrids(sales);
   range.TakeFromPickers();
-  const int count = disk.RecordCount(fileName, SoldItemRecord::Length);
   const RecordBuffer records = disk.OpenRandomFile(fileName, SoldItemRecord::Length).ReadAll();
+  // Recording an invoice doesn't ask how many there are, so there may be more than a record count can hold.
+  const qint64 count = RecordsIn(records.Content().size(), SoldItemRecord::Length);
   disk.CloseAllFiles();
   const QHash<QString, TickedName> ticked = TickedNames(list);
   std::vector<QStringList> rows;
   RowTexts texts;
-  for (int number = 1; number <= count; ++number) {
+  for (qint64 number = 1; number <= count; ++number) {
     if (!GoesOn(progress, number, count)) return SalesFound::Stopped;
     const RecordView record = records.Record(number);
     // Both ends belong to the range; a time of day counts, so one on the last day lies behind it.

@@ -23,7 +23,7 @@ enum class SalesFound { NoFile, Nothing, Some, Stopped };
 
 /// Fills `fgSalesItems` with the records of the range whose name is ticked, in file order; a name that is ticked twice
 /// gives its records twice. Takes the range from the pickers. Without the file a message says so and the grids stay;
-/// stopped, they are blank. Throws RuntimeError 6 for a file of more than 32,767 records.
+/// stopped, they are blank. The file may hold any number of records.
 SalesFound LoadSalesGrid(ItemSales& sales, SalesRange& range, const SalesItemsList& list, CommonDiskRoutines& disk,
                          Dialogs& dialogs, const Progress& progress = {});
 

@@ -3,6 +3,7 @@
 #include "invoice/SoldItemRecord.h"
 #include "records/SalesRange.h"
 #include "runtime/Dates.h"
+#include "runtime/RuntimeError.h"
 #include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
@@ -31,6 +32,17 @@ QByteArray KeptRecords(const RecordBuffer& records, int count, double start, dou
   return kept;
 }
 
+/// A file beyond the limit isn't damaged: its records can be reported, only not purged.
+int CountForPurge(const QString& name, CommonDiskRoutines& disk) {
+  try {
+    return disk.RecordCount(name, SoldItemRecord::Length);
+  } catch (const RuntimeError& error) {
+    if (error.From() != RuntimeError::Origin::FileContent) throw;
+    throw RuntimeError(error.Number(), error.Subject())
+        .WithAdvice(u"It holds more than 32,767 records, and from so many none can be deleted. Nothing was lost."_s);
+  }
+}
+
 }  // namespace
 
 bool PurgeSoldItems(const SalesRange& range, CommonDiskRoutines& disk) {
@@ -39,7 +51,7 @@ bool PurgeSoldItems(const SalesRange& range, CommonDiskRoutines& disk) {
   // What an interrupted purge left behind isn't ours.
   disk.KillDataFile(temporary);
   QByteArray kept;
-  if (const int count = disk.RecordCount(name, SoldItemRecord::Length); count > 0) {
+  if (const int count = CountForPurge(name, disk); count > 0) {
     kept = KeptRecords(disk.OpenRandomFile(name, SoldItemRecord::Length).ReadAll(), count,
                        ToDayCount(range.DTPicker1[0]), ToDayCount(range.DTPicker1[1]));
   }

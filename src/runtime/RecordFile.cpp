@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <QtEndian>
+#include <stdexcept>
 
 #include "runtime/CodePage.h"
 #include "runtime/RuntimeError.h"
@@ -86,7 +87,9 @@ RecordBuilder& RecordBuilder::Double(qsizetype offset, double value) {
 }
 
 RecordBuilder& RecordBuilder::Bytes(qsizetype offset, QByteArrayView bytes) {
-  Q_ASSERT(offset >= 0 && offset + bytes.size() <= m_bytes.size());
+  if (offset < 0 || bytes.size() > m_bytes.size() - offset) {
+    throw std::logic_error("a field beyond the end of its record");
+  }
   std::copy(bytes.begin(), bytes.end(), m_bytes.begin() + offset);
   return *this;
 }
@@ -96,9 +99,13 @@ QByteArrayView RecordBuffer::Bytes(qsizetype number) const {
   return Slice(m_content, (number - 1) * m_length, m_length);
 }
 
-int RecordCountOf(qint64 fileLength, int recordLength, const QString& fileName) {
+qint64 RecordsIn(qint64 fileLength, int recordLength) {
   // The default rounding mode: ties to even.
-  const double count = std::nearbyint(static_cast<double>(fileLength) / recordLength);
+  return static_cast<qint64>(std::nearbyint(static_cast<double>(fileLength) / recordLength));
+}
+
+int RecordCountOf(qint64 fileLength, int recordLength, const QString& fileName) {
+  const qint64 count = RecordsIn(fileLength, recordLength);
   if (fileLength > std::numeric_limits<qint32>::max() || count > RecordLimit) {
     throw RuntimeError(ErrorNumber::Overflow, fileName, RuntimeError::Origin::FileContent);
   }

@@ -26,7 +26,8 @@ class RecordView {
   QByteArrayView m_bytes;
 };
 
-/// Builds one record of a fixed length, blank to begin with. Texts are cut at the width and padded with blanks.
+/// Builds one record of a fixed length, blank to begin with. Texts are cut at the width and padded with blanks. A field
+/// that doesn't lie in the record is a mistake of the program: std::logic_error.
 class RecordBuilder {
  public:
   explicit RecordBuilder(qsizetype length) : m_bytes(length, ' ') {}
@@ -59,6 +60,9 @@ class RecordBuffer {
 /// How many records a file may hold: one more and it couldn't be counted, so nobody appends it.
 inline constexpr int RecordLimit = 32767;
 
-/// File length divided by record length in double precision, to the nearest, ties to even. Above `RecordLimit` throws
+/// File length divided by record length in double precision, to the nearest, ties to even; without a limit.
+qint64 RecordsIn(qint64 fileLength, int recordLength);
+
+/// `RecordsIn`, as a 16-bit number. Above `RecordLimit` throws
 /// RuntimeError 6 that names the file and counts as damage of it.
 int RecordCountOf(qint64 fileLength, int recordLength, const QString& fileName);

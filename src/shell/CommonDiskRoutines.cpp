@@ -1,5 +1,7 @@
 #include "shell/CommonDiskRoutines.h"
 
+#include <stdexcept>
+
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 
@@ -41,7 +43,7 @@ QByteArray RandomFile::Get(qsizetype number) const {
 void RandomFile::Put(qsizetype number, const QByteArray& record) {
   RequireOpen();
   if (number < 1) throw RuntimeError(ErrorNumber::OutOfRange, m_name);
-  Q_ASSERT(record.size() == m_recordLength);
+  if (record.size() != m_recordLength) throw std::logic_error("a record of another length than its file's");
   try {
     m_store.WriteInPlace(m_path, (number - 1) * m_recordLength, record);
     m_created = false;
@@ -94,11 +96,11 @@ bool CommonDiskRoutines::FileExists(const QString& name) {
 
 int CommonDiskRoutines::RecordCount(const QString& name, int recordLength) {
   if (!FileExists(name)) return 0;
-  return RecordCountOf(m_store.Size(PathOf(name)), recordLength, name);
+  return RecordCountOf(m_store.Size(PathOf(name)), recordLength, Rooted(name));
 }
 
 ListReader CommonDiskRoutines::OpenInputFile(const QString& name) {
-  ListReader reader(name, m_store.ReadWhole(PathOf(name)));
+  ListReader reader(Rooted(name), m_store.ReadWhole(PathOf(name)));
   reader.Attach(NewOpenMark());
   return reader;
 }
@@ -113,7 +115,7 @@ RandomFile CommonDiskRoutines::OpenRandomFile(const QString& name, int recordLen
   const QString path = PathOf(name);
   const bool created = !m_store.IsFile(path);
   if (created) m_store.WriteInPlace(path, 0, {});
-  return RandomFile(m_store, name, path, recordLength, created, NewOpenMark());
+  return RandomFile(m_store, Rooted(name), path, recordLength, created, NewOpenMark());
 }
 
 void CommonDiskRoutines::AppendRecord(const QString& name, const QByteArray& record) {

@@ -23,7 +23,8 @@ class RandomFile {
   /// One record, read anew; blank past the end.
   QByteArray Get(qsizetype number) const;
   /// One write; extends the file where needed. Throws RuntimeError 61, 70, 75. The creation of a file and its first
-  /// record are one thing: where that record fails, the file that was made for it goes again.
+  /// record are one thing: where that record fails, the file that was made for it goes again. A record of another
+  /// length is a mistake of the program: std::logic_error, and nothing is written.
   void Put(qsizetype number, const QByteArray& record);
   /// The whole file in one read, for a scan.
   RecordBuffer ReadAll() const;

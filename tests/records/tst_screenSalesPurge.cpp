@@ -137,6 +137,28 @@ class ScreenSalesPurge : public QObject {
                                                 QByteArray("2025000").leftJustified(20) + QByteArray(2, '\0'));
   }
 
+  void aFileOfMoreRecordsThanACountHoldsIsToldAndStays() {
+    const QByteArray full = First + QByteArray(32767 * 90, ' ');
+    Desk desk(full);
+    QVERIFY(desk.Open());
+    desk.Agree();
+    desk.Program.Answers.Ok(
+        u"/SoldItems.txt: A number is too large for its place. (error 6)\n\nIt holds more than 32,767 records, and "
+        u"from so "
+        u"many none can be deleted. Nothing was lost."_s,
+        u"Karvex Invoicer"_s);
+    Desk::Purge();
+    QCOMPARE(desk.Program.Tree.Bytes(File), full);
+    QCOMPARE(desk.Program.Tree.Bytes(Copy), "older");
+    QVERIFY(!desk.Program.Running().HasEnded());
+    QVERIFY(ScreenDriver::IsShown(u"frmSalesReport"_s));
+    // One record less, and they go.
+    desk.Program.Tree.Write(File, full.chopped(90));
+    desk.Agree();
+    Desk::Purge();
+    QCOMPARE(desk.Program.Tree.Bytes(File), QByteArray(32766 * 90, ' '));
+  }
+
   void withoutAFileThereIsNothingToKeep() {
     Desk desk;
     QVERIFY(desk.Open());

@@ -1,6 +1,7 @@
 // Fixed-length records: the bytes of their fields, and what a short or absent record reads as.
 #include <limits>
 #include <QtTest>
+#include <stdexcept>
 
 #include "runtime/RecordFile.h"
 #include "support/ErrorOf.h"
@@ -29,6 +30,16 @@ class RecordFileTest : public QObject {
                                           "too "
                                           "xyz     ",
                                           40));
+  }
+
+  void aFieldBeyondTheRecordIsRefusedAndWritesNothing() {
+    RecordBuilder builder(8);
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, builder.Text(4, 5, u"x"_s));
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, builder.Double(1, 1.0));
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, builder.Int16(-1, 1));
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, builder.Bytes(std::numeric_limits<qsizetype>::max(), "x"));
+    QCOMPARE(builder.Record(), QByteArray(8, ' '));
+    QCOMPARE(builder.Int32(4, 0x01020304).Record(), "    \x04\x03\x02\x01");
   }
 
   void fieldsAreReadFromTheirOffsets() {
@@ -116,6 +127,14 @@ class RecordFileTest : public QObject {
       QCOMPARE(error.Subject(), u"/CustomerData.txt"_s);
       QCOMPARE(error.From(), RuntimeError::Origin::FileContent);
     }
+  }
+
+  void recordsAreCountedBeyondTheLimitWhereThereIsNone() {
+    QCOMPARE(RecordsIn(0, 90), qint64{0});
+    QCOMPARE(RecordsIn(135, 90), qint64{2});  // a tie, to even
+    QCOMPARE(RecordsIn(225, 90), qint64{2});
+    QCOMPARE(RecordsIn(qint64{32768} * 90, 90), qint64{32768});
+    QCOMPARE(RecordsIn(qint64{100000000} * 90, 90), qint64{100000000});
   }
 
   void aFileLengthBeyondThirtyTwoBitsIsAnOverflow() {

@@ -95,6 +95,14 @@ class DiskRoutinesTest : public QObject {
 
   void anAbsentFileHasNoRecords() { QCOMPARE(m_disk->RecordCount(u"/SoldItems.txt"_s, 90), 0); }
 
+  void aRecordOfAnotherLengthIsRefusedAndWritesNothing() {
+    Put(u"/TaxRecords.txt"_s, QByteArray(150, 'x'));
+    RandomFile records = m_disk->OpenRandomFile(u"/TaxRecords.txt"_s, 75);
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, records.Put(1, QByteArray(76, ' ')));
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, records.Put(1, QByteArray(74, ' ')));
+    QCOMPARE(Bytes(u"/TaxRecords.txt"_s), QByteArray(150, 'x'));
+  }
+
   void moreThan32767RecordsIsDamageOfTheFile() {
     Put(u"/TaxRecords.txt"_s, QByteArray(32767 * 75, ' '));
     QCOMPARE(m_disk->RecordCount(u"/TaxRecords.txt"_s, 75), 32767);
