@@ -13,6 +13,8 @@ void PurgeAllPartials(PartialList& list, CommonDiskRoutines& disk) {
 
 void PurgeSelectedPartial(PartialList& list, CommonDiskRoutines& disk) {
   const TextMatrix& grid = list.fgIncomplete;
+  // Row 0 is the heading.
+  if (grid.Row() < 1) return;
   disk.KillDataFile(InvoiceImageName(grid.Text(grid.Row(), 0), false));
   LoadPartialList(list, disk);
 }

@@ -2,6 +2,7 @@
 #include <QtTest>
 
 #include "records/PartialList.h"
+#include "records/PartialPurge.h"
 #include "support/ErrorOf.h"
 #include "support/InvoiceFixture.h"
 
@@ -52,6 +53,16 @@ class PartialListTest : public QObject {
     Save(u"a.txt"_s, " 7 \r\n\r\n\r\n\r\n");
     LoadPartialList(*m_list, m_desk->Disk);
     QCOMPARE(m_list->SelectedInvoiceNo(), u"7"_s);
+  }
+
+  void withoutASelectedRowNothingIsPurged() {
+    // The heading of the first column could name a file as well.
+    Save(u"Invoice No.txt"_s, "1\r\n1001\r\nBay\r\n3/5/2026\r\n");
+    LoadPartialList(*m_list, m_desk->Disk);
+    m_list->fgIncomplete.SetRow(0);
+    PurgeSelectedPartial(*m_list, m_desk->Disk);
+    QVERIFY(LoadPartialList(*m_list, m_desk->Disk));
+    QCOMPARE(m_list->FileNames, QStringList{u"Invoice No.txt"_s});
   }
 
   void withoutFilesTheListIsEmptyAgain() {
