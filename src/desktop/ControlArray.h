@@ -1,9 +1,11 @@
 /// A control array of a form: element i is the child named "name_i". Gaps are allowed; asking for one is a mistake of
-/// the program and asserted.
+/// the program: std::logic_error.
 #pragma once
 
 #include <array>
 #include <QWidget>
+#include <stdexcept>
+#include <string>
 
 template <typename Control, int Count>
 class ControlArray {
@@ -24,10 +26,8 @@ class ControlArray {
     }
   }
   Control* operator[](int index) const {
-    Q_ASSERT(index >= 0 && index < Count);
-    Control* control = m_controls[static_cast<std::size_t>(index)];
-    Q_ASSERT(control != nullptr);
-    return control;
+    if (!Has(index)) throw std::logic_error("a control array has no element " + std::to_string(index));
+    return m_controls[static_cast<std::size_t>(index)];
   }
   bool Has(int index) const {
     return index >= 0 && index < Count && m_controls[static_cast<std::size_t>(index)] != nullptr;

@@ -109,6 +109,9 @@ void Screen::SetTypingLimit(QWidget* box, int characters) {
 }
 
 void Screen::SetFocusTo(QWidget* control) {
+  if (control == nullptr) {
+    return;
+  }
   if (!isVisible()) {
     m_state->pendingFocus.emplace_back(control);
     return;

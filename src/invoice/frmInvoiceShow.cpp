@@ -1,6 +1,8 @@
 // How the invoice in the making and the controls of its screen are kept the same: each control writes its change at
 // once, and after each event the screen shows what the rules changed.
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <stdexcept>
 
 #include "desktop/LabelText.h"
 #include "desktop/ListCombo.h"
@@ -172,11 +174,13 @@ void frmInvoice::ShowInvoice() {
   if (m_showing) return;
   do {
     m_showAgain = false;
-    m_showing = true;
+    const QScopedValueRollback showing(m_showing, true);
     for (const auto& show : m_shown) show();
     ShowViewButtons();
-    m_showing = false;
   } while (m_showAgain);
   const QString focus = m_invoice.Controls.TakeFocus();
-  if (!focus.isEmpty()) SetFocusTo(findChild<QWidget*>(focus));
+  if (focus.isEmpty()) return;
+  auto* control = findChild<QWidget*>(focus);
+  if (control == nullptr) throw std::logic_error("the invoice has no control " + focus.toStdString());
+  SetFocusTo(control);
 }

@@ -220,6 +220,22 @@ class ScreensShare : public QObject {
     QVERIFY(!boxes.Has(13));
     QVERIFY(!boxes.Has(-1));
     QCOMPARE(boxes.Size(), 13);
+    for (const int absent : {1, 13, -1}) QVERIFY_THROWS_EXCEPTION(std::logic_error, boxes[absent]);
+  }
+
+  void theFocusForAControlThatIsNotThereIsNoFocus() {
+    RecordingHost host;
+    BenchScreen screen(host);
+    screen.Add<QLineEdit>(u"first"_s);
+    auto* second = screen.Add<QLineEdit>(u"second"_s);
+    screen.SetFocusTo(nullptr);
+    screen.SetFocusTo(second);
+    screen.SetFocusTo(nullptr);
+    screen.show();
+    ScreenDriver driver(&screen);
+    QCOMPARE(screen.focusWidget(), second);
+    screen.SetFocusTo(nullptr);
+    QCOMPARE(screen.focusWidget(), second);
   }
 
   void aPictureIsClickedByMouseAndKeys() {

@@ -58,6 +58,9 @@ class ScreenFlow : public QObject {
   void exitDropsTheInvoice();
   void menuAlwaysRunsThoughTheBoxThatWasLeftIsRefused();
   void theUsersCloseBoxEndsTheProgram();
+  void everyControlThatARuleGivesTheFocusToIsThere_data();
+  void everyControlThatARuleGivesTheFocusToIsThere();
+  void aShowingThatFailsIsToldAndTheNextOneShows();
   void theInternationalStyleHasNoState();
   void theTaxRowsBearTheHeadingsOfSetup_data();
   void theTaxRowsBearTheHeadingsOfSetup();
@@ -334,6 +337,56 @@ void ScreenFlow::theUsersCloseBoxEndsTheProgram() {
   bench.Open();
   bench.On().CloseByUser();
   QCOMPARE(bench.Around.Asked, QStringList{u"quit"_s});
+}
+
+void ScreenFlow::everyControlThatARuleGivesTheFocusToIsThere_data() {
+  QTest::addColumn<QString>("name");
+  for (const char* name :
+       {"txtInvoiceNo",     "txtShipto_0",     "txtShipto_6",    "cboDescription_0", "cboDescription_1",
+        "cboDescription_2", "cboPrice_0",      "cboPrice_1",     "cboPrice_2",       "txtUnits",
+        "txtCUnits",        "txtManual_0",     "txtManual_1",    "txtHours_0",       "txtHours_1",
+        "txtHours_2",       "cmdLabor_1",      "txtMemo",        "txtNarrative",     "txtShip",
+        "txtMisc",          "txtFlatDiscount", "cmdAddDiscount", "cboPrepaid",       "cmdInvoice_9"}) {
+    QTest::newRow(name) << QString::fromLatin1(name);
+  }
+}
+
+void ScreenFlow::everyControlThatARuleGivesTheFocusToIsThere() {
+  QFETCH(const QString, name);
+  InvoiceBench bench;
+  bench.Open();
+  bench.Invoice.Controls.Focus = name;
+  bench.Invoice.Show();
+  QVERIFY(bench.Around.Errors.isEmpty());
+  auto* control = bench.On().Control<QWidget>(name);
+  QVERIFY(control->focusPolicy() != Qt::NoFocus);
+  // Where it can take it, it has it.
+  for (QWidget* parent = control->parentWidget(); parent != nullptr; parent = parent->parentWidget()) parent->show();
+  control->show();
+  control->setEnabled(true);
+  bench.Invoice.Controls.Focus = name;
+  bench.Invoice.Show();
+  QVERIFY(control->hasFocus() || control->isAncestorOf(QApplication::focusWidget()));
+}
+
+void ScreenFlow::aShowingThatFailsIsToldAndTheNextOneShows() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  // An option that the form doesn't have, and a focus for a control that it doesn't have.
+  QVERIFY_THROWS_EXCEPTION(std::logic_error, [&] {
+    bench.Invoice.Controls.Focus = u"txtNowhere"_s;
+    bench.Invoice.Show();
+  }());
+  bench.Invoice.optDiscount = 9;
+  bench.On().Trigger(u"mnuMemo"_s);
+  QVERIFY(!bench.Around.Errors.isEmpty());
+  QCOMPARE(bench.Around.Errors, QList<int>(bench.Around.Errors.size(), 0));
+  bench.Around.Errors.clear();
+  bench.Invoice.optDiscount = DiscountOption::None;
+  bench.Invoice.txtMemo = u"Shown again"_s;
+  bench.On().Trigger(u"mnuManual"_s);
+  QVERIFY(bench.Around.Errors.isEmpty());
+  QCOMPARE(bench.On().Control<QPlainTextEdit>(u"txtMemo"_s)->toPlainText(), u"Shown again"_s);
 }
 
 void ScreenFlow::theInternationalStyleHasNoState() {
