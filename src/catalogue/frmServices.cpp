@@ -11,16 +11,15 @@ using namespace Qt::StringLiterals;
 frmServices::frmServices(ScreenHost& host, Screens& screens, Catalogue& catalogue, Dialogs& dialogs)
     : Screen(u"frmServices"_s, host),
       m_ui(std::make_unique<Ui::frmServices>()),
+      m_cmdServices(BuildForm(*m_ui), u"cmdServices"_s),
+      m_txtDescription(this, u"txtDescription"_s),
+      m_txtCharge(this, u"txtCharge"_s),
+      m_txtLabor(this, u"txtLabor"_s),
+      m_txtLaborRate(this, u"txtLaborRate"_s),
       m_screens(screens),
       m_catalogue(catalogue),
       m_dialogs(dialogs),
       m_editor(catalogue, dialogs, *this) {
-  m_ui->setupUi(this);
-  m_cmdServices = std::make_unique<ControlArray<QPushButton, CatalogueCommand::Count>>(this, u"cmdServices"_s);
-  m_txtDescription = std::make_unique<ControlArray<QLineEdit, 3>>(this, u"txtDescription"_s);
-  m_txtCharge = std::make_unique<ControlArray<QLineEdit, 5>>(this, u"txtCharge"_s);
-  m_txtLabor = std::make_unique<ControlArray<QLineEdit, 3>>(this, u"txtLabor"_s);
-  m_txtLaborRate = std::make_unique<ControlArray<QLineEdit, 3>>(this, u"txtLaborRate"_s);
   for (const CatalogueList list : AllCatalogueLists) {
     View(list)->SetMatrix(&m_catalogue.Grid(list));
     View(list)->Click = [this, list] { m_editor.ClickRow(list); };
@@ -48,22 +47,22 @@ frmServices::~frmServices() {
 void frmServices::ShowCatalogue() {
   m_ui->lstTime->addItems(m_catalogue.lstTime);
   for (const QString& category : m_catalogue.cboCategory()) m_ui->cboCategory->AddEntry(category);
-  for (int i = 0; i < m_cmdServices->Size(); ++i) {
-    if (m_cmdServices->Has(i)) (*m_cmdServices)[i]->setEnabled(m_catalogue.CommandEnabled(i));
+  for (int i = 0; i < m_cmdServices.Size(); ++i) {
+    if (m_cmdServices.Has(i)) m_cmdServices[i]->setEnabled(m_catalogue.CommandEnabled(i));
   }
 }
 
 void frmServices::ListenToCatalogue() {
   m_catalogue.CommandChanged = [this](int index) {
-    (*m_cmdServices)[index]->setEnabled(m_catalogue.CommandEnabled(index));
+    m_cmdServices[index]->setEnabled(m_catalogue.CommandEnabled(index));
   };
   m_catalogue.CategoriesCleared = [this] { m_ui->cboCategory->ClearList(); };
   m_catalogue.CategoryAdded = [this](const QString& category) { m_ui->cboCategory->AddEntry(category); };
   m_catalogue.LaborLoaded = [this] {
     const LaborRates rates = m_catalogue.Labor;
     for (int i = 0; i < 3; ++i) {
-      (*m_txtLabor)[i]->setText(rates.txtLabor.at(std::size_t(i)));
-      (*m_txtLaborRate)[i]->setText(rates.txtLaborRate.at(std::size_t(i)));
+      m_txtLabor[i]->setText(rates.txtLabor.at(std::size_t(i)));
+      m_txtLaborRate[i]->setText(rates.txtLaborRate.at(std::size_t(i)));
     }
   };
   m_catalogue.LaborLoaded();
@@ -97,8 +96,8 @@ void frmServices::FocusOnTab(int tab) {
 
 void frmServices::changeEvent(QEvent* event) {
   Screen::changeEvent(event);
-  // The base class changes the window before the form is set up.
-  if (event->type() == QEvent::PaletteChange && m_ui && m_ui->Image1 != nullptr) {
+  // The form's set-up changes the window before the picture is there.
+  if (event->type() == QEvent::PaletteChange && m_ui->Image1 != nullptr) {
     m_ui->Image1->SetPicture(DrawnPicture(Picture::Next, palette()));
   }
 }
@@ -116,7 +115,7 @@ void frmServices::BeforeUserClose() {
 /// Escape is the way back, except while a record is being entered: that would be lost from sight.
 void frmServices::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return Screen::keyPressEvent(event);
-  if (!m_editor.IsEntering()) PressButton((*m_cmdServices)[CatalogueCommand::Menu]);
+  if (!m_editor.IsEntering()) PressButton(m_cmdServices[CatalogueCommand::Menu]);
 }
 
 GridView* frmServices::View(CatalogueList list) const {

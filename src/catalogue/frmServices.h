@@ -60,13 +60,13 @@ class frmServices final : public Screen, private CatalogueView {
   bool ckClearItem() const override;
 
   std::unique_ptr<Ui::frmServices> m_ui;
+  ControlArray<QPushButton, CatalogueCommand::Count> m_cmdServices;
+  ControlArray<QLineEdit, 3> m_txtDescription;
+  ControlArray<QLineEdit, 5> m_txtCharge;
+  ControlArray<QLineEdit, 3> m_txtLabor;
+  ControlArray<QLineEdit, 3> m_txtLaborRate;
   Screens& m_screens;
   Catalogue& m_catalogue;
   Dialogs& m_dialogs;
-  std::unique_ptr<ControlArray<QPushButton, CatalogueCommand::Count>> m_cmdServices;
-  std::unique_ptr<ControlArray<QLineEdit, 3>> m_txtDescription;
-  std::unique_ptr<ControlArray<QLineEdit, 5>> m_txtCharge;
-  std::unique_ptr<ControlArray<QLineEdit, 3>> m_txtLabor;
-  std::unique_ptr<ControlArray<QLineEdit, 3>> m_txtLaborRate;
   CatalogueEditor m_editor;
 };

@@ -69,7 +69,7 @@ void frmServices::FilterDecimals(QLineEdit* box) {
 /// Enter saves where Save is live, as a press of the button does: the box settles first, and where it can't, nothing is
 /// saved.
 void frmServices::SaveOnReturn(CatalogueBox box, int command) {
-  On(Line(box), &QLineEdit::returnPressed, [this, command] { PressButton((*m_cmdServices)[command]); });
+  On(Line(box), &QLineEdit::returnPressed, [this, command] { PressButton(m_cmdServices[command]); });
 }
 
 QLineEdit* frmServices::Line(CatalogueBox box) const {
@@ -90,10 +90,10 @@ QLineEdit* frmServices::Line(CatalogueBox box) const {
     default:
       break;
   }
-  if (box < Box::txtCharge0) return (*m_txtDescription)[element(Box::txtDescription0)];
-  if (box < Box::txtCost) return (*m_txtCharge)[element(Box::txtCharge0)];
-  if (box < Box::txtLaborRate0) return (*m_txtLabor)[element(Box::txtLabor0)];
-  return (*m_txtLaborRate)[element(Box::txtLaborRate0)];
+  if (box < Box::txtCharge0) return m_txtDescription[element(Box::txtDescription0)];
+  if (box < Box::txtCost) return m_txtCharge[element(Box::txtCharge0)];
+  if (box < Box::txtLaborRate0) return m_txtLabor[element(Box::txtLabor0)];
+  return m_txtLaborRate[element(Box::txtLaborRate0)];
 }
 
 QWidget* frmServices::Control(CatalogueBox box) const {
@@ -132,7 +132,7 @@ void frmServices::FocusOn(CatalogueBox box) {
 }
 
 void frmServices::FocusOnCommand(int command) {
-  SetFocusTo((*m_cmdServices)[command]);
+  SetFocusTo(m_cmdServices[command]);
 }
 
 void frmServices::EnableGrid(CatalogueList list, bool enabled) {

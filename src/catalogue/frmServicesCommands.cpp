@@ -17,21 +17,21 @@ void frmServices::ConnectCommands() {
     Always(controls.Delete, [this, list] { m_editor.Delete(list); });
     Always(controls.Clear, [this, list] { m_editor.Clear(list); });
     Always(controls.Cancel, [this, list] { m_editor.Cancel(list); });
-    OnClick((*m_cmdServices)[controls.Save], [this, list] { m_editor.Save(list); });
+    OnClick(m_cmdServices[controls.Save], [this, list] { m_editor.Save(list); });
   }
   Always(Command::ClearPrices, [this] { m_editor.ClearPrices(); });
   Always(Command::NoDiscount, [this] { m_editor.RemoveDiscount(); });
   Always(Command::GeneralLabor, [this] { m_editor.CreateGeneralLabor(); });
   Always(Command::ClearLabor, [this] { m_editor.ClearLabor(); });
   Always(Command::ReloadLabor, [this] { m_catalogue.LoadLabor(); });
-  OnClick((*m_cmdServices)[Command::SaveLabor], [this] {
+  OnClick(m_cmdServices[Command::SaveLabor], [this] {
     m_catalogue.SaveLabor();
     m_ui->tabServices->setCurrentIndex(0);
   });
 }
 
 void frmServices::Always(int command, std::function<void()> handler) {
-  OnClick((*m_cmdServices)[command], std::move(handler), WhenLeaveRefused::Always);
+  OnClick(m_cmdServices[command], std::move(handler), WhenLeaveRefused::Always);
 }
 
 /// The labor rates aren't saved on this way, which is meant.

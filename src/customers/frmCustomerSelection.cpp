@@ -13,12 +13,11 @@ frmCustomerSelection::frmCustomerSelection(ScreenHost& host, Screens& screens, P
     : Screen(u"frmCustomerSelection"_s, host),
       m_screens(screens),
       m_proposals(proposals),
-      m_ui(std::make_unique<Ui::frmCustomerSelection>()) {
-  m_ui->setupUi(this);
-  m_cmdStartup = std::make_unique<ControlArray<QPushButton, 2>>(this, u"cmdStartup"_s);
-  m_cmdCreation = std::make_unique<ControlArray<QPushButton, 3>>(this, u"cmdCreation"_s);
-  m_fraInstructions = std::make_unique<ControlArray<QFrame, 2>>(this, u"fraInstructions"_s);
-  m_lblCustomerInfo = std::make_unique<ControlArray<QLabel, 9>>(this, u"lblCustomerInfo"_s);
+      m_ui(std::make_unique<Ui::frmCustomerSelection>()),
+      m_cmdStartup(BuildForm(*m_ui), u"cmdStartup"_s),
+      m_cmdCreation(this, u"cmdCreation"_s),
+      m_fraInstructions(this, u"fraInstructions"_s),
+      m_lblCustomerInfo(this, u"lblCustomerInfo"_s) {
   GridView* grid = m_ui->fgProposals;
   grid->SetMatrix(&m_proposals.fgProposals);
   grid->Click = [this] { ClickProposal(); };
@@ -29,55 +28,56 @@ frmCustomerSelection::frmCustomerSelection(ScreenHost& host, Screens& screens, P
   ConnectButtons();
   ShowProposals(false);
   const bool any = LoadProposals(m_proposals, disk);
-  (*m_cmdStartup)[1]->setEnabled(any);
+  m_cmdStartup[1]->setEnabled(any);
   if (!any) boxes.ShowMessage(u"No Proposals Exist"_s);
 }
 
 frmCustomerSelection::~frmCustomerSelection() = default;
 
 void frmCustomerSelection::ConnectButtons() {
-  OnClick((*m_cmdStartup)[0], [this] { GoToCustomerList(); });
-  OnClick((*m_cmdStartup)[1], [this] {
+  OnClick(m_cmdStartup[0], [this] { GoToCustomerList(); });
+  OnClick(m_cmdStartup[1], [this] {
     ShowProposals(true);
     SetFocusTo(m_ui->fgProposals);
   });
   OnClick(m_ui->cmdCancelselectProposal, [this] {
     ShowProposals(false);
     ShowInstructions(true);
-    SetFocusTo((*m_cmdStartup)[1]);
+    SetFocusTo(m_cmdStartup[1]);
   });
-  OnClick((*m_cmdCreation)[0],
-          [this] {
-            m_screens.Hide(ScreenName::frmCustomerSelection);
-            m_screens.Show(ScreenName::frmStartup);
-          },
-          WhenLeaveRefused::Always);
-  OnClick((*m_cmdCreation)[1], [this] { CreateInvoice(); });
+  OnClick(
+      m_cmdCreation[0],
+      [this] {
+        m_screens.Hide(ScreenName::frmCustomerSelection);
+        m_screens.Show(ScreenName::frmStartup);
+      },
+      WhenLeaveRefused::Always);
+  OnClick(m_cmdCreation[1], [this] { CreateInvoice(); });
   // The details stay in sight until the screen is shown again. Meant.
-  OnClick((*m_cmdCreation)[2], [this] {
+  OnClick(m_cmdCreation[2], [this] {
     ShowInstructions(true);
-    SetFocusTo((*m_cmdStartup)[1]);
+    SetFocusTo(m_cmdStartup[1]);
   });
-  SetEnterButton((*m_cmdCreation)[1]);
+  SetEnterButton(m_cmdCreation[1]);
 }
 
 void frmCustomerSelection::Activate() {
-  for (int i = 1; i <= 8; ++i) (*m_lblCustomerInfo)[i]->clear();
+  for (int i = 1; i <= 8; ++i) m_lblCustomerInfo[i]->clear();
   m_ui->lblAccount->clear();
   ShowInstructions(true);
-  SetFocusTo((*m_cmdStartup)[0]);
+  SetFocusTo(m_cmdStartup[0]);
 }
 
 void frmCustomerSelection::ShowInstructions(bool choosing) {
-  (*m_cmdCreation)[1]->setEnabled(!choosing);
-  (*m_cmdCreation)[2]->setEnabled(!choosing);
-  (*m_fraInstructions)[0]->setVisible(choosing);
-  (*m_fraInstructions)[1]->setVisible(!choosing);
+  m_cmdCreation[1]->setEnabled(!choosing);
+  m_cmdCreation[2]->setEnabled(!choosing);
+  m_fraInstructions[0]->setVisible(choosing);
+  m_fraInstructions[1]->setVisible(!choosing);
 }
 
 void frmCustomerSelection::ShowProposals(bool shown) {
   m_ui->fraProposals->setVisible(shown);
-  SetEscapeButton(shown ? m_ui->cmdCancelselectProposal : (*m_cmdCreation)[0]);
+  SetEscapeButton(shown ? m_ui->cmdCancelselectProposal : m_cmdCreation[0]);
 }
 
 void frmCustomerSelection::GoToCustomerList() {
@@ -94,10 +94,10 @@ void frmCustomerSelection::ClickProposal() {
   const std::array<QString, 7> lines{proposal->ProposalName, proposal->ProposalAddr1, proposal->ProposalAddr2,
                                      proposal->ProposalCity, proposal->ProposalState, proposal->ProposalPostal,
                                      proposal->ProposalPhone};
-  for (std::size_t i = 0; i < lines.size(); ++i) ShowOnLabel((*m_lblCustomerInfo)[static_cast<int>(i) + 1], lines[i]);
+  for (std::size_t i = 0; i < lines.size(); ++i) ShowOnLabel(m_lblCustomerInfo[static_cast<int>(i) + 1], lines[i]);
   ShowProposals(false);
   ShowInstructions(false);
-  SetFocusTo((*m_cmdCreation)[1]);
+  SetFocusTo(m_cmdCreation[1]);
   m_proposals.ProposalChosen = true;
 }
 
@@ -105,7 +105,7 @@ void frmCustomerSelection::CreateInvoice() {
   SoldTo customer;
   customer.Acct = m_ui->lblAccount->text();
   for (std::size_t i = 0; i < customer.Line.size(); ++i) {
-    customer.Line[i] = (*m_lblCustomerInfo)[static_cast<int>(i) + 1]->text();
+    customer.Line[i] = m_lblCustomerInfo[static_cast<int>(i) + 1]->text();
   }
   m_screens.StartInvoiceFor(customer);
   m_screens.Hide(ScreenName::frmCustomerSelection);

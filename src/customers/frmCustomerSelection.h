@@ -36,8 +36,8 @@ class frmCustomerSelection final : public Screen {
   Screens& m_screens;
   ProposalList& m_proposals;
   std::unique_ptr<Ui::frmCustomerSelection> m_ui;
-  std::unique_ptr<ControlArray<QPushButton, 2>> m_cmdStartup;
-  std::unique_ptr<ControlArray<QPushButton, 3>> m_cmdCreation;
-  std::unique_ptr<ControlArray<QFrame, 2>> m_fraInstructions;
-  std::unique_ptr<ControlArray<QLabel, 9>> m_lblCustomerInfo;  ///< From 1.
+  ControlArray<QPushButton, 2> m_cmdStartup;
+  ControlArray<QPushButton, 3> m_cmdCreation;
+  ControlArray<QFrame, 2> m_fraInstructions;
+  ControlArray<QLabel, 9> m_lblCustomerInfo;  ///< From 1.
 };

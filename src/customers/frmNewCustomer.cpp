@@ -11,21 +11,11 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-std::unique_ptr<Ui::frmNewCustomer> BuildForm(QMainWindow* window) {
-  auto form = std::make_unique<Ui::frmNewCustomer>();
-  form->setupUi(window);
-  return form;
-}
-
-}  // namespace
-
 frmNewCustomer::frmNewCustomer(ScreenHost& host, Screens& screens, CommonDiskRoutines& disk, Dialogs& dialogs,
                                const BusinessProfile& profile, CustomerOnScreen& onScreen)
     : Screen(u"frmNewCustomer"_s, host),
-      m_ui(BuildForm(this)),
-      m_txtCustomer(this, u"txtCustomer"_s),
+      m_ui(std::make_unique<Ui::frmNewCustomer>()),
+      m_txtCustomer(BuildForm(*m_ui), u"txtCustomer"_s),
       m_cmdCustomer(this, u"cmdCustomer"_s),
       m_cmdNav(this, u"cmdNav"_s),
       m_command1(this, u"Command1"_s),
@@ -162,8 +152,8 @@ void frmNewCustomer::StepBack() {
 
 void frmNewCustomer::changeEvent(QEvent* event) {
   Screen::changeEvent(event);
-  // The base class changes the window before the form is set up.
-  if (event->type() == QEvent::PaletteChange && m_ui && m_ui->Image1_1 != nullptr) {
+  // The form's set-up changes the window before the picture is there.
+  if (event->type() == QEvent::PaletteChange && m_ui->Image1_1 != nullptr) {
     DrawTelephone();
   }
 }

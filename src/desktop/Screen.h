@@ -44,6 +44,14 @@ class Screen : public QMainWindow {
   void setVisible(bool visible) override;
 
  protected:
+  /// Sets up the form from its description. It stands in the initialiser of the first control array, since arrays are
+  /// gathered from a form that is set up; the description itself is a member before them.
+  template <typename Form>
+  const QObject* BuildForm(Form& form) {
+    form.setupUi(this);
+    return this;
+  }
+
   /// Before the program ends because the user closed this window. An error in it keeps the program running.
   virtual void BeforeUserClose() {}
 
@@ -94,8 +102,8 @@ class Screen : public QMainWindow {
   /// Cuts what is typed or pasted at `characters`, never a text set from code.
   void SetTypingLimit(QWidget* box, int characters);
 
-  /// Gives the focus where the control is visible and enabled, else does nothing. Before the window shows, the
-  /// request is kept until it does; of several the last that can be granted then is.
+  /// Gives the focus where there is a control that is visible and enabled, else does nothing. Before the window shows,
+  /// the request is kept until it does; of several the last that can be granted then is.
   void SetFocusTo(QWidget* control);
 
   bool event(QEvent* event) override;

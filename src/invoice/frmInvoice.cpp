@@ -20,7 +20,7 @@ frmInvoice::frmInvoice(ScreenHost& host, const InvoiceDesk& desk)
       m_desk(desk),
       m_invoice(desk.Invoice),
       ui(std::make_unique<Ui::frmInvoice>()),
-      m_cmdInvoice(BuildForm(), u"cmdInvoice"_s),
+      m_cmdInvoice(BuildForm(*ui), u"cmdInvoice"_s),
       m_fraInstructions(this, u"fraInstructions"_s),
       m_cboDescription(this, u"cboDescription"_s),
       m_cboPrice(this, u"cboPrice"_s),
@@ -44,11 +44,6 @@ frmInvoice::frmInvoice(ScreenHost& host, const InvoiceDesk& desk)
   ShowInvoice();
 }
 
-frmInvoice* frmInvoice::BuildForm() {
-  ui->setupUi(this);
-  return this;
-}
-
 frmInvoice::~frmInvoice() {
   m_invoice.Refresh = {};
 }
@@ -58,9 +53,10 @@ std::function<void()> frmInvoice::Doing(std::function<void()> handler) {
     // An event inside another one, or inside the showing, finds values that the boxes don't show yet.
     if (m_depth == 0 && !m_showing) CollectTexts();
     ++m_depth;
+    // Also after an error, and before its box. It runs at the end of a scope, which no error may leave.
     const auto shown = qScopeGuard([this] {
       --m_depth;
-      ShowInvoice();
+      Run([this] { ShowInvoice(); });
     });
     handler();
   };

@@ -74,8 +74,6 @@ class frmInvoice final : public Screen {
   void FilterNumber(QLineEdit* box, QAbstractButton* onEnter);
   void Choose(QAction* entry, QToolButton* button, void (frmInvoice::*view)());
 
-  frmInvoice* BuildForm();
-
   // Showing the invoice.
   void BindHeader();
   void BindLineEntry();

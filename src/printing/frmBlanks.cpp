@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 frmBlanks::frmBlanks(ScreenHost& host, Screens& screens, const BlanksDesk& desk)
     : Screen(u"frmBlanks"_s, host), m_ui(std::make_unique<Ui::frmBlanks>()) {
-  m_ui->setupUi(this);
+  BuildForm(*m_ui);
   OnClick(m_ui->Command1_0, [this, desk] { PrintBlanks(desk, m_ui->txtInvoices->text()); });
   OnClick(m_ui->Command1_1, [&screens] {
     screens.Hide(ScreenName::frmBlanks);

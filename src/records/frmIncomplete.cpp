@@ -11,9 +11,10 @@
 using namespace Qt::StringLiterals;
 
 frmIncomplete::frmIncomplete(ScreenHost& host, const PartialDesk& desk)
-    : Screen(u"frmIncomplete"_s, host), m_desk(desk), m_ui(std::make_unique<Ui::frmIncomplete>()) {
-  m_ui->setupUi(this);
-  m_Command1 = std::make_unique<ControlArray<QPushButton, 4>>(this, u"Command1"_s);
+    : Screen(u"frmIncomplete"_s, host),
+      m_desk(desk),
+      m_ui(std::make_unique<Ui::frmIncomplete>()),
+      m_Command1(BuildForm(*m_ui), u"Command1"_s) {
   GridView* grid = m_ui->fgIncomplete;
   grid->SetMatrix(&m_desk.Partials.fgIncomplete);
   grid->Click = [this] { ClickRow(); };
@@ -22,19 +23,20 @@ frmIncomplete::frmIncomplete(ScreenHost& host, const PartialDesk& desk)
   grid->KeyPress = [this](int key) {
     if (key == 13 || key == ' ') ClickRow();
   };
-  OnClick((*m_Command1)[0], [this] { ReturnToMenu(); }, WhenLeaveRefused::Always);
-  OnClick((*m_Command1)[1], [this] { AddToSelected(); });
-  OnClick((*m_Command1)[2], [this] { PurgeAll(); });
-  OnClick((*m_Command1)[3], [this] { PurgeSelected(); });
+  OnClick(
+      m_Command1[0], [this] { ReturnToMenu(); }, WhenLeaveRefused::Always);
+  OnClick(m_Command1[1], [this] { AddToSelected(); });
+  OnClick(m_Command1[2], [this] { PurgeAll(); });
+  OnClick(m_Command1[3], [this] { PurgeSelected(); });
   OnClick(m_ui->cmdReport, [this] { cmdReport(); });
-  SetEscapeButton((*m_Command1)[0]);
+  SetEscapeButton(m_Command1[0]);
 }
 
 frmIncomplete::~frmIncomplete() = default;
 
 void frmIncomplete::Activate() {
-  (*m_Command1)[1]->setEnabled(false);
-  (*m_Command1)[3]->setEnabled(false);
+  m_Command1[1]->setEnabled(false);
+  m_Command1[3]->setEnabled(false);
   SetFocusTo(m_ui->fgIncomplete);
 }
 
@@ -45,8 +47,8 @@ void frmIncomplete::ReturnToMenu() {
 
 void frmIncomplete::ClickRow() {
   if (m_desk.Partials.fgIncomplete.Row() < 1) return;
-  (*m_Command1)[3]->setEnabled(true);
-  (*m_Command1)[1]->setEnabled(true);
+  m_Command1[3]->setEnabled(true);
+  m_Command1[1]->setEnabled(true);
 }
 
 void frmIncomplete::AddToSelected() {
@@ -76,7 +78,7 @@ void frmIncomplete::PurgeAll() {
 
 void frmIncomplete::PurgeSelected() {
   // Until the next click on a row, whatever is answered.
-  (*m_Command1)[3]->setEnabled(false);
+  m_Command1[3]->setEnabled(false);
   const TextMatrix& grid = m_desk.Partials.fgIncomplete;
   if (!m_desk.Boxes.AskYesNo(u"This will Purge Incomplete Invoice# "_s + grid.Text(grid.Row(), 0),
                              u"Purge Incomplete Invoice"_s)) {

@@ -46,5 +46,5 @@ class frmIncomplete final : public Screen {
 
   PartialDesk m_desk;
   std::unique_ptr<Ui::frmIncomplete> m_ui;
-  std::unique_ptr<ControlArray<QPushButton, 4>> m_Command1;
+  ControlArray<QPushButton, 4> m_Command1;
 };

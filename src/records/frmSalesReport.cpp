@@ -19,11 +19,12 @@
 using namespace Qt::StringLiterals;
 
 frmSalesReport::frmSalesReport(ScreenHost& host, const SalesDesk& desk)
-    : Screen(u"frmSalesReport"_s, host), m_desk(desk), m_ui(std::make_unique<Ui::frmSalesReport>()) {
-  m_ui->setupUi(this);
-  m_DTPicker1 = std::make_unique<ControlArray<DateBox, 2>>(this, u"DTPicker1"_s);
-  m_cmdIncome = std::make_unique<ControlArray<QPushButton, 4>>(this, u"cmdIncome"_s);
-  m_cmdSales = std::make_unique<ControlArray<QPushButton, 6>>(this, u"cmdSales"_s);
+    : Screen(u"frmSalesReport"_s, host),
+      m_desk(desk),
+      m_ui(std::make_unique<Ui::frmSalesReport>()),
+      m_DTPicker1(BuildForm(*m_ui), u"DTPicker1"_s),
+      m_cmdIncome(this, u"cmdIncome"_s),
+      m_cmdSales(this, u"cmdSales"_s) {
   m_ui->fraSort->hide();
   m_ui->fraInstructions_0->hide();
   m_ui->fgSalesItems->SetMatrix(&m_desk.Sales.fgSalesItems);
@@ -43,29 +44,30 @@ frmSalesReport::~frmSalesReport() = default;
 
 void frmSalesReport::WireDates() {
   for (int i = 0; i < 2; ++i) {
-    (*m_DTPicker1)[i]->Change = [this, i] {
-      m_desk.Dates.Pick(i, (*m_DTPicker1)[i]->date());
+    m_DTPicker1[i]->Change = [this, i] {
+      m_desk.Dates.Pick(i, m_DTPicker1[i]->date());
       ShowDates();
     };
   }
-  OnClick((*m_cmdIncome)[0], [this] { LastMonth(); });
-  OnClick((*m_cmdIncome)[1], [this] { RunPreset(&SalesDates::MonthToDate); });
-  OnClick((*m_cmdIncome)[2], [this] { RunPreset(&SalesDates::YearToDate); });
-  OnClick((*m_cmdIncome)[3], [this] { RunPreset(&SalesDates::Eternity); });
+  OnClick(m_cmdIncome[0], [this] { LastMonth(); });
+  OnClick(m_cmdIncome[1], [this] { RunPreset(&SalesDates::MonthToDate); });
+  OnClick(m_cmdIncome[2], [this] { RunPreset(&SalesDates::YearToDate); });
+  OnClick(m_cmdIncome[3], [this] { RunPreset(&SalesDates::Eternity); });
 }
 
 void frmSalesReport::WireCommands() {
-  OnClick((*m_cmdSales)[0], [this] { ReturnToMenu(); }, WhenLeaveRefused::Always);
-  OnClick((*m_cmdSales)[1], [this] { TickAll(true); });
-  OnClick((*m_cmdSales)[2], [this] {
+  OnClick(
+      m_cmdSales[0], [this] { ReturnToMenu(); }, WhenLeaveRefused::Always);
+  OnClick(m_cmdSales[1], [this] { TickAll(true); });
+  OnClick(m_cmdSales[2], [this] {
     TickAll(false);
     ClearSalesGrids(m_desk.Sales);
   });
-  OnClick((*m_cmdSales)[3], [this] { LoadGrid(); });
-  OnClick((*m_cmdSales)[4], [this] { PrintReport(); });
-  OnClick((*m_cmdSales)[5], [this] { m_ui->fraInstructions_0->hide(); });
-  SetEnterButton((*m_cmdSales)[3]);
-  SetEscapeButton((*m_cmdSales)[0]);
+  OnClick(m_cmdSales[3], [this] { LoadGrid(); });
+  OnClick(m_cmdSales[4], [this] { PrintReport(); });
+  OnClick(m_cmdSales[5], [this] { m_ui->fraInstructions_0->hide(); });
+  SetEnterButton(m_cmdSales[3]);
+  SetEscapeButton(m_cmdSales[0]);
 }
 
 void frmSalesReport::Activate() {
@@ -91,8 +93,8 @@ void frmSalesReport::ShowItems() {
 
 void frmSalesReport::ShowDates() {
   // Anew each time: the program may run past midnight.
-  (*m_DTPicker1)[1]->SetLatest(m_desk.Today.Today());
-  for (int i = 0; i < 2; ++i) (*m_DTPicker1)[i]->ShowDate(m_desk.Range.DTPicker1.at(static_cast<std::size_t>(i)));
+  m_DTPicker1[1]->SetLatest(m_desk.Today.Today());
+  for (int i = 0; i < 2; ++i) m_DTPicker1[i]->ShowDate(m_desk.Range.DTPicker1.at(static_cast<std::size_t>(i)));
 }
 
 void frmSalesReport::TickAll(bool ticked) {
@@ -123,7 +125,7 @@ void frmSalesReport::LoadGrid() {
   const SalesFound found =
       LoadSalesGrid(m_desk.Sales, m_desk.Range, m_desk.Items, m_desk.Disk, m_desk.Boxes, progress.Teller());
   if (found == SalesFound::Stopped) return;
-  if (found == SalesFound::Some) (*m_cmdSales)[4]->setEnabled(true);
+  if (found == SalesFound::Some) m_cmdSales[4]->setEnabled(true);
   m_ui->fgSalesItems->SetTopRow(1);
   BuildSalesTotals(m_desk.Sales, m_desk.Items, progress.Teller());
 }
@@ -133,7 +135,7 @@ void frmSalesReport::PrintReport() {
     ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience);
     m_desk.Report.PrintItemSales(m_desk.Sales, m_desk.Range, progress.Teller());
   });
-  if (printed) (*m_cmdSales)[4]->setEnabled(false);
+  if (printed) m_cmdSales[4]->setEnabled(false);
 }
 
 void frmSalesReport::mnuDelete() {

@@ -62,7 +62,7 @@ class frmSalesReport final : public Screen {
 
   SalesDesk m_desk;
   std::unique_ptr<Ui::frmSalesReport> m_ui;
-  std::unique_ptr<ControlArray<DateBox, 2>> m_DTPicker1;
-  std::unique_ptr<ControlArray<QPushButton, 4>> m_cmdIncome;
-  std::unique_ptr<ControlArray<QPushButton, 6>> m_cmdSales;
+  ControlArray<DateBox, 2> m_DTPicker1;
+  ControlArray<QPushButton, 4> m_cmdIncome;
+  ControlArray<QPushButton, 6> m_cmdSales;
 };

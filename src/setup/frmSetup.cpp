@@ -36,12 +36,11 @@ bool IsEntry(const QWidget* control) {
 frmSetup::frmSetup(ScreenHost& host, Screens& screens, SetupContext context)
     : Screen(u"frmSetup"_s, host),
       m_ui(std::make_unique<Ui::frmSetup>()),
+      m_business(BuildForm(*m_ui), u"txtBusiness"_s),
+      m_address(this, u"lblAddress"_s),
+      m_graduated(this, u"txtGradulated"_s),
       m_screens(screens),
       m_context(std::move(context)) {
-  m_ui->setupUi(this);
-  m_business = std::make_unique<ControlArray<QLineEdit, 9>>(this, u"txtBusiness"_s);
-  m_address = std::make_unique<ControlArray<QLabel, 9>>(this, u"lblAddress"_s);
-  m_graduated = std::make_unique<ControlArray<QLineEdit, 2>>(this, u"txtGradulated"_s);
   BuildMenu();
   ConnectTabs();
   ConnectBusiness();
@@ -63,7 +62,7 @@ void frmSetup::keyPressEvent(QKeyEvent* event) {
     return;
   }
   Run([this, entry] {
-    if (entry == (*m_graduated)[1]) {
+    if (entry == m_graduated[1]) {
       GraduatedTaxClick(1);
     } else {
       SetFocusTo(EntryAfter(entry));
@@ -124,7 +123,7 @@ void frmSetup::Activate() {
   SetAddressStyle(m_context.Live.Business);
   ShowAddressStyle();
   m_ui->SSTab2->setCurrentIndex(0);
-  SetFocusTo((*m_business)[0]);
+  SetFocusTo(m_business[0]);
 }
 
 void frmSetup::ShowFirstTab() {
@@ -132,14 +131,14 @@ void frmSetup::ShowFirstTab() {
 }
 
 void frmSetup::SaveAndReturn() {
-  if ((*m_business)[0]->text().isEmpty() || (*m_business)[6]->text().isEmpty()) {
+  if (m_business[0]->text().isEmpty() || m_business[6]->text().isEmpty()) {
     m_context.Boxes.ShowMessage(u"Name and Telephone are Required"_s, u"Missing Name or Telphone"_s);
     ShowFirstTab();  // The name's box can't have the focus on another tab.
-    SetFocusTo((*m_business)[0]);
+    SetFocusTo(m_business[0]);
     return;
   }
   std::array<QString, 9> boxes;
-  for (int i = 0; i < 9; ++i) boxes[static_cast<std::size_t>(i)] = (*m_business)[i]->text();
+  for (int i = 0; i < 9; ++i) boxes[static_cast<std::size_t>(i)] = m_business[i]->text();
   LiveSettings& live = m_context.Live;
   SaveBusinessData(m_context.Disk, live.Business, boxes);
   SaveSettings(m_context.Disk, live);

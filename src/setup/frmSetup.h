@@ -80,9 +80,9 @@ class frmSetup final : public Screen {
   void DeleteLogo();
 
   std::unique_ptr<Ui::frmSetup> m_ui;
+  ControlArray<QLineEdit, 9> m_business;
+  ControlArray<QLabel, 9> m_address;
+  ControlArray<QLineEdit, 2> m_graduated;
   Screens& m_screens;
   SetupContext m_context;
-  std::unique_ptr<ControlArray<QLineEdit, 9>> m_business;
-  std::unique_ptr<ControlArray<QLabel, 9>> m_address;
-  std::unique_ptr<ControlArray<QLineEdit, 2>> m_graduated;
 };

@@ -15,8 +15,8 @@ constexpr int FullLimit = 55;
 }  // namespace
 
 void frmSetup::ConnectBusiness() {
-  for (int i = 0; i < 9; ++i) RefuseQuotes((*m_business)[i]);
-  SetTypingLimit((*m_business)[4], FullLimit);
+  for (int i = 0; i < 9; ++i) RefuseQuotes(m_business[i]);
+  SetTypingLimit(m_business[4], FullLimit);
   m_ui->Image4->SetPicture(DrawnPicture(Picture::Clear, palette()));
   m_ui->Image5->SetPicture(DrawnPicture(Picture::Reload, palette()));
   OnClick(m_ui->cmdAddress, [this] {
@@ -30,7 +30,7 @@ void frmSetup::ConnectBusiness() {
 }
 
 void frmSetup::CopyBusiness(int index) {
-  (*m_business)[index]->setText(m_context.Live.Business.*BusinessStrings[static_cast<std::size_t>(index)]);
+  m_business[index]->setText(m_context.Live.Business.*BusinessStrings[static_cast<std::size_t>(index)]);
 }
 
 void frmSetup::BuildBusiness() {
@@ -40,15 +40,15 @@ void frmSetup::BuildBusiness() {
 /// Dresses the address form for the style that `cmdAddress` names.
 void frmSetup::ShowAddressStyle() {
   const bool usa = m_context.Live.Business.IsUsaStyle();
-  QLineEdit* city = (*m_business)[3];
-  QLineEdit* state = (*m_business)[4];
-  QLineEdit* postal = (*m_business)[5];
+  QLineEdit* city = m_business[3];
+  QLineEdit* state = m_business[4];
+  QLineEdit* postal = m_business[5];
   m_ui->lblPostal->setVisible(usa);
   m_ui->cmdAddress->setText(m_context.Live.Business.AddressStyleCaption);
-  (*m_address)[3]->setText(usa ? u"City"_s : u"Address 3"_s);
-  (*m_address)[4]->setText(usa ? u"State"_s : u"Address 4"_s);
-  for (const int index : {3, 4}) (*m_business)[index]->setAccessibleName((*m_address)[index]->text());
-  (*m_address)[5]->setVisible(usa);
+  m_address[3]->setText(usa ? u"City"_s : u"Address 3"_s);
+  m_address[4]->setText(usa ? u"State"_s : u"Address 4"_s);
+  for (const int index : {3, 4}) m_business[index]->setAccessibleName(m_address[index]->text());
+  m_address[5]->setVisible(usa);
   postal->setVisible(usa);
   if (usa) {
     CopyBusiness(5);
@@ -63,6 +63,6 @@ void frmSetup::ShowAddressStyle() {
 
 void frmSetup::ClearBusinessBoxes() {
   if (!m_context.Boxes.AskYesNo(u"Do you want to reset (clear)all Business Data?"_s, u"Reset Business Data"_s)) return;
-  for (int i = 0; i < 9; ++i) (*m_business)[i]->clear();
-  SetFocusTo((*m_business)[0]);
+  for (int i = 0; i < 9; ++i) m_business[i]->clear();
+  SetFocusTo(m_business[0]);
 }

@@ -50,7 +50,7 @@ void frmSetup::ConnectTaxes() {
   QPushButton* const clicks[] = {m_ui->cmdGraduatedTax_0, m_ui->cmdGraduatedTax_1, m_ui->cmdGraduatedTax_2};
   for (int i = 0; i < 3; ++i) OnClick(clicks[i], [this, i] { GraduatedTaxClick(i); });
   for (int i = 0; i < 2; ++i) {
-    QLineEdit* box = (*m_graduated)[i];
+    QLineEdit* box = m_graduated[i];
     RefuseQuotes(box);
     box->installEventFilter(this);
     On(box, &QLineEdit::textChanged,
@@ -76,7 +76,7 @@ void frmSetup::ShowTaxes() {
 
 void frmSetup::ShowGraduatedAmounts() {
   const std::array<QString, 2> amounts = m_context.Live.Tax.txtGradulated;
-  for (int i = 0; i < 2; ++i) (*m_graduated)[i]->setText(amounts[static_cast<std::size_t>(i)]);
+  for (int i = 0; i < 2; ++i) m_graduated[i]->setText(amounts[static_cast<std::size_t>(i)]);
 }
 
 void frmSetup::GraduatedTaxClick(int index) {
@@ -89,7 +89,7 @@ void frmSetup::GraduatedTaxClick(int index) {
       return;
     }
     m_context.Boxes.Beep();
-    SetFocusTo((*m_graduated)[refused]);
+    SetFocusTo(m_graduated[refused]);
     return;
   }
   if (index == 0) m_ui->fraGraduated->show();
@@ -97,13 +97,13 @@ void frmSetup::GraduatedTaxClick(int index) {
     tax.txtGradulated = {ZeroCurrencyText(), ZeroCurrencyText()};
     ShowGraduatedAmounts();
   }
-  SetFocusTo((*m_graduated)[0]);
+  SetFocusTo(m_graduated[0]);
 }
 
 /// A key pressed in an amount of zero empties the box, so that the user types over the zero. The keys that only lead
 /// elsewhere leave it.
 bool frmSetup::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && (watched == (*m_graduated)[0] || watched == (*m_graduated)[1])) {
+  if (event->type() == QEvent::KeyPress && (watched == m_graduated[0] || watched == m_graduated[1])) {
     const auto* press = static_cast<QKeyEvent*>(event);
     auto* box = static_cast<QLineEdit*>(watched);
     if (!OnlyLeads(*press) && box->text() == ZeroCurrencyText()) Run([box] { box->clear(); });

@@ -14,7 +14,7 @@ frmSplash::frmSplash(ScreenHost& host, Screens& screens, CommonDiskRoutines& dis
       m_screens(screens),
       m_disk(disk),
       m_version(version) {
-  m_ui->setupUi(this);
+  BuildForm(*m_ui);
   const QPixmap logo = LogoPicture();
   m_ui->Image1_0->SetPicture(logo);
   m_ui->Image1_1->SetPicture(logo);

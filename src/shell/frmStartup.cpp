@@ -16,16 +16,15 @@ using namespace Qt::StringLiterals;
 frmStartup::frmStartup(ScreenHost& host, Screens& screens, MainMenuContext context)
     : Screen(u"frmStartup"_s, host),
       m_ui(std::make_unique<Ui::frmStartup>()),
+      m_options(BuildForm(*m_ui), u"optMainMenuSub"_s),
       m_screens(screens),
       m_context(std::move(context)) {
-  m_ui->setupUi(this);
-  m_options = std::make_unique<ControlArray<QRadioButton, 7>>(this, u"optMainMenuSub"_s);
   m_ui->picture->setPixmap(LogoPicture());
   // The options lie in several frames and are one choice all the same.
   auto* group = new QButtonGroup(this);
   for (int i = 0; i < 7; ++i) {
-    group->addButton((*m_options)[i], i);
-    (*m_options)[i]->installEventFilter(this);
+    group->addButton(m_options[i], i);
+    m_options[i]->installEventFilter(this);
   }
   OnClick(m_ui->cmdGoto, [this] { RunSelected(); });
   SetEnterButton(m_ui->cmdGoto);
@@ -48,29 +47,29 @@ void frmStartup::Activate() {
   const MainMenuState state = UpdateMainMenu(m_context);
   for (int i = 0; i < 7; ++i) {
     const bool visible = state.Visible[static_cast<std::size_t>(i)];
-    (*m_options)[i]->setVisible(visible);
-    if (!visible && (*m_options)[i]->isChecked()) ClearSelection(i);
+    m_options[i]->setVisible(visible);
+    if (!visible && m_options[i]->isChecked()) ClearSelection(i);
   }
   // A heading without a routine under it would only take room.
   m_ui->group_0->setVisible(state.Visible[0] || state.Visible[1] || state.Visible[2]);
   m_ui->group_3->setVisible(state.Visible[4] || state.Visible[5] || state.Visible[6]);
   m_ui->fraInstructions->setVisible(state.Instructions);
   if (!state.Incomplete.isNull()) m_ui->lblIncomplete->setText(state.Incomplete);
-  (*m_options)[state.Selected]->setChecked(true);
-  SetFocusTo((*m_options)[state.Selected]);
+  m_options[state.Selected]->setChecked(true);
+  SetFocusTo(m_options[state.Selected]);
 }
 
 void frmStartup::ClearSelection(int index) {
-  QButtonGroup* group = (*m_options)[index]->group();
+  QButtonGroup* group = m_options[index]->group();
   group->setExclusive(false);
-  (*m_options)[index]->setChecked(false);
+  m_options[index]->setChecked(false);
   group->setExclusive(true);
 }
 
 bool frmStartup::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonDblClick && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
     for (int i = 0; i < 7; ++i) {
-      if (watched != (*m_options)[i]) continue;
+      if (watched != m_options[i]) continue;
       Run([&] { RunMainMenuRoutine(i); });
       return true;
     }
@@ -80,7 +79,7 @@ bool frmStartup::eventFilter(QObject* watched, QEvent* event) {
 
 void frmStartup::RunSelected() {
   for (int i = 0; i < 7; ++i) {
-    if (!(*m_options)[i]->isChecked()) continue;
+    if (!m_options[i]->isChecked()) continue;
     RunMainMenuRoutine(i);
     return;
   }

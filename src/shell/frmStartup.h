@@ -28,7 +28,7 @@ class frmStartup final : public Screen {
   ScreenName RoutineOf(int index) const;
 
   std::unique_ptr<Ui::frmStartup> m_ui;
+  ControlArray<QRadioButton, 7> m_options;
   Screens& m_screens;
   MainMenuContext m_context;
-  std::unique_ptr<ControlArray<QRadioButton, 7>> m_options;
 };
