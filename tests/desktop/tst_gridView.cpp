@@ -122,7 +122,7 @@ class GridViews : public QObject {
     matrix->SetText(1, 0, u"wide"_s);
     matrix.reset();
     QVERIFY(bench.grid->Matrix() == nullptr);
-    QCOMPARE(bench.grid->model()->rowCount(), 0);
+    QVERIFY(bench.grid->model() == nullptr);
     ScreenDriver::ProcessEvents();
     bench.screen.resize(bench.screen.size() + QSize(40, 40));
     const QPoint inside = bench.grid->viewport()->mapTo(&bench.screen, QPoint(20, 10));
@@ -132,9 +132,11 @@ class GridViews : public QObject {
     QTest::mouseDClick(bench.screen.windowHandle(), Qt::LeftButton, Qt::NoModifier, inside);
     bench.grid->clearFocus();
     bench.grid->setFocus(Qt::TabFocusReason);
-    QTest::keyClick(bench.screen.windowHandle(), Qt::Key_Down);
     ScreenDriver::ProcessEvents();
     QCOMPARE(bench.log, QStringList());
+    QTest::keyClick(bench.screen.windowHandle(), Qt::Key_Down);
+    QTest::keyClick(bench.screen.windowHandle(), Qt::Key_PageDown);
+    ScreenDriver::ProcessEvents();
     TextMatrix next(u"A"_s, 5);
     next.SetRow(3);
     bench.grid->SetMatrix(&next);
