@@ -11,9 +11,7 @@ log=build/$preset.log
 strict=OFF
 [ "$preset" != debug ] || strict=ON
 echo "Building Karvex Invoicer ($preset) ..."
-# Twice: the header of a form that changed is made inside a pass, and what includes it is seen by the next.
-if ! { cmake --preset "$preset" -DKARVEX_WERROR=$strict && cmake --build --preset "$preset" "$@" &&
-  cmake --build --preset "$preset" "$@"; } >"$log" 2>&1; then
+if ! { cmake --preset "$preset" -DKARVEX_WERROR=$strict && cmake --build --preset "$preset" "$@"; } >"$log" 2>&1; then
   tail -n 60 "$log" >&2
   echo "The build failed; all of its output is in $log" >&2
   exit 1
