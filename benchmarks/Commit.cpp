@@ -55,6 +55,7 @@ class Business {
     FillTree(m_tree.path(), 1, Limit::Catalogue, records);
     MakeDataTree(m_disk, m_clock);
     LoadSalesItems(m_salesItems, m_disk);
+    m_atFirst = Count();
   }
 
   void Commit() {
@@ -68,7 +69,25 @@ class Business {
                    {nothing, nothing, nothing, [] { return QString(); }, nothing, nothing, nothing, nothing});
   }
 
+  /// The run tells no one of an error, so what it wrote is counted.
+  void MustHaveCommitted(int invoices) {
+    const Counts now = Count();
+    MustHold(now.Journal == m_atFirst.Journal + invoices, u"each commit adds a record to the sales journal"_s);
+    MustHold(now.Sold == m_atFirst.Sold + invoices * MaximumLines, u"each line is recorded as sold"_s);
+    MustHold(now.Taxes == m_atFirst.Taxes + invoices, u"each commit ends with its tax record"_s);
+  }
+
  private:
+  struct Counts {
+    int Journal;
+    int Sold;
+    int Taxes;
+  };
+  Counts Count() {
+    return {m_disk.RecordCount(u"/InvoiceSalesJournal.txt"_s, 125), m_disk.RecordCount(u"/SoldItems.txt"_s, 90),
+            m_disk.RecordCount(u"/TaxRecords.txt"_s, 75)};
+  }
+
   QTemporaryDir m_tree;
   FileDevice m_files;
   FileStore m_store;
@@ -76,6 +95,7 @@ class Business {
   SystemClock m_clock;
   Agreeing m_boxes;
   SalesItemsList m_salesItems;
+  Counts m_atFirst{};
 };
 
 }  // namespace
@@ -84,7 +104,10 @@ void MeasureCommit() {
   // Room for the commits of the measurement below the limit of 32,767 records.
   Business full(Limit::Records - 2500);
   Business empty(0);
+  constexpr int runs = 21;
   const Pair times = MediansOf(
-      21, [&] { full.Commit(); }, [&] { empty.Commit(); });
+      runs, [&] { full.Commit(); }, [&] { empty.Commit(); });
+  full.MustHaveCommitted(runs);
+  empty.MustHaveCommitted(runs);
   Report(u"a commit of 100 lines on full files, over empty ones"_s, times, 1.2);
 }

@@ -1,4 +1,5 @@
 #include <sys/stat.h>
+#include <algorithm>
 #include <vector>
 
 #include "benchmarks/Measure.h"
@@ -28,5 +29,11 @@ void MeasureDataTree(const QString& fullTree) {
       [&] {
         for (const QByteArray& folder : folders) mkdir(folder.constData(), 0777);
       });
+  MustHold(std::all_of(folders.begin(), folders.end(),
+                       [](const QByteArray& folder) {
+                         struct stat found;
+                         return stat(folder.constData(), &found) == 0 && S_ISDIR(found.st_mode);
+                       }),
+           u"every customer has all folders"_s);
   Report(u"start with all customers' folders there, over the raw calls"_s, times, 1);
 }

@@ -36,6 +36,10 @@ Pair MediansOf(int runs, const std::function<void()>& work, const std::function<
   return {MedianOf(works), MedianOf(floors)};
 }
 
+void MustHold(bool held, const QString& what) {
+  if (!held) throw Failure(what.toStdString());
+}
+
 void ReportHeading() {
   std::printf("%-66s %11s %11s %8s %6s\n", "operation", "time", "floor", "ratio", "aim");
 }

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <QString>
+#include <stdexcept>
 
 /// Milliseconds of one run.
 double TimeOf(const std::function<void()>& work);
@@ -14,6 +15,14 @@ struct Pair {
   double Floor;
 };
 Pair MediansOf(int runs, const std::function<void()>& work, const std::function<void()>& floor);
+
+/// What a work was measured for didn't happen.
+struct Failure : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+/// Throws `Failure` where the work hasn't done `what`: the time of a failure isn't to be reported. Asked after the
+/// runs, before `Report`.
+void MustHold(bool held, const QString& what);
 
 /// One row: the operation, its time, its floor's time, their ratio, and the ratio that we aim at.
 void Report(const QString& operation, Pair milliseconds, double aim);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
@@ -56,6 +57,14 @@ void DrawStraight(const PaperJob& job) {
   }
 }
 
+bool Prints(const PaperJob& job, const QString& text) {
+  const PaperPage& page = job.Pages.front();
+  return std::any_of(page.begin(), page.end(), [&](const PaperMark& mark) {
+    const auto* printed = std::get_if<PaperText>(&mark);
+    return printed != nullptr && printed->Text == text;
+  });
+}
+
 }  // namespace
 
 void MeasurePage() {
@@ -91,6 +100,9 @@ void MeasurePage() {
   };
   print();
   const PaperJob job = surface.Last;
-  Report(u"an invoice page of 25 lines to PDF, over the marks drawn straight"_s,
-         MediansOf(21, print, [&] { DrawStraight(job); }), 1.5);
+  surface.Size = 0;
+  const Pair times = MediansOf(21, print, [&] { DrawStraight(job); });
+  MustHold(surface.Size > 0 && job.Pages.size() == 1 && Prints(job, u"Item number 25 of the catalogue"_s),
+           u"the page with its last line becomes a PDF"_s);
+  Report(u"an invoice page of 25 lines to PDF, over the marks drawn straight"_s, times, 1.5);
 }

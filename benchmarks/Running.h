@@ -3,6 +3,7 @@
 
 #include <QTemporaryDir>
 
+#include "benchmarks/Measure.h"
 #include "desktop/PaperPrinter.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/SerialLine.h"
@@ -10,10 +11,11 @@
 #include "runtime/Clock.h"
 #include "runtime/FileStore.h"
 
+
 class Running {
  public:
   explicit Running(const QString& tree) : m_store(m_files), m_paper(m_store, m_dialogs, tree), m_program(OnTree(tree)) {
-    m_program.Start();
+    MustHold(m_program.Start(), QStringLiteral("the program starts"));
   }
   Program& operator*() { return m_program; }
 

@@ -74,6 +74,9 @@ Child RunChild(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.start(program, arguments);
   process.waitForFinished(-1);
+  MustHold(process.error() == QProcess::UnknownError && process.exitStatus() == QProcess::NormalExit &&
+               process.exitCode() == 0,
+           u"%1 shows its window and ends without an error"_s.arg(arguments.first()));
   const double elapsed = static_cast<double>(timer.nsecsElapsed()) / 1e6;
   return {elapsed, process.readAllStandardOutput().trimmed().toDouble()};
 }
