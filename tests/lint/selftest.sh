@@ -17,7 +17,7 @@ put() { # put FILE LINES...
 
 clean() {
   rm -rf "$tree"
-  mkdir -p "$tree/tests"
+  mkdir -p "$tree/tests" "$tree/benchmarks"
   put src/runtime/Ground.h '#pragma once' '#include <QString>' '#include <vector>'
   put src/desktop/Window.h '#pragma once' '#include <QWidget>' '#include "runtime/Ground.h"'
   put src/shell/Rule.h '#pragma once' '#include "runtime/Ground.h"'
@@ -27,6 +27,9 @@ clean() {
   put src/shell/frmOneMore.cpp '#include "shell/frmOne.h"' '#include "ui_frmOne.h"' '#include <QDialog>' \
     'void More() {' '  connect(a, &A::b, this, [this](int x, int y) { Do(f(x), "a)"); });' '  disconnect(a);' '}'
   put src/invoice/Lines.h '#pragma once' '#include "shell/Rule.h"'
+  put src/shell/frmOnePictures.cpp 'void Pictures() {' '  QPixmap drawn(8, 8);' '  const QPixmap none;' \
+    '  Show(QPixmap(QStringLiteral(":/logo.png")), QImage::fromData(content));' '}'
+  put benchmarks/Speed.cpp 'void Raw() {' '  QFile file(name);' '}'
   put src/Program.cpp '#include "invoice/Lines.h"' '#include "shell/frmOne.h"' '#include <QWidget>'
 }
 
@@ -99,6 +102,13 @@ put src/shell/Rule.cpp 'void F() {' '  QDir().mkpath(name);' '}'
 refuses sources 'src/shell/Rule.cpp:2' 'the business of runtime'
 put src/shell/Rule.cpp 'void F() {' '  ::rename(a, b);' '}'
 refuses sources 'src/shell/Rule.cpp:2' 'the business of runtime'
+for picture in 'QPixmap picture(name);' 'QImage picture{Path(a, b)};' 'Show(QPixmap(u"a.png"_s));' \
+  'picture.load(name);' 'picture->load(name);' 'QImageReader reader(name);'; do
+  put src/shell/frmOne.cpp 'void F() {' "  $picture" '}'
+  refuses sources 'src/shell/frmOne.cpp:2' 'a picture is made of bytes'
+done
+put benchmarks/Speed.cpp 'void F() {' '  connect(a, &A::b, [this] { Do(); });' '}'
+refuses sources 'benchmarks/Speed.cpp:2' 'without a context'
 put docs/page.md 'As Par''t 3.1 tells.'
 refuses sources 'docs/page.md:1' 'does not belong'
 put src/shell/Rule.cpp '// As the spe''c tells.'

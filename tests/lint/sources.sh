@@ -2,14 +2,13 @@
 # What no source may hold. Usage: sources.sh PROJECT
 # Prints each breach as file:line: what, and fails if any.
 #
-# Signals are connected to functions, with a context that ends the connection; files are opened, renamed and deleted in
-# runtime/ only; some words don't belong; no source and no function outgrows the reader.
+# Each rule stands where it is kept, with its reason.
 set -eu
 cd "$1"
 found=$(mktemp)
 trap 'rm -f "$found"' EXIT
 
-sources() { find src tests -name '*.h' -o -name '*.cpp' | sort; }
+sources() { find src tests benchmarks -name '*.h' -o -name '*.cpp' | sort; }
 
 everything() {
   find . \( -name build -o -name .git -o -name .cache \) -prune -o -type f \
@@ -23,15 +22,24 @@ forbid() {
   tr '\n' '\0' | xargs -0 grep -nE "$1" /dev/null | sed "s|^\([^:]*:[0-9]*\):.*|\1: $2|" >>"$found" || true
 }
 
+# A connection by strings is checked when it is made, and then only by a line in the log: a renamed slot is never run.
 sources | forbid '\<(SIGNAL|SLOT)[[:space:]]*\(' 'a connection by strings'
 
-find src -name '*.h' -o -name '*.cpp' | grep -v '^src/runtime/' | sort |
+# One reader and one writer: what opens a file elsewhere has no whole-or-nothing write, no error number for the user, and
+# no failing disk in its tests. A picture that is given a path opens that file too; one of the program's own resources,
+# or the bytes that the reader brought, is no file. Tests and measurements open what they like: they look from outside.
+reads_outside() { find src -name '*.h' -o -name '*.cpp' | grep -v '^src/runtime/' | sort; }
+reads_outside |
   forbid '\<(QFile|QSaveFile|QTemporaryFile|QSettings|QDataStream)\>|\<(i|o)?fstream\>|\<f(re)?open\>|[^A-Za-z0-9_]::(open|rename|unlink|mkdir)[[:space:]]*\(|std::rename|std::filesystem|QDir\(.*\)\.(mk|rm|remove|rename)' \
     'files are the business of runtime/'
+reads_outside | forbid '\<Q(ImageReader|ImageWriter|Movie|Picture)\>|(\.|->)load[[:space:]]*\(' \
+  'files are the business of runtime/: a picture is made of bytes'
 
+# The sources speak for themselves, not of a paper beside them that the reader doesn't have.
 everything | forbid '\<Par[t] [1-8]\.[1-9]|\<[Ss]pecificatio[n]|\<[Tt]he spe[c]\>' 'a word that does not belong here'
 
-# A connection of three arguments, or a single shot of two, has no context: it outlives whom it works on.
+# A connection of three arguments, or a single shot of two, has no context: it outlives whom it works on. A picture made
+# of one argument is made of a path, unless that is a resource's (":/...").
 sources | while read -r file; do
   awk -v file="$file" '
     { text = text $0 "\n" }
@@ -59,9 +67,22 @@ sources | while read -r file; do
         from = at + length(name)
       }
     }
-    END { look("connect", 4); look("singleShot", 3) }' "$file"
+    function lookForPictures(   from, at) {
+      from = 1
+      while (match(substr(text, from), /[^A-Za-z0-9_]Q(Image|Pixmap)( +[a-z_][A-Za-z0-9_]*)?[({][^)}]/)) {
+        at = from + RSTART + RLENGTH - 3
+        if (arguments(at) == 1 && substr(text, at + 1) !~ /^(QStringLiteral\()?u?":\//)
+          print file ":" lineOf(at) ": files are the business of runtime/: a picture is made of bytes"
+        from = at
+      }
+    }
+    END {
+      look("connect", 4); look("singleShot", 3)
+      if (file ~ /^src\// && file !~ /^src\/runtime\//) lookForPictures()
+    }' "$file"
 done >>"$found"
 
+# What is longer can't be taken in at once: it does more than one thing, and is mended without being understood.
 sources | while read -r file; do
   awk -v file="$file" '
     # As the formatter leaves it, a function begins at the margin, or within a class, and ends at the same column.
