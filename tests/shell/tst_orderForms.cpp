@@ -73,11 +73,19 @@ class OrderFormsTest : public QObject {
                                        "Invoices with a Remittance Slip\nClick Yes to connect to a Supplier"_s});
   }
 
-  void everySupplierPageIsShipped() {
-    const QString suppliers = QStringLiteral(QT_TESTCASE_SOURCEDIR "/../docs/suppliers/");
+  void everySupplierPageIsShippedWithItsStyleAndTheWayToOrder() {
+    const auto shipped = [](const QString& page) {
+      QFile file(QStringLiteral(QT_TESTCASE_SOURCEDIR "/../docs/suppliers/") + page);
+      return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    QVERIFY(!shipped(u"suppliers.css"_s).isEmpty());
+    const QByteArray ordering = shipped(u"index.html"_s);
     for (const auto& entries : {DeluxeOrderEntries(), AskingOrderEntries()}) {
       for (const OrderEntry& entry : entries) {
-        QVERIFY2(QFile::exists(suppliers + entry.Page), qPrintable(entry.Page));
+        const QByteArray page = shipped(entry.Page);
+        QVERIFY2(page.contains("href=\"suppliers.css\""), qPrintable(entry.Page));
+        QVERIFY2(page.contains("href=\"index.html\""), qPrintable(entry.Page));
+        QVERIFY2(ordering.contains("href=\"" + entry.Page.toLatin1() + "\""), qPrintable(entry.Page));
       }
     }
   }
