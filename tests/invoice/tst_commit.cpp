@@ -1,9 +1,9 @@
 // The run from "Print Invoice" to the main menu: its order, its questions, its one handler.
 #include <QtTest>
 
-#include "catalogue/CatalogueRecords.h"
 #include "invoice/ClearInvoice.h"
 #include "invoice/Commit.h"
+#include "support/Bytes.h"
 #include "support/ErrorOf.h"
 #include "support/InvoiceFixture.h"
 
@@ -29,11 +29,9 @@ class CommitTest : public QObject {
     PrintAndCommit(
         {Invoice(), m_desk->Disk, m_desk->Boxes, m_desk->Now, m_desk->Tax, m_desk->Customer, m_desk->SalesItems}, m_do);
   }
-  static QByteArray Item(qint16 onHand) {
-    InventoryItemRecord record;
-    record.Description = u"Rope"_s;
-    record.OnHand = onHand;
-    return record.Bytes();
+  /// Rope of no category and without prices: what is on hand is all that a commit changes.
+  static QByteArray Item(const char* onHand) {
+    return Padded("Rope", 50) + Padded("", 20) + QByteArray(16, '\0') + Hex(onHand) + QByteArray(16, '\0');
   }
   /// Step names with what stands on the disk then.
   std::function<void()> Step(const QString& name) {
@@ -61,7 +59,7 @@ class CommitTest : public QObject {
     m_desk->Tax.cboTaxHeading1 = u"Sales Tax"_s;
     m_desk->Tax.cboTaxHeading2 = u"County Tax"_s;
     m_desk->Customer.txtCustomer0 = u"1001"_s;
-    m_desk->Write(u"/KVInventoriedItems.txt"_s, Item(10));
+    m_desk->Write(u"/KVInventoriedItems.txt"_s, Item("0a 00"));
     m_do = {.BeginPrintJob = Step(u"printer"_s),
             .PrintInvoice = Step(u"print"_s),
             .ReloadItems = Step(u"items"_s),
@@ -84,7 +82,7 @@ class CommitTest : public QObject {
                           u"/InvoiceSalesJournal.txt"_s, u"/KVActiveAccounts/1001.txt"_s, u"/KVInventoriedItems.txt"_s,
                           u"/KVInvoiceNo.txt"_s, u"/SoldItems.txt"_s, u"/TaxRecords.txt"_s}));
     QCOMPARE(tree[u"/KVInvoiceNo.txt"_s], "20260002\r\n");
-    QCOMPARE(tree[u"/KVInventoriedItems.txt"_s], Item(6));
+    QCOMPARE(tree[u"/KVInventoriedItems.txt"_s], Item("06 00"));
     QCOMPARE(tree[u"/SoldItems.txt"_s].size(), 90);
     QCOMPARE(tree[u"/InvoiceSalesJournal.txt"_s].size(), 125);
     QCOMPARE(tree[u"/TaxRecords.txt"_s].size(), 150);
@@ -119,7 +117,7 @@ class CommitTest : public QObject {
       if (m_desk->Tree().contains(u"/CompletedInvoices/20260001.txt"_s)) found << u"20260001"_s;
       QCOMPARE(found, standing[i]);
       // The inventory comes behind the image and before the taxes.
-      QCOMPARE(m_desk->Read(u"/KVInventoriedItems.txt"_s), i == 4 ? Item(6) : Item(10));
+      QCOMPARE(m_desk->Read(u"/KVInventoriedItems.txt"_s), i == 4 ? Item("06 00") : Item("0a 00"));
       QVERIFY(!m_desk->Exists(u"/KVInvoiceNo.txt"_s));
       QCOMPARE(m_desk->Boxes.Take(), QStringList(Confirm));
       QCOMPARE(m_steps.last(), u"leave"_s);
