@@ -19,6 +19,8 @@ export XDG_RUNTIME_DIR="$work/home/runtime" QT_QPA_PLATFORM=xcb
 mkdir -p "$XDG_RUNTIME_DIR" "$work/elsewhere"
 chmod 700 "$XDG_RUNTIME_DIR"
 processes=
+# The years in which programs were started, each asked for before and behind the start: a new year may begin in between.
+years=
 
 finish() {
   for process in $processes; do kill "$process" 2>/dev/null || true; done
@@ -53,6 +55,7 @@ has_the_keys() {
 
 # start NAME: starts the program file of that name, from a folder that isn't its own; its process is $started.
 start() {
+  years="$years $(date +%Y)"
   cd "$work/elsewhere"
   "$business/$1" &
   started=$!
@@ -74,14 +77,26 @@ close_by_the_window_manager() {
   must_end "$1" "when its window is closed"
 }
 
-folders() { (cd "$business" && find . -mindepth 1 -type d ! -path './manual*' ! -path './suppliers*' | LC_ALL=C sort); }
+# Without the folders of years, which `years_are_of_the_starts` looks at.
+folders() {
+  (cd "$business" && find . -mindepth 1 -type d ! -path './manual*' ! -path './suppliers*' ! -path './[0-9]*' | LC_ALL=C sort)
+}
 everything() { (cd "$business" && find . -type d && find . -type f -exec cksum {} +) | LC_ALL=C sort; }
+
+# years_are_of_the_starts: there is a folder of the year in which a program was started, and none of another year.
+years_are_of_the_starts() {
+  years="$years $(date +%Y)"
+  made=$(cd "$business" && find . -mindepth 1 -path './[0-9]*' | sed 's|^\./||')
+  [ -n "$made" ] || fail "there is no folder of the year"
+  for folder in $made; do
+    case " $years " in *" $folder "*) ;; *) fail "the folder $folder isn't of a year of$years" ;; esac
+  done
+}
 
 # expected_folders NAME...: the tree of programs that were started under these names.
 expected_folders() {
   {
     cat <<FOLDERS
-./$(date +%Y)
 ./AuxFiles
 ./Backup
 ./Backup/CompletedInvoices
@@ -135,6 +150,7 @@ start KarvexInvoicer.bin
 first=$started
 eventually "the start-up screen" has_the_keys "$first" "Karvex Invoicer"
 equal "$(expected_folders KarvexInvoicer)" "$(folders)" "the tree"
+years_are_of_the_starts
 equal "" "$(ls -A "$work/elsewhere")" "what the program left where it was started from"
 [ ! -e "$XDG_DATA_HOME/KarvexInvoicer" ] || fail "the data went to the user's folder"
 
@@ -164,6 +180,7 @@ done
 start Billing.bin
 eventually "the start-up screen of the renamed copy" has_the_keys "$started" "Karvex Invoicer"
 equal "$(expected_folders KarvexInvoicer Billing)" "$(folders)" "the tree of both names"
+years_are_of_the_starts
 printf '1,0,0,0,0,"0.0","0",#TRUE#,#FALSE#,"$0.00","$0.00"\r\n' >"$business/BillingSettings.txt"
 rm "$business/Backup/KarvexInvoicerSettings.txt"
 close_by_the_window_manager "$started" "Karvex Invoicer"
