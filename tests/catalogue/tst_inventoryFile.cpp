@@ -12,7 +12,7 @@ const QString Items = u"/KVInventoriedItems.txt"_s;
 
 QByteArray Item(const char* description, const char* onHand) {
   // A blank in front, and odd bytes around the stock: all of it must stay as it stands.
-  return Padded(description, 50) + Padded(" Parts", 20) + QByteArray(16, '\x7F') + Hex(onHand) + QByteArray(16, '\x01');
+  return Field(description, 50) + Field(" Parts", 20) + QByteArray(16, '\x7F') + Hex(onHand) + QByteArray(16, '\x01');
 }
 
 using Stock = InventoryFile::Stock;
@@ -89,7 +89,7 @@ void InventoryFileTest::aRecordCutShortIsFilledUp() {
   tree.Write(Items, Item("Filter", "0A 00").left(88));
   QCOMPARE(InventoryFile(tree.Disk).Lower(u"Filter"_s, 1), Stock::Enough);
   QCOMPARE(tree.Read(Items),
-           Padded("Filter", 50) + Padded("Parts", 20) + QByteArray(16, '\x7F') + Hex("09 00") + QByteArray(16, '\0'));
+           Field("Filter", 50) + Field("Parts", 20) + QByteArray(16, '\x7F') + Hex("09 00") + QByteArray(16, '\0'));
 }
 
 void InventoryFileTest::aFailedWriteLeavesTheRecord() {
@@ -105,7 +105,7 @@ void InventoryFileTest::aFailedWriteLeavesTheRecord() {
 void InventoryFileTest::salesItemsAreItemsThenCustomItemsInFileOrder() {
   CatalogueTree tree;
   tree.Write(Items, Item("b", "00 00") + Item(" a", "00 00"));
-  tree.Write(u"/Backup/CustomItems.txt"_s, Padded("c", 70) + Padded("a", 70));
+  tree.Write(u"/Backup/CustomItems.txt"_s, Field("c", 70) + Field("a", 70));
   tree.SalesItems.Items = {{u"a"_s, true}};
   LoadSalesItems(tree.SalesItems, tree.Disk);
   QStringList shown;
@@ -124,10 +124,10 @@ void InventoryFileTest::salesItemsWithoutFilesAreEmptyAndNoFileIsMade() {
 
 void InventoryFileTest::salesItemsBeyondTheLimitAreAnOverflowAndTheListStays() {
   CatalogueTree tree;
-  tree.Write(u"/CustomItems.txt"_s, Padded("c", 70).repeated(255));
+  tree.Write(u"/CustomItems.txt"_s, Field("c", 70).repeated(255));
   LoadSalesItems(tree.SalesItems, tree.Disk);
   QCOMPARE(tree.SalesItems.Items.size(), std::size_t(255));
-  tree.Write(u"/CustomItems.txt"_s, Padded("d", 70).repeated(256));
+  tree.Write(u"/CustomItems.txt"_s, Field("d", 70).repeated(256));
   const RuntimeError error = CaughtFrom([&] { LoadSalesItems(tree.SalesItems, tree.Disk); });
   QCOMPARE(error.Number(), 6);
   QCOMPARE(error.Subject(), u"/CustomItems.txt"_s);

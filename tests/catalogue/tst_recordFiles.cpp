@@ -12,19 +12,19 @@ const QString Items = u"/KVInventoriedItems.txt"_s;
 const QString Custom = u"/CustomItems.txt"_s;
 
 QByteArray Service(const char* description, const char* charge, const char* timeIndex) {
-  return Padded(description, 60) + Padded(charge, 10) + Hex(timeIndex);
+  return Field(description, 60) + Field(charge, 10) + Hex(timeIndex);
 }
 
 /// Cost 1.25, price 12.50, 10 on hand, 11.00 from 6 up, reorder 24 at 4.
 QByteArray Item(const char* description, const char* category) {
-  return Padded(description, 50) + Padded(category, 20) + Hex("D4 30 00 00 00 00 00 00") +
+  return Field(description, 50) + Field(category, 20) + Hex("D4 30 00 00 00 00 00 00") +
          Hex("48 E8 01 00 00 00 00 00") + Hex("0A 00") + Hex("B0 AD 01 00 00 00 00 00") + Hex("06 00 00 00") +
          Hex("18 00") + Hex("04 00");
 }
 
 /// Price 100, 90.50 from 3 up.
 QByteArray CustomItem(const char* description) {
-  return Padded(description, 50) + Hex("40 42 0F 00 00 00 00 00") + Hex("28 CF 0D 00 00 00 00 00") + Hex("03 00 00 00");
+  return Field(description, 50) + Hex("40 42 0F 00 00 00 00 00") + Hex("28 CF 0D 00 00 00 00 00") + Hex("03 00 00 00");
 }
 
 }  // namespace
@@ -253,10 +253,10 @@ void RecordFiles::aLoadReplacesWhatAnEarlierOneFilled() {
 void RecordFiles::aReloadOfCustomItemsReplacesTheInvoicesList() {
   CatalogueTree tree;
   const QByteArray numbers(20, '\0');
-  tree.Write(CatalogueFile::Custom(), Padded("a", 50) + numbers + Padded("b", 50) + numbers);
+  tree.Write(CatalogueFile::Custom(), Field("a", 50) + numbers + Field("b", 50) + numbers);
   tree.Catalog.LoadCustomItems();
   QCOMPARE(Offered(tree.Lists, 2), (QStringList{u"a"_s, u"b"_s}));
-  tree.Write(CatalogueFile::Custom(), Padded("c", 50) + numbers);
+  tree.Write(CatalogueFile::Custom(), Field("c", 50) + numbers);
   tree.Catalog.LoadCustomItems();
   QCOMPARE(Offered(tree.Lists, 2), QStringList{u"c"_s});
   QCOMPARE(tree.Lists.Entries[2][0].Data, 0);

@@ -13,16 +13,16 @@ const QString Items = u"/KVInventoriedItems.txt"_s;
 const QString Custom = u"/CustomItems.txt"_s;
 
 QByteArray Service(const char* description) {
-  return Padded(description, 60) + Padded("$1.00", 10) + Hex("01 00");
+  return Field(description, 60) + Field("$1.00", 10) + Hex("01 00");
 }
 
 /// All amounts zero, no category unless given.
 QByteArray Item(const char* description, const char* category = "") {
-  return Padded(description, 50) + Padded(category, 20) + QByteArray(34, '\0');
+  return Field(description, 50) + Field(category, 20) + QByteArray(34, '\0');
 }
 
 QByteArray CustomItem(const char* description) {
-  return Padded(description, 50) + QByteArray(20, '\0');
+  return Field(description, 50) + QByteArray(20, '\0');
 }
 
 void AddService(CatalogueTree& tree, const QString& description) {

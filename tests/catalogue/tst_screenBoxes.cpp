@@ -44,7 +44,7 @@ class ScreenBoxes : public QObject {
 
 void ScreenBoxes::aServiceDescriptionTakesThirtyFourTypedCharacters() {
   CatalogueScreen screen;
-  screen.Program.Tree.Write(u"/Services.txt"_s, Padded(QByteArray(50, 'y'), 60) + Padded("$1.00", 10) + Hex("01 00"));
+  screen.Program.Tree.Write(u"/Services.txt"_s, Field(QByteArray(50, 'y'), 60) + Field("$1.00", 10) + Hex("01 00"));
   screen.Open();
   screen.Click(1);
   screen.Fill("txtDescription_0", QByteArray(40, 'x').constData());

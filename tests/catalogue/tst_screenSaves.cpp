@@ -6,13 +6,45 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A new item with all boxes filled but those that the test fills itself.
-void BeginItem(const CatalogueScreen& screen) {
-  screen.Click(8);
-  screen.Fill("txtDescription_1", "Hose");
+void FillItem(const CatalogueScreen& screen, const char* description) {
+  screen.Fill("txtDescription_1", description);
   screen.Fill("txtCharge_1", "5");
   screen.Fill("txtCharge_2", "4.5");
   screen.Fill("txtOnHand", "7");
+}
+
+/// A new item with all boxes filled but those that the test fills itself.
+void BeginItem(const CatalogueScreen& screen) {
+  screen.Click(8);
+  FillItem(screen, "Hose");
+}
+
+/// The same on a screen that is opened for it.
+void OpenAtNewItem(CatalogueScreen& screen) {
+  screen.Open(1);
+  BeginItem(screen);
+}
+
+void FillCustomItem(const CatalogueScreen& screen, const char* description, const char* price, const char* discount) {
+  screen.Fill("txtDescription_2", description);
+  screen.Fill("txtCharge_3", price);
+  screen.Fill("txtCharge_4", discount);
+}
+
+/// A new custom item on a screen that is opened for it.
+void OpenAtNewCustomItem(CatalogueScreen& screen, const char* description, const char* price = "5",
+                         const char* discount = "4") {
+  screen.Open(3);
+  screen.Click(18);
+  FillCustomItem(screen, description, price, discount);
+}
+
+/// The only service is being modified while the custom items are on screen.
+void ModifyTheServiceBeside(const CatalogueScreen& screen) {
+  screen.ShowTab(0);
+  screen.SelectRow("fgServices", 1);
+  screen.Click(3);
+  screen.ShowTab(3);
 }
 
 void AddService(const CatalogueScreen& screen, const char* description) {
@@ -103,7 +135,7 @@ void ScreenSaves::aNewServiceStandsLastAndTheBoxesShut() {
   QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), CatalogueScreen::Service("b"));
   screen.Click(0);
   QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s),
-           CatalogueScreen::Service("b") + Padded("Advice", 60) + Padded("$1,234.50", 10) + Hex("06 00"));
+           CatalogueScreen::Service("b") + Field("Advice", 60) + Field("$1,234.50", 10) + Hex("06 00"));
 }
 
 void ScreenSaves::aModifiedServiceReplacesItsRow() {
@@ -159,8 +191,7 @@ void ScreenSaves::anItemWithoutADiscountPriceIsRefused() {
 
 void ScreenSaves::anOnHandThatIsNoNumberBecomesZeroAndStops() {
   CatalogueScreen screen;
-  screen.Open(1);
-  BeginItem(screen);
+  OpenAtNewItem(screen);
   for (const char* text : {"", "a few"}) {
     screen.Fill("txtOnHand", text);
     screen.Click(13);
@@ -187,8 +218,7 @@ void ScreenSaves::anOnHandWithDecimalsEntersTheGridRounded() {
 
 void ScreenSaves::anOnHandBeyondSixteenBitsIsToldAndNothingIsAdded() {
   CatalogueScreen screen;
-  screen.Open(1);
-  BeginItem(screen);
+  OpenAtNewItem(screen);
   screen.Fill("txtOnHand", "32768");
   screen.Program.Answers.Ok();
   screen.Click(13);
@@ -202,8 +232,7 @@ void ScreenSaves::anOnHandBeyondSixteenBitsIsToldAndNothingIsAdded() {
 
 void ScreenSaves::lettersInTheQuantityBoxesAreRefusedWithTheFocus() {
   CatalogueScreen screen;
-  screen.Open(1);
-  BeginItem(screen);
+  OpenAtNewItem(screen);
   for (const char* box : {"txtDiscountQty", "txtReorderAmount", "txtReorderAt"}) {
     screen.Fill(box, "six");
     screen.Click(13);
@@ -219,8 +248,7 @@ void ScreenSaves::lettersInTheQuantityBoxesAreRefusedWithTheFocus() {
 
 void ScreenSaves::whatTheFileCouldNotTakeIsToldAndNothingIsAdded() {
   CatalogueScreen screen;
-  screen.Open(1);
-  BeginItem(screen);
+  OpenAtNewItem(screen);
   const QList<std::tuple<const char*, const char*, const char*>> boxes{
       {"txtDiscountQty", "2147483648", "Discount quantity: "},
       {"txtReorderAmount", "32768", "Reorder amount: "},
@@ -247,11 +275,7 @@ void ScreenSaves::whatTheFileCouldNotTakeIsToldAndNothingIsAdded() {
 
 void ScreenSaves::aCustomQuantityBeyondThirtyTwoBitsIsTold() {
   CatalogueScreen screen;
-  screen.Open(3);
-  screen.Click(18);
-  screen.Fill("txtDescription_2", "Engraving");
-  screen.Fill("txtCharge_3", "5");
-  screen.Fill("txtCharge_4", "4");
+  OpenAtNewCustomItem(screen, "Engraving");
   screen.Fill("txtCustomDiscItems", "2147483648");
   screen.Program.Answers.Ok();
   screen.Click(22);
@@ -261,8 +285,7 @@ void ScreenSaves::aCustomQuantityBeyondThirtyTwoBitsIsTold() {
 
 void ScreenSaves::emptyBoxesOfAnItemEnterTheGridAsZeros() {
   CatalogueScreen screen;
-  screen.Open(1);
-  BeginItem(screen);
+  OpenAtNewItem(screen);
   screen.Click(13);
   QCOMPARE(screen.Row("fgItems", 1), u"Hose||$0.00|$5.00|7|$4.50|0|0|0"_s);
   QCOMPARE(screen.Text("txtCost"), u"$0.00"_s);
@@ -326,9 +349,7 @@ void ScreenSaves::aCustomItemIsAddedAndItsClearShut() {
   screen.Open(3);
   QVERIFY(screen.Live(21));
   screen.Click(18);
-  screen.Fill("txtDescription_2", "Engraving");
-  screen.Fill("txtCharge_3", "100");
-  screen.Fill("txtCharge_4", "90.5");
+  FillCustomItem(screen, "Engraving", "100", "90.5");
   screen.Click(22);
   QCOMPARE(screen.Row("fgCustom", 1), u"Engraving|$100.00|$90.50|0"_s);
   QVERIFY(!screen.Live(21));
@@ -358,11 +379,7 @@ void ScreenSaves::aCustomItemWithoutPricesIsRefused() {
 
 void ScreenSaves::aCustomPriceOfAPointAloneIsToldAndNothingIsAdded() {
   CatalogueScreen screen;
-  screen.Open(3);
-  screen.Click(18);
-  screen.Fill("txtDescription_2", "Engraving");
-  screen.Fill("txtCharge_3", ".");
-  screen.Fill("txtCharge_4", "90");
+  OpenAtNewCustomItem(screen, "Engraving", ".", "90");
   screen.Program.Answers.Ok();
   screen.Click(22);
   QVERIFY(screen.Program.Answers.Last().Text.startsWith(u"Custom item price: "_s));
@@ -371,11 +388,7 @@ void ScreenSaves::aCustomPriceOfAPointAloneIsToldAndNothingIsAdded() {
 
 void ScreenSaves::lettersInTheCustomQuantityAreRefused() {
   CatalogueScreen screen;
-  screen.Open(3);
-  screen.Click(18);
-  screen.Fill("txtDescription_2", "Engraving");
-  screen.Fill("txtCharge_3", "5");
-  screen.Fill("txtCharge_4", "4");
+  OpenAtNewCustomItem(screen, "Engraving");
   screen.Fill("txtCustomDiscItems", "six");
   screen.Click(22);
   QCOMPARE(screen.Focus(), u"txtCustomDiscItems"_s);
@@ -390,13 +403,8 @@ void ScreenSaves::modifyModeFollowsToAnotherTab() {
   screen.Open(3);
   screen.SelectRow("fgCustom", 1);
   screen.Click(18);
-  screen.Fill("txtDescription_2", "Welding");
-  screen.Fill("txtCharge_3", "5");
-  screen.Fill("txtCharge_4", "4");
-  screen.ShowTab(0);
-  screen.SelectRow("fgServices", 1);
-  screen.Click(3);
-  screen.ShowTab(3);
+  FillCustomItem(screen, "Welding", "5", "4");
+  ModifyTheServiceBeside(screen);
   screen.Click(22);
   QCOMPARE(screen.Rows("fgCustom"), 1);
   QCOMPARE(screen.Row("fgCustom", 1), u"Welding|$5.00|$4.00|0"_s);
@@ -405,15 +413,8 @@ void ScreenSaves::modifyModeFollowsToAnotherTab() {
 void ScreenSaves::modifyModeWithoutALineThereAsksForOne() {
   CatalogueScreen screen;
   screen.Program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("a"));
-  screen.Open(3);
-  screen.Click(18);
-  screen.Fill("txtDescription_2", "Welding");
-  screen.Fill("txtCharge_3", "5");
-  screen.Fill("txtCharge_4", "4");
-  screen.ShowTab(0);
-  screen.SelectRow("fgServices", 1);
-  screen.Click(3);
-  screen.ShowTab(3);
+  OpenAtNewCustomItem(screen, "Welding");
+  ModifyTheServiceBeside(screen);
   screen.Program.Answers.Ok(u"Select the line to modify, or click Add New"_s, u"Karvex Invoicer"_s);
   screen.Click(22);
   QCOMPARE(screen.Rows("fgCustom"), 0);
@@ -490,8 +491,7 @@ void ScreenSaves::enterInEachBoxSavesItsOwnList() {
 
 void ScreenSaves::enterInABoxThatHoldsNoAmountSavesNothing() {
   CatalogueScreen screen;
-  screen.Open(1);
-  BeginItem(screen);
+  OpenAtNewItem(screen);
   screen.Fill("txtCost", ".");
   // One box tells of it: that of the leaving, none of a save.
   screen.Program.Answers.Ok();
@@ -550,10 +550,7 @@ void ScreenSaves::addNewAfterAModifyAddsARowAndLeavesTheOther() {
   screen.ShowTab(1);
   screen.SelectRow("fgItems", 1);
   for (const int command : {9, 14, 8}) screen.Click(command);
-  screen.Fill("txtDescription_1", "Filter");
-  screen.Fill("txtCharge_1", "5");
-  screen.Fill("txtCharge_2", "4.5");
-  screen.Fill("txtOnHand", "7");
+  FillItem(screen, "Filter");
   screen.Click(13);
   QCOMPARE(screen.Rows("fgItems"), 2);
   QCOMPARE(screen.Row("fgItems", 1), u"Hose|Air|$1.25|$12.50|10|$11.00|6|24|4"_s);
@@ -562,9 +559,7 @@ void ScreenSaves::addNewAfterAModifyAddsARowAndLeavesTheOther() {
   screen.ShowTab(3);
   screen.SelectRow("fgCustom", 1);
   for (const int command : {19, 23, 18}) screen.Click(command);
-  screen.Fill("txtDescription_2", "Welding");
-  screen.Fill("txtCharge_3", "5");
-  screen.Fill("txtCharge_4", "4");
+  FillCustomItem(screen, "Welding", "5", "4");
   screen.Click(22);
   QCOMPARE(screen.Rows("fgCustom"), 2);
   QCOMPARE(screen.Row("fgCustom", 1), u"Engraving|$100.00|$90.50|3"_s);

@@ -38,11 +38,5 @@ class CustomerDesk {
   QByteArray Customers() const { return Program.Tree.Bytes(QStringLiteral("/CustomerData.txt")); }
   int BoxesShown() const { return static_cast<int>(Program.Answers.Boxes().size()); }
 
-  static QByteArray Many(int count) {
-    QByteArray all;
-    for (int i = 1; i <= count; ++i) all += BusinessRecord(QByteArray::number(i), "Name " + QByteArray::number(i));
-    return all;
-  }
-
   ProgramFixture Program;
 };

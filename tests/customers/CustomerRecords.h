@@ -30,6 +30,13 @@ inline QByteArray BusinessRecord(const QByteArray& number, const QByteArray& nam
   return record.Bytes();
 }
 
+/// Businesses "Name 1" to "Name <count>" with the numbers of their places.
+inline QByteArray Many(int count) {
+  QByteArray all;
+  for (int i = 1; i <= count; ++i) all += BusinessRecord(QByteArray::number(i), "Name " + QByteArray::number(i));
+  return all;
+}
+
 inline QByteArray PersonRecord(const QByteArray& number, const QByteArray& first, const QByteArray& initial,
                                const QByteArray& last) {
   RecordText record;

@@ -46,9 +46,4 @@ class EditorFixture : public QObject {
     PutCustomers(content);
     Activate();
   }
-  static QByteArray Many(int count) {
-    QByteArray all;
-    for (int i = 1; i <= count; ++i) all += BusinessRecord(QByteArray::number(i), "Name " + QByteArray::number(i));
-    return all;
-  }
 };

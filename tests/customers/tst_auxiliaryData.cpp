@@ -18,7 +18,7 @@ class AuxiliaryDataTest : public QObject {
 
  private Q_SLOTS:
   void captionsAndTipsAreTheProgramsOwn() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     const QStringList captions{
         u"Save &Headings"_s, u"Save &Aux Data"_s, u"Close Screen"_s,       u"Reload Aux Data"_s,       u"Hi&de"_s,
@@ -35,7 +35,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void headingsAreReadAtEachShowing() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/AuxHeadings.txt"_s, "Machines, old\r\n\"Keys\"\r\n\r\nDogs\nFive\r\nSix\r\n");
     OpenAux(desk);
     const QStringList first{u"Machines, old"_s, u"\"Keys\""_s, QString(), u"Dogs"_s, u"Five"_s, u"Six"_s};
@@ -48,7 +48,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void withoutAFileTheHeadingsStayAsTheyAre() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     QCOMPARE(desk.Text(u"txtHeading_0"_s), QString());
     desk.Fill(u"txtHeading_0"_s, u"typed"_s);
@@ -58,14 +58,14 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void headingsComeBackFromTheBackup() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/Backup/AuxHeadings.txt"_s, "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
     OpenAux(desk);
     QCOMPARE(desk.Text(u"txtHeading_5"_s), u"6"_s);
   }
 
   void headingsAreSavedAsSixLinesAndTheirCopyGoes() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     desk.Program.Tree.Write(u"/Backup/AuxHeadings.txt"_s, "old");
     desk.Fill(u"txtHeading_0"_s, u"Machines, old"_s);
@@ -78,7 +78,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void tooFewHeadingsAreADamagedFile() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/AuxHeadings.txt"_s, "1\r\n2\r\n");
     desk.Program.StartAtMenu();
     desk.Program.Answers.Ok();
@@ -89,7 +89,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void aDoubleClickEmptiesAHeading() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/AuxHeadings.txt"_s, "One word\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
     OpenAux(desk);
     desk.Driver().DoubleClick(u"txtHeading_0"_s);
@@ -102,7 +102,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void eachBoxIsAFileOfItsAccount() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     OpenAux(desk);
     Type(desk, 0, u"Mower\nTractor"_s);
     Type(desk, 5, u"say \"hi\", twice"_s);
@@ -115,7 +115,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void commasBreakLinesAndQuotesAreLost() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(File(u"1"_s, 0), "a, b\r\n\"c, d\" dropped,e\nlast");
     desk.Program.Tree.Write(File(u"1"_s, 3), "  blanks before\r\n\r\n");
     desk.Program.Tree.Write(File(u"1"_s, 4), "");
@@ -127,7 +127,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void eachSaveAndLoadAddsALineEnd() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     Type(desk, 0, u"Mower"_s);
     desk.Click(u"cmdSaveAux_1"_s);
@@ -143,7 +143,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void movingToAnotherCustomerShowsHisData() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Program.Tree.Write(File(u"1"_s, 0), "first\r\n");
     desk.Program.Tree.Write(File(u"2"_s, 0), "second\r\n");
     OpenAux(desk);
@@ -158,7 +158,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void movingSavesNoAuxiliaryData() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     OpenAux(desk);
     Type(desk, 0, u"typed"_s);
     desk.Click(u"cmdNav_2"_s);
@@ -168,7 +168,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void retainedDataAreSavedToTheAccountOnTheScreen() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Program.Tree.Write(File(u"2"_s, 0), "second\r\n");
     OpenAux(desk);
     Type(desk, 0, u"first"_s);
@@ -184,7 +184,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void aNewAccountsFoldersAreMadeByTheSave() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     desk.Driver().Trigger(u"mnuAdd"_s);
     desk.Fill(u"txtCustomer_0"_s, u" 77 "_s);
@@ -197,7 +197,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void theFolderOfADeletedAccountServesTheNextOneOfItsNumber() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     OpenAux(desk);
     Type(desk, 0, u"left behind"_s);
     desk.Click(u"cmdSaveAux_1"_s);
@@ -214,7 +214,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void aChangedNumberLeavesTheFilesUnderTheOldOne() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(File(u"1"_s, 0), "old number\r\n");
     OpenAux(desk);
     desk.Fill(u"txtCustomer_0"_s, u"9"_s);
@@ -232,7 +232,7 @@ class AuxiliaryDataTest : public QObject {
   }
   void aNumberThatCanNameNoFolderIsRefused() {
     QFETCH(QString, number);
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     // The digits stand first: a box that holds a number takes any key.
     desk.Fill(u"txtCustomer_0"_s, number);
@@ -249,7 +249,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void aFullDiskLeavesTheOldData() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(File(u"1"_s, 0), "old\r\n");
     OpenAux(desk);
     Type(desk, 0, u"new"_s);
@@ -263,7 +263,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void aDoubleClickShowsTheBoxBigAndCountsFromOne() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(File(u"1"_s, 2), "third\r\n");
     OpenAux(desk);
     desk.Driver().DoubleClick(u"txtAux_2"_s);
@@ -287,7 +287,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void theBigWindowGoesIntoTheBoxOfTheCustomerThenShown() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Program.Tree.Write(File(u"1"_s, 1), "first\r\n");
     desk.Program.Tree.Write(File(u"2"_s, 1), "second\r\n");
     OpenAux(desk);
@@ -305,7 +305,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void aCustomerBeingAddedShowsTheBoxesOfTheOneBefore() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(File(u"1"_s, 0), "first\r\n");
     OpenAux(desk);
     desk.Driver().Trigger(u"mnuAdd"_s);
@@ -315,7 +315,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void theKeyboardOpensAndClosesTheBigWindow() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     Type(desk, 0, u"one"_s);
     desk.Driver().PressKey(Qt::Key_F2);
@@ -332,7 +332,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void nextAndPreviousDoNothing() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     OpenAux(desk);
     Type(desk, 0, u"typed"_s);
     const auto before = desk.Program.Tree.Everything();
@@ -345,7 +345,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void closeHidesTheFrame() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     desk.Click(u"cmdSaveAux_2"_s);
     QVERIFY(!desk.Sees(u"fraAux"_s));
@@ -353,7 +353,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void theFrameShownLastLiesOnTop() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     OpenAux(desk);
     desk.Click(u"Command1_2"_s);
     QVERIFY(desk.Sees(u"fraAux"_s));
@@ -365,7 +365,7 @@ class AuxiliaryDataTest : public QObject {
   }
 
   void enterInABoxIsANewLineAndTabGoesOn() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     OpenAux(desk);
     Type(desk, 0, u"a\nb"_s);
     QCOMPARE(Aux(desk, 0), u"a\nb"_s);

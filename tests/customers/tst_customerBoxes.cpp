@@ -22,7 +22,7 @@ class CustomerBoxesTest : public QObject {
   void typingIsLimitedToWhatARecordTakes() {
     QFETCH(QString, box);
     QFETCH(int, limit);
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(box, QString(limit, u'7'));
     desk.Driver().Type(u"8"_s);
@@ -60,7 +60,7 @@ class CustomerBoxesTest : public QObject {
   }
   void theDoubleQuoteIsRefusedInEveryBox() {
     QFETCH(QString, box);
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(box, u"5"_s);
     desk.Program.Answers.Ok(u"This character, (\") is invalid for this field"_s, u"Invalid Key entry"_s);
@@ -94,7 +94,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void whatAFileNameCannotHoldIsRefusedInANumberOfLetters() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     for (const QString& box : {u"txtCustomer_0"_s, u"txtCustomer_6"_s}) {
       desk.Fill(box, u"AB"_s);
@@ -109,7 +109,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void aBoxThatHoldsANumberTakesThemAndTheSaveRefuses() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Fill(u"txtCustomer_0"_s, u"1001/2"_s);
     QCOMPARE(desk.Box(0), u"1001/2"_s);
@@ -117,11 +117,11 @@ class CustomerBoxesTest : public QObject {
     desk.Click(u"cmdCustomer_0"_s);
     QVERIFY(desk.Shown());
     QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
   }
 
   void pastedTextLosesWhatIsRefusedWithoutAMessage() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_0"_s, u"A"_s);
     desk.Driver().Paste(u"B\"/C"_s);
@@ -134,7 +134,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void aDuplicateNumberThatIsReplacedDropsTheClick() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     desk.Fill(u"txtCustomer_0"_s, u"2"_s);
     desk.Program.Answers.Yes(u"The Account Number is a duplicate\nClick Yes to Replace it\nEnter a different Number"_s,
@@ -143,11 +143,11 @@ class CustomerBoxesTest : public QObject {
     QCOMPARE(desk.Box(0), QString());
     QCOMPARE(desk.Box(1), u"Name 1"_s);
     QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(3));
+    QCOMPARE(desk.Customers(), Many(3));
   }
 
   void aDuplicateNumberThatIsReplacedStartsNoInvoice() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Program.Tree.Write(u"/KVInvoiceNo.txt"_s, "20260017\r\n");
     desk.Open();
     desk.Fill(u"txtCustomer_0"_s, u"2"_s);
@@ -156,7 +156,7 @@ class CustomerBoxesTest : public QObject {
     QVERIFY(desk.Shown());
     QVERIFY(!ScreenDriver::IsShown(u"frmInvoice"_s));
     QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(3));
+    QCOMPARE(desk.Customers(), Many(3));
   }
 
   void leavingTheNumberWithoutAFileMakesNone() {
@@ -170,7 +170,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void aDuplicateNumberThatIsKeptIsSaved() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     desk.Fill(u"txtCustomer_0"_s, u"2"_s);
     desk.Program.Answers.No({}, u"Duplicate Account Number"_s);
@@ -180,7 +180,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void aDuplicateNumberThatIsReplacedKeepsTheScreenFromTheMenu() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Fill(u"txtCustomer_6"_s, u"555-0100"_s);
     desk.Fill(u"txtCustomer_0"_s, u"2"_s);
@@ -190,7 +190,7 @@ class CustomerBoxesTest : public QObject {
     QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
     QCOMPARE(desk.Box(0), QString());
     QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
     desk.Program.Answers.Ok(u"Telephone Number will be used as Acct No."_s, u"Account not Entered"_s);
     desk.Click(u"cmdCustomer_0"_s);
     QVERIFY2(!desk.Shown(), "the next click runs");
@@ -198,7 +198,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void aDuplicateNumberThatIsReplacedKeepsTheNewRecordFromBeingCancelled() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     desk.Fill(u"txtCustomer_1"_s, u"Newcomer"_s);
@@ -212,11 +212,11 @@ class CustomerBoxesTest : public QObject {
     desk.Click(u"cmdCustomer_13"_s);
     QVERIFY2(!desk.Sees(u"cmdCustomer_13"_s), "the next click runs");
     QCOMPARE(desk.Box(1), u"Name 2"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
   }
 
   void theCustomersOwnNumberIsNoDuplicate() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Fill(u"txtCustomer_0"_s, u"1"_s);
     desk.Driver().PressKey(Qt::Key_Tab);
@@ -273,7 +273,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void anIndividualWithAnEmptyHiddenNameFailsAtTheName() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, QString());
     desk.Program.Answers.Ok({}, u"No Name Entered"_s);
@@ -321,25 +321,25 @@ class CustomerBoxesTest : public QObject {
   }
 
   void withoutAStatesListTheBoxIsEmpty() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Remove(u"/StatesList.txt"_s);
     desk.Open();
     QCOMPARE(desk.Driver().Control<QComboBox>(u"cboStates"_s)->count(), 0);
   }
 
   void aStatesListThatEndsEarlyEndsTheProgram() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/StatesList.txt"_s, QByteArray("\"AL\"\r\n").repeated(49));
     desk.Program.StartAtMenu();
     desk.Program.Answers.Ok();
     desk.GoFromMenu();
     QVERIFY(desk.Program.Answers.Last().Text.contains(u"StatesList.txt"));
     QVERIFY(desk.Program.Running().HasEnded());
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(1));
+    QCOMPARE(desk.Customers(), Many(1));
   }
 
   void theStateIsMirroredInItsHiddenBox() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Fill(u"cboStates"_s, u"NV"_s);
     QCOMPARE(desk.Box(4), u"NV"_s);
@@ -367,7 +367,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void setupsToggleChangesTheAddressBoxesAtOnce() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     QVERIFY(desk.Sees(u"fraUSAddress"_s));
     desk.Click(u"cmdCustomer_0"_s);
@@ -407,7 +407,7 @@ class CustomerBoxesTest : public QObject {
   }
 
   void enterGoesOnToTheNextBox() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Click(u"txtCustomer_2"_s);
     desk.Driver().PressKey(Qt::Key_Return);

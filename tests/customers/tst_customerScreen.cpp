@@ -43,7 +43,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void openingShowsTheFirstCustomer() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     QCOMPARE(desk.Box(0), u"1"_s);
     QCOMPARE(desk.Box(1), u"Name 1"_s);
@@ -56,7 +56,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void comingBackShowsTheSameCustomerAgain() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     desk.Click(u"cmdNav_2"_s);
     desk.Click(u"cmdCustomer_0"_s);
@@ -90,7 +90,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void captionsAndTipsAreTheProgramsOwn() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     using Texts = std::initializer_list<std::pair<const char*, const char*>>;
     for (const auto& [name, caption] : Texts{{"cmdCustomer_0", "&Menu"},
@@ -127,7 +127,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void theMenuHasItsFourEntries() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     const auto* menu = desk.Driver().Window()->findChild<QMenu*>(u"mnuCust"_s);
     QCOMPARE(menu->title(), u"Customer Routines"_s);
@@ -143,7 +143,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void movingSavesWhatWasTyped() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     desk.Fill(u"txtCustomer_2"_s, u"1 Main St"_s);
     desk.Click(u"cmdNav_2"_s);
@@ -154,7 +154,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void theNumberWrapsForwardButNotBackward() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     desk.Click(u"cmdNav_1"_s);
     QCOMPARE(desk.Box(0), u"1"_s);
@@ -165,7 +165,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void backFromTheFirstSavesAndReloadsIt() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, u" Spaced "_s);
     desk.Click(u"cmdNav_1"_s);
@@ -174,7 +174,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void aFailedSaveDoesNotStopTheMove() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, QString());
     desk.Program.Answers.Ok(
@@ -184,11 +184,11 @@ class CustomerScreenTest : public QObject {
     desk.Program.Answers.Ok(u"The Account Name Cannot be Blank"_s, u"Karvex Invoicer"_s);
     desk.Click(u"cmdNav_2"_s);
     QCOMPARE(desk.Box(0), u"2"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
   }
 
   void aFullDiskLeavesTheFileAndWhatWasTyped() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, u"Typed"_s);
     desk.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
@@ -197,7 +197,7 @@ class CustomerScreenTest : public QObject {
     QVERIFY(desk.Program.Answers.Last().Text.contains(u"CustomerData.txt"));
     QCOMPARE(desk.Box(0), u"1"_s);
     QCOMPARE(desk.Box(1), u"Typed"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
     desk.Program.Files.Reset();
     desk.Click(u"cmdNav_2"_s);
     QCOMPARE(desk.Box(0), u"2"_s);
@@ -205,7 +205,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void anAddedCustomerIsKeptOnceTheScreenMovesOffHim() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     QVERIFY(desk.Sees(u"cmdCustomer_13"_s));
@@ -220,7 +220,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void cancellingAfterThatTakesTheCountBackAndKeepsTheRecord() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     desk.Driver().Type(u"3"_s);
@@ -235,14 +235,14 @@ class CustomerScreenTest : public QObject {
   }
 
   void cancelDropsTheCustomerBeingAdded() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     desk.Driver().Type(u"3"_s);
     desk.Fill(u"txtCustomer_1"_s, u"Three"_s);
     desk.Click(u"cmdCustomer_13"_s);
     QCOMPARE(desk.Box(0), u"2"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
   }
 
   void addingWithoutANumberOnTheScreenIsSilent() {
@@ -255,7 +255,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void addingWithoutANumberCostsNoStoredCustomer() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Click(u"cmdNav_3"_s);
     const QByteArray before = desk.Customers();
@@ -269,7 +269,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void addingAgainWithoutANumberKeepsTheCancelOfTheFirst() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     desk.Driver().Trigger(u"mnuAdd"_s);
@@ -279,7 +279,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void addingOnAFullDiskCostsNoStoredCustomer() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Click(u"cmdNav_3"_s);
     const QByteArray before = desk.Customers();
@@ -312,7 +312,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void aDeleteThatFailsLateNeverSavesTheDeletedOverAnother() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     desk.Click(u"cmdNav_2"_s);
     desk.Program.Files.FailAt(FailingDevice::Call::FlushFolder, 2, EIO);
@@ -323,7 +323,7 @@ class CustomerScreenTest : public QObject {
     QVERIFY(desk.Program.Answers.Last().Text.endsWith(
         u"The customer is gone from the file all the same: don't delete again. Nothing else was lost."_s));
     QCOMPARE(desk.Box(0), u"3"_s);
-    const QByteArray left = CustomerDesk::Many(1) + BusinessRecord("3", "Name 3");
+    const QByteArray left = Many(1) + BusinessRecord("3", "Name 3");
     QCOMPARE(desk.Customers(), left);
     desk.Program.Files.Reset();
     desk.Click(u"cmdNav_2"_s);
@@ -346,7 +346,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void menuDuringAnAddDropsTheNewCustomer() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     desk.Driver().Type(u"3"_s);
@@ -354,21 +354,21 @@ class CustomerScreenTest : public QObject {
     desk.Click(u"cmdCustomer_0"_s);
     QVERIFY(!desk.Shown());
     QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
   }
 
   void aDeleteAsksOnceAndANoChangesNothing() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Program.Answers.No(u"Delete this Customer"_s, u"Karvex Invoicer"_s);
     desk.Driver().Trigger(u"mnuDelete"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
     QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
     QCOMPARE(desk.Program.Answers.Last().Buttons, QMessageBox::Yes | QMessageBox::No);
   }
 
   void aDeletedCustomerIsGoneWithHisLedgerButNotHisFolder() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Program.Tree.Write(u"/KVActiveAccounts/3.txt"_s, "ledger");
     desk.Program.Tree.Write(u"/Backup/KVActiveAccounts/3.txt"_s, "ledger");
     desk.Program.Tree.Write(u"/Backup/CustomerData.txt"_s, "older");
@@ -376,7 +376,7 @@ class CustomerScreenTest : public QObject {
     desk.Click(u"cmdNav_3"_s);
     desk.Program.Answers.Yes();
     desk.Driver().Trigger(u"mnuDelete"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
     QCOMPARE(desk.Box(0), u"2"_s);
     QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
     QVERIFY(!desk.Program.Tree.Exists(u"/KVActiveAccounts/3.txt"_s));
@@ -388,7 +388,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void deletingTheOnlyCustomerLeavesABlankRecord() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Program.Answers.Yes();
     desk.Driver().Trigger(u"mnuDelete"_s);
@@ -403,20 +403,20 @@ class CustomerScreenTest : public QObject {
   }
 
   void aFullDiskDuringADeleteLosesNothing() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Program.Tree.Write(u"/KVActiveAccounts/1.txt"_s, "ledger");
     desk.Open();
     desk.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
     desk.Program.Answers.Yes();
     desk.Program.Answers.Ok();
     desk.Driver().Trigger(u"mnuDelete"_s);
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
     QCOMPARE(desk.Program.Tree.Bytes(u"/KVActiveAccounts/1.txt"_s), "ledger");
     QCOMPARE(desk.Box(1), u"Name 1"_s);
   }
 
   void menuSavesAndGoesBack() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, u"Changed"_s);
     desk.Click(u"cmdCustomer_0"_s);
@@ -426,7 +426,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void aRefusedSaveKeepsTheScreen() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, QString());
     desk.Program.Answers.Ok({}, u"No Name Entered"_s);
@@ -438,7 +438,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void withoutNumberAndTelephoneTheWayOffHangsOnTheLastSave() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     desk.Fill(u"txtCustomer_0"_s, QString());
     desk.Program.Answers.Ok(u"The Telephone Number cannot be blank"_s, u"No number"_s);
@@ -451,7 +451,7 @@ class CustomerScreenTest : public QObject {
     desk.Program.Answers.Ok({}, u"No number"_s);
     desk.Click(u"cmdCustomer_0"_s);
     QVERIFY2(!desk.Shown(), "the last save was accepted");
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(2));
+    QCOMPARE(desk.Customers(), Many(2));
   }
 
   void selectingHandsTheCustomerToTheInvoice() {
@@ -480,13 +480,13 @@ class CustomerScreenTest : public QObject {
   }
 
   void closingTheWindowSavesNothingAndEndsTheProgram() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, u"Typed"_s);
     desk.Driver().CloseByUser();
     QVERIFY(desk.Program.Running().HasEnded());
-    QCOMPARE(desk.Customers(), CustomerDesk::Many(1));
-    QCOMPARE(desk.Program.Tree.Bytes(u"/Backup/CustomerData.txt"_s), CustomerDesk::Many(1));
+    QCOMPARE(desk.Customers(), Many(1));
+    QCOMPARE(desk.Program.Tree.Bytes(u"/Backup/CustomerData.txt"_s), Many(1));
   }
 
   void theAuxiliaryScreenFlipsAndNamesTheAccount() {
@@ -505,7 +505,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void searchingSavesTheCustomerFirst() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_1"_s, u"Changed"_s);
     desk.Click(u"Command1_0"_s);
@@ -513,7 +513,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void escapeGoesBackUnlessACustomerIsBeingAdded() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Driver().Trigger(u"mnuAdd"_s);
     desk.Driver().PressKey(Qt::Key_Escape);
@@ -525,7 +525,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void everythingIsReachedByAccessKeys() {
-    CustomerDesk desk(CustomerDesk::Many(3));
+    CustomerDesk desk(Many(3));
     desk.Open();
     desk.Driver().PressKey(Qt::Key_Greater, Qt::AltModifier);
     QCOMPARE(desk.Box(0), u"2"_s);
@@ -538,7 +538,7 @@ class CustomerScreenTest : public QObject {
   }
 
   void everyControlHasAnAccessibleName() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     for (const QWidget* control : desk.Driver().Window()->findChildren<QWidget*>()) {
       const bool named =

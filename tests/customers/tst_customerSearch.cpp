@@ -254,7 +254,7 @@ class CustomerSearchTest : public QObject {
   }
 
   void aListOfOneIsNotLoaded() {
-    CustomerDesk desk(CustomerDesk::Many(1));
+    CustomerDesk desk(Many(1));
     desk.Open();
     desk.Fill(u"txtCustomer_2"_s, u"typed"_s);
     desk.Driver().Trigger(u"mnuPrint"_s);
@@ -397,14 +397,14 @@ class CustomerSearchTest : public QObject {
   }
 
   void theCompleteListOf32767OpensAndScrollsWithoutAWidgetPerRow() {
-    CustomerDesk desk(CustomerDesk::Many(2));
+    CustomerDesk desk(Many(2));
     desk.Open();
     const auto widgets = [&] { return Grid(desk)->findChildren<QWidget*>().size(); };
     desk.Driver().Trigger(u"mnuPrint"_s);
     const auto few = widgets();
     desk.Driver().Trigger(u"mnuPrint"_s);
     desk.Click(u"cmdCustomer_0"_s);
-    desk.Program.Tree.Write(u"/CustomerData.txt"_s, CustomerDesk::Many(32767));
+    desk.Program.Tree.Write(u"/CustomerData.txt"_s, Many(32767));
     desk.GoFromMenu();
     desk.Driver().Trigger(u"mnuPrint"_s);
     QCOMPARE(Grid(desk)->model()->rowCount(), 32767);

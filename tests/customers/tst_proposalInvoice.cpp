@@ -45,15 +45,6 @@ void Finish(ProgramFixture& program) {
   invoice.Click(u"cmdInvoiceContinue"_s);
 }
 
-/// The sold-to block of page 1 as printed, line by line.
-QStringList SoldToBlock(const RecordingPrinter& paper) {
-  QStringList block;
-  for (const PaperText& text : paper.Texts(1)) {
-    if (block.isEmpty() ? text.Text == u"SOLD TO:"_s : text.X == 1080.0F && text.Y < 4800.0F) block.append(text.Text);
-  }
-  return block;
-}
-
 }  // namespace
 
 class ProposalInvoice : public QObject {
@@ -100,12 +91,12 @@ class ProposalInvoice : public QObject {
     QVERIFY(program.StartAtMenu());
     InvoiceOf(1);
     Finish(program);
-    QCOMPARE(SoldToBlock(program.Paper), (QStringList{u"SOLD TO:"_s, u"Bay Farm, Inc."_s, u"1 Dock Rd"_s,
-                                                      u"Suite 4, rear"_s, u"Salem, MA 01970"_s}));
+    QCOMPARE(program.Paper.SoldToBlock(), (QStringList{u"SOLD TO:"_s, u"Bay Farm, Inc."_s, u"1 Dock Rd"_s,
+                                                       u"Suite 4, rear"_s, u"Salem, MA 01970"_s}));
     QVERIFY(!program.Paper.Find(u"Acct: 2001"_s).empty());
     InvoiceOf(2);
     Finish(program);
-    QCOMPARE(SoldToBlock(program.Paper),
+    QCOMPARE(program.Paper.SoldToBlock(),
              (QStringList{u"SOLD TO:"_s, u"Hill, Top & Sons"_s, u"12 Ridge Road"_s, u"Lynn, MA 01901"_s}));
     QVERIFY(!program.Paper.Find(u"Acct: 2002"_s).empty());
   }
@@ -154,7 +145,7 @@ class ProposalInvoice : public QObject {
     QVERIFY(!invoice.IsVisible(u"lblCustomer_4"_s));
     QCOMPARE(invoice.Text(u"lblCustomer_4"_s), u"MA"_s);
     Finish(program);
-    QVERIFY(SoldToBlock(program.Paper).contains(u"Bay Farm, Inc."_s));
+    QVERIFY(program.Paper.SoldToBlock().contains(u"Bay Farm, Inc."_s));
     QVERIFY(program.Paper.Find(u"MA"_s).empty());
   }
 };

@@ -31,7 +31,7 @@ class CommitTest : public QObject {
   }
   /// Rope of no category and without prices: what is on hand is all that a commit changes.
   static QByteArray Item(const char* onHand) {
-    return Padded("Rope", 50) + Padded("", 20) + QByteArray(16, '\0') + Hex(onHand) + QByteArray(16, '\0');
+    return Field("Rope", 50) + Field("", 20) + QByteArray(16, '\0') + Hex(onHand) + QByteArray(16, '\0');
   }
   /// Step names with what stands on the disk then.
   std::function<void()> Step(const QString& name) {

@@ -4,6 +4,7 @@
 #include "catalogue/CatalogueRecords.h"
 #include "customers/CommonAccountRoutines.h"
 #include "invoice/CommitRecords.h"
+#include "support/Bytes.h"
 #include "support/ErrorOf.h"
 #include "support/InvoiceFixture.h"
 
@@ -13,13 +14,6 @@ namespace {
 
 const QDate Today(2026, 3, 7);
 const QByteArray TodayBytes = QByteArray::fromHex("000000000081e640");  // 46088 days
-
-QByteArray Padded(const char* text, int width) {
-  return QByteArray(text).leftJustified(width, ' ');
-}
-QByteArray Hex(const char* digits) {
-  return QByteArray::fromHex(digits);
-}
 
 }  // namespace
 
@@ -65,7 +59,7 @@ class CommitRecordsTest : public QObject {
     m_desk->AddLine({u""_s, u"Survey"_s});
     m_desk->AddLine({u"7"_s, u"rope"_s});
     Sell();
-    QCOMPARE(Sold(), Padded("Rope", 60) + TodayBytes + Padded("20260001", 20) + Hex("0200"));
+    QCOMPARE(Sold(), Field("Rope", 60) + TodayBytes + Field("20260001", 20) + Hex("0200"));
   }
 
   void aNameThatTheListHoldsTwiceIsRecordedTwice() {
@@ -73,8 +67,8 @@ class CommitRecordsTest : public QObject {
     m_desk->AddLine({u"2"_s, u"Rope"_s});
     m_desk->AddLine({u"-3"_s, u"Anchor"_s});
     Sell();
-    const QByteArray rope = Padded("Rope", 60) + TodayBytes + Padded("20260001", 20) + Hex("0200");
-    QCOMPARE(Sold(), rope + rope + Padded("Anchor", 60) + TodayBytes + Padded("20260001", 20) + Hex("fdff"));
+    const QByteArray rope = Field("Rope", 60) + TodayBytes + Field("20260001", 20) + Hex("0200");
+    QCOMPARE(Sold(), rope + rope + Field("Anchor", 60) + TodayBytes + Field("20260001", 20) + Hex("fdff"));
   }
 
   void aGridNameWithBlanksAroundMatchesNothing() {
@@ -155,7 +149,7 @@ class CommitRecordsTest : public QObject {
     Invoice().FlatDiscount = Currency::FromUnits(77);
     Invoice().GrandTotal = Currency::FromUnits(1365000);
     WriteSalesJournal(Invoice(), m_desk->Disk, Today);
-    const QByteArray row = Padded("Bay Farm", 45) + Padded("1001", 20) + Padded("20260001", 20) + TodayBytes +
+    const QByteArray row = Field("Bay Farm", 45) + Field("1001", 20) + Field("20260001", 20) + TodayBytes +
                            Hex("20d6130000000000") + Hex("e8fd000000000000") + Hex("c832000000000000") +
                            Hex("08d4140000000000");
     QCOMPARE(row.size(), 125);
@@ -178,15 +172,15 @@ class CommitRecordsTest : public QObject {
     Invoice().Tax2 = Currency::FromUnits(50000);
     WriteTaxRecords(Invoice(), u"Sales Tax"_s, u"Tax Surcharge"_s, m_desk->Disk, Today);
     QCOMPARE(m_desk->Read(u"/TaxRecords.txt"_s),
-             Padded("Sales Tax", 20) + Padded("3/7/2026", 15) + Padded(" 20260001 ", 30) + Padded("80.0008", 10) +
-                 Padded("Tax Surcharge", 20) + Padded("3/7/2026", 15) + Padded(" 20260001 ", 30) + Padded("5", 10));
+             Field("Sales Tax", 20) + Field("3/7/2026", 15) + Field(" 20260001 ", 30) + Field("80.0008", 10) +
+                 Field("Tax Surcharge", 20) + Field("3/7/2026", 15) + Field(" 20260001 ", 30) + Field("5", 10));
   }
 
   void onlyTheSecondTaxMakesOneRecordUnderItsHeading() {
     Invoice().Tax2 = Currency::FromUnits(25000);
     WriteTaxRecords(Invoice(), u"Sales Tax"_s, u"County Tax"_s, m_desk->Disk, Today);
     QCOMPARE(m_desk->Read(u"/TaxRecords.txt"_s),
-             Padded("County Tax", 20) + Padded("3/7/2026", 15) + Padded(" 20260001 ", 30) + Padded("2.5", 10));
+             Field("County Tax", 20) + Field("3/7/2026", 15) + Field(" 20260001 ", 30) + Field("2.5", 10));
   }
 
   void taxesAtOrBelowZeroMakeNoFile() {
@@ -218,9 +212,9 @@ class CommitRecordsTest : public QObject {
     WriteReceivable(Invoice(), m_desk->Customer, accounts, Today);
     // The account stands in its field as in the box; the file is named without the blanks.
     QCOMPARE(m_desk->Read(u"/KVActiveAccounts/2002.txt"_s),
-             Padded("Bay Farm", 45) + Padded(" 2002", 25) + Padded("3/7/2026", 15) + Padded("Previous Balance", 60) +
-                 Padded("$0.00", 10) + Padded("Bay Farm", 45) + Padded(" 2002", 25) + Padded("3/7/2026", 15) +
-                 Padded("20260001", 60) + Padded("136.5", 10));
+             Field("Bay Farm", 45) + Field(" 2002", 25) + Field("3/7/2026", 15) + Field("Previous Balance", 60) +
+                 Field("$0.00", 10) + Field("Bay Farm", 45) + Field(" 2002", 25) + Field("3/7/2026", 15) +
+                 Field("20260001", 60) + Field("136.5", 10));
     QCOMPARE(m_desk->Read(u"/Backup/KVActiveAccounts/2002.txt"_s), m_desk->Read(u"/KVActiveAccounts/2002.txt"_s));
     QVERIFY(!m_desk->Exists(u"/KAPaymentRecords.txt"_s));
   }
@@ -235,12 +229,12 @@ class CommitRecordsTest : public QObject {
     WriteReceivable(Invoice(), m_desk->Customer, accounts, Today);
     const QByteArray ledger = m_desk->Read(u"/KVActiveAccounts/2002.txt"_s);
     QCOMPARE(ledger.size(), 3 * 155);
-    QCOMPARE(ledger.last(155), Padded("Bay Farm", 45) + Padded("2002", 25) + Padded("3/7/2026", 15) +
-                                   Padded("Payment Received", 60) + Padded("$136.50", 10));
+    QCOMPARE(ledger.last(155), Field("Bay Farm", 45) + Field("2002", 25) + Field("3/7/2026", 15) +
+                                   Field("Payment Received", 60) + Field("$136.50", 10));
     QCOMPARE(m_desk->Read(u"/Backup/KVActiveAccounts/2002.txt"_s), ledger);
-    QCOMPARE(m_desk->Read(u"/KAPaymentRecords.txt"_s), Padded("Hill Farm", 45) + Padded("2002", 25) +
-                                                           Padded("3/7/2026", 15) + Padded("Check # 77", 60) +
-                                                           Padded("$136.50", 10));
+    QCOMPARE(m_desk->Read(u"/KAPaymentRecords.txt"_s), Field("Hill Farm", 45) + Field("2002", 25) +
+                                                           Field("3/7/2026", 15) + Field("Check # 77", 60) +
+                                                           Field("$136.50", 10));
   }
 
   void aPaymentWithoutAFormHasAnEmptyMethod() {
@@ -249,7 +243,7 @@ class CommitRecordsTest : public QObject {
     Invoice().txtPrepaid = u"as typed"_s;
     CommonAccountRoutines accounts(m_desk->Disk, m_desk->Now);
     WriteReceivable(Invoice(), m_desk->Customer, accounts, Today);
-    QCOMPARE(m_desk->Read(u"/KAPaymentRecords.txt"_s).sliced(85), Padded("", 60) + Padded("as typed", 10));
+    QCOMPARE(m_desk->Read(u"/KAPaymentRecords.txt"_s).sliced(85), Field("", 60) + Field("as typed", 10));
   }
 
   void withoutACustomerOnTheScreenTheEmptyAccountIsPostedTo() {
@@ -273,7 +267,7 @@ class CommitRecordsTest : public QObject {
 
   void onlyTheStockOfARecordChanges() {
     QByteArray record(104, 'x');
-    record.replace(0, 50, Padded("Rope", 50));
+    record.replace(0, 50, Field("Rope", 50));
     record.replace(86, 2, Hex("0a00"));
     m_desk->Write(u"/KVInventoriedItems.txt"_s, record);
     m_desk->AddLine({u"3"_s, u"Rope"_s});

@@ -6,26 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void FillGrid(InvoiceBench& bench, int lines) {
-  for (int row = 1; row <= lines; ++row) {
-    bench.Invoice.fgInvoice.SetText(row, 0, u"1"_s);
-    bench.Invoice.fgInvoice.SetText(row, 1, u"Crate"_s);
-    bench.Invoice.fgInvoice.SetText(row, 3, u"$1.00"_s);
-    bench.Invoice.fgInvoice.SetText(row, 4, u"$1.00"_s);
-    bench.Invoice.fgInvoice.SetText(row, 5, u"False"_s);
-  }
-  bench.Invoice.LineCount = static_cast<qint16>(lines);
-}
-
-void OpenAt(InvoiceBench& bench, const QString& entry) {
-  bench.OpenAtLines();
-  bench.On().Trigger(entry);
-}
-
-}  // namespace
-
 class ScreenLabor : public QObject {
   Q_OBJECT
 
@@ -44,7 +24,7 @@ class ScreenLabor : public QObject {
 
 void ScreenLabor::hoursAreChargedAndSummed() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   bench.On().Type(u"2"_s);
   bench.On().Fill(u"txtHours_0"_s, u"1.5"_s);
   QCOMPARE(bench.Text(u"lblLaborCharge_1"_s), u"$180.00"_s);
@@ -58,7 +38,7 @@ void ScreenLabor::hoursAreChargedAndSummed() {
 
 void ScreenLabor::laborPostsALineForEachChargeAndOpensTheServices() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   bench.Live.Tax.ckLabor = true;
   bench.On().Type(u"2"_s);
   bench.On().Fill(u"txtHours_0"_s, u"1.5"_s);
@@ -77,7 +57,7 @@ void ScreenLabor::laborPostsALineForEachChargeAndOpensTheServices() {
 void ScreenLabor::laborWithoutServicesStaysOpen() {
   InvoiceBench bench;
   bench.Tree.Remove(u"/Services.txt"_s);
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   bench.On().Type(u"1"_s);
   bench.On().Click(u"cmdLabor_0"_s);
   bench.On().Click(u"cmdLabor_1"_s);
@@ -88,7 +68,7 @@ void ScreenLabor::laborWithoutServicesStaysOpen() {
 
 void ScreenLabor::hoursThatAreNoNumberComeBackAsZero() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   bench.On().Type(u"."_s);
   bench.On().Click(u"cmdLabor_0"_s);
   QCOMPARE(bench.Dialogs.Beeps, 1);
@@ -98,7 +78,7 @@ void ScreenLabor::hoursThatAreNoNumberComeBackAsZero() {
 
 void ScreenLabor::emptyHoursAreLeftAlone() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   bench.On().Type(u"2"_s);
   bench.On().Click(u"txtHours_0"_s);
   bench.On().Fill(u"txtHours_1"_s, QString());
@@ -111,7 +91,7 @@ void ScreenLabor::emptyHoursAreLeftAlone() {
 
 void ScreenLabor::clearLaborSetsEverythingBack() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   bench.On().Type(u"2"_s);
   bench.On().Click(u"cmdLabor_0"_s);
   bench.On().Click(u"cmdLabor_2"_s);
@@ -123,8 +103,8 @@ void ScreenLabor::clearLaborSetsEverythingBack() {
 
 void ScreenLabor::laborOntoAFullGridIsTheGridsError() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  FillGrid(bench, 100);
+  bench.OpenAt(u"mnuLabor"_s);
+  bench.FillGrid(100);
   bench.On().Type(u"2"_s);
   bench.On().Click(u"cmdLabor_0"_s);
   bench.On().Click(u"cmdLabor_1"_s);
@@ -135,7 +115,7 @@ void ScreenLabor::laborOntoAFullGridIsTheGridsError() {
 
 void ScreenLabor::enterInTheHoursCalculates() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   bench.On().Type(u"2"_s);
   bench.On().PressKey(Qt::Key_Return);
   QCOMPARE(bench.Text(u"lblLaborCharge_3"_s), u"$180.00"_s);
@@ -146,8 +126,8 @@ void ScreenLabor::enterInTheHoursCalculates() {
 
 void ScreenLabor::laborForMoreSlotsThanThereIsRoomPostsNone() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
-  FillGrid(bench, 99);
+  bench.OpenAt(u"mnuLabor"_s);
+  bench.FillGrid(99);
   bench.On().Type(u"2"_s);
   bench.On().Fill(u"txtHours_0"_s, u"1"_s);
   bench.On().Click(u"cmdLabor_0"_s);
@@ -165,7 +145,7 @@ void ScreenLabor::laborForMoreSlotsThanThereIsRoomPostsNone() {
 
 void ScreenLabor::hoursTakeDigitsAndOnePointOnly() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuLabor"_s);
+  bench.OpenAt(u"mnuLabor"_s);
   QCOMPARE(bench.On().FocusName(), u"txtHours_1"_s);
   bench.On().Type(u"0"_s);
   QCOMPARE(bench.Text(u"txtHours_1"_s), QString());

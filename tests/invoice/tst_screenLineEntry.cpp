@@ -6,26 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void FillGrid(InvoiceBench& bench, int lines) {
-  for (int row = 1; row <= lines; ++row) {
-    bench.Invoice.fgInvoice.SetText(row, 0, u"1"_s);
-    bench.Invoice.fgInvoice.SetText(row, 1, u"Crate"_s);
-    bench.Invoice.fgInvoice.SetText(row, 3, u"$1.00"_s);
-    bench.Invoice.fgInvoice.SetText(row, 4, u"$1.00"_s);
-    bench.Invoice.fgInvoice.SetText(row, 5, u"False"_s);
-  }
-  bench.Invoice.LineCount = static_cast<qint16>(lines);
-}
-
-void OpenAt(InvoiceBench& bench, const QString& entry) {
-  bench.OpenAtLines();
-  bench.On().Trigger(entry);
-}
-
-}  // namespace
-
 class ScreenLineEntry : public QObject {
   Q_OBJECT
 
@@ -63,7 +43,7 @@ class ScreenLineEntry : public QObject {
 
 void ScreenLineEntry::aServiceIsPostedWithItsPriceAndDate() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
   QCOMPARE(bench.Text(u"cboPrice_0"_s), u"$80.00"_s);
   bench.On().Click(u"cmdPost_0"_s);
@@ -77,7 +57,7 @@ void ScreenLineEntry::aServiceIsPostedWithItsPriceAndDate() {
 
 void ScreenLineEntry::aServicePriceMayBeTyped() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
   bench.On().Fill(u"cboPrice_0"_s, u"75.5"_s);
   bench.On().Click(u"cmdPost_0"_s);
@@ -86,7 +66,7 @@ void ScreenLineEntry::aServicePriceMayBeTyped() {
 
 void ScreenLineEntry::aPricePickedFromItsListIsTheOnePosted() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
   bench.On().Fill(u"txtUnits"_s, u"2"_s);
@@ -97,7 +77,7 @@ void ScreenLineEntry::aPricePickedFromItsListIsTheOnePosted() {
 
 void ScreenLineEntry::theBreakFollowsThePickedPrice() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
@@ -114,7 +94,7 @@ void ScreenLineEntry::theBreakFollowsThePickedPrice() {
 
 void ScreenLineEntry::anItemIsPostedWithUnitsAndTheNextStartsFromTheHead() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Paint"_s);
   QCOMPARE(bench.On().FocusName(), u"txtUnits"_s);
   QCOMPARE(bench.Text(u"cboPrice_1"_s), u"$33.34"_s);
@@ -130,7 +110,7 @@ void ScreenLineEntry::anItemIsPostedWithUnitsAndTheNextStartsFromTheHead() {
 
 void ScreenLineEntry::aCustomItemTakesItsOwnPriceThoughItsListIsSorted() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuCItems"_s);
+  bench.OpenAt(u"mnuCItems"_s);
   const auto* list = bench.On().Control<QComboBox>(u"cboDescription_2"_s);
   QCOMPARE(list->itemText(0), u"Banner"_s);
   QCOMPARE(list->itemText(1), u"Sign"_s);
@@ -157,7 +137,7 @@ void ScreenLineEntry::aManualLineIsPostedAndItsBoxesAreCleared() {
 
 void ScreenLineEntry::aManualLineWithoutAQuantityPostsAsOne() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuManual"_s);
+  bench.OpenAt(u"mnuManual"_s);
   bench.On().Fill(u"txtManual_0"_s, u"Crate"_s);
   bench.On().Fill(u"txtManual_1"_s, u"12"_s);
   bench.On().Click(u"cmdPost_2"_s);
@@ -166,7 +146,7 @@ void ScreenLineEntry::aManualLineWithoutAQuantityPostsAsOne() {
 
 void ScreenLineEntry::aManualLineFollowsItsOwnTaxTick() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuManual"_s);
+  bench.OpenAt(u"mnuManual"_s);
   bench.On().Click(u"ckManualTax"_s);
   bench.PostManual(u"Crate"_s, u"1"_s, u"12"_s);
   QCOMPARE(bench.Row(1)[5], u"True"_s);
@@ -177,7 +157,7 @@ void ScreenLineEntry::aManualLineFollowsItsOwnTaxTick() {
 
 void ScreenLineEntry::taxSwitchesOfSetupDecideTheOtherKinds() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.Live.Tax.ckServices = true;
   bench.Live.Tax.ckCustom = true;
   bench.Live.Tax.ckSalesItems = false;
@@ -216,7 +196,7 @@ void ScreenLineEntry::whatIsMissingBeepsAndGetsTheFocus() {
   QFETCH(QString, button);
   QFETCH(QString, focus);
   InvoiceBench bench;
-  OpenAt(bench, entry);
+  bench.OpenAt(entry);
   const QChar element = focus.startsWith(u"txtC") ? u'2' : focus.startsWith(u"txtU") ? u'1' : u'0';
   bench.On().Fill(u"cboDescription_"_s + element, description);
   bench.On().Fill(u"cboPrice_"_s + element, price);
@@ -229,7 +209,7 @@ void ScreenLineEntry::whatIsMissingBeepsAndGetsTheFocus() {
 
 void ScreenLineEntry::aManualLineChecksItsBoxesInOrder() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuManual"_s);
+  bench.OpenAt(u"mnuManual"_s);
   bench.On().Click(u"cmdPost_2"_s);
   QCOMPARE(bench.Dialogs.Beeps, 1);
   QCOMPARE(bench.On().FocusName(), u"txtManual_1"_s);
@@ -251,7 +231,7 @@ void ScreenLineEntry::aManualLineChecksItsBoxesInOrder() {
 
 void ScreenLineEntry::aFailedPostStillEnablesReadyToPrint() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.On().Click(u"cmdPost_0"_s);
   QCOMPARE(bench.Invoice.LineCount, 0);
   QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
@@ -259,7 +239,7 @@ void ScreenLineEntry::aFailedPostStillEnablesReadyToPrint() {
 
 void ScreenLineEntry::exactlyTheBreakQuantityTakesTheDiscountPriceAndOneFewerDoesNot() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().Type(u"5"_s);
@@ -274,7 +254,7 @@ void ScreenLineEntry::exactlyTheBreakQuantityTakesTheDiscountPriceAndOneFewerDoe
 
 void ScreenLineEntry::aBreakOfZeroUnitsNeverApplies() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Nails"_s);
   bench.On().Type(u"9000"_s);
@@ -285,7 +265,7 @@ void ScreenLineEntry::aBreakOfZeroUnitsNeverApplies() {
 
 void ScreenLineEntry::withoutTheTickNoBreakApplies() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().Type(u"50"_s);
   bench.On().Click(u"cmdPost_1"_s);
@@ -294,7 +274,7 @@ void ScreenLineEntry::withoutTheTickNoBreakApplies() {
 
 void ScreenLineEntry::afterAHandTypedPriceNoBreakApplies() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().Fill(u"cboPrice_1"_s, u"11"_s);
@@ -305,7 +285,7 @@ void ScreenLineEntry::afterAHandTypedPriceNoBreakApplies() {
 
 void ScreenLineEntry::aCustomBreakHasNoMark() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuCItems"_s);
+  bench.OpenAt(u"mnuCItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
   bench.On().PickEntry(u"cboDescription_2"_s, u"Banner"_s);
   bench.On().Type(u"2"_s);
@@ -318,7 +298,7 @@ void ScreenLineEntry::aCustomBreakHasNoMark() {
 void ScreenLineEntry::theHundredthLineStandsWhenTheInvoiceIsFull() {
   InvoiceBench bench;
   bench.OpenAtLines();
-  FillGrid(bench, 99);
+  bench.FillGrid(99);
   QStringList behind;
   bench.Answers.With(QMessageBox::Ok, [&] { behind = bench.Row(100); });
   bench.PostManual(u"Last"_s, u"1"_s, u"7"_s);
@@ -334,8 +314,8 @@ void ScreenLineEntry::theHundredthLineStandsWhenTheInvoiceIsFull() {
 
 void ScreenLineEntry::aPostOntoAFullGridIsTheGridsErrorAndPostsNothing() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
-  FillGrid(bench, 100);
+  bench.OpenAt(u"mnuServices"_s);
+  bench.FillGrid(100);
   bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
   bench.On().Click(u"cmdPost_0"_s);
   QCOMPARE(bench.Around.Errors, QList<int>{9});
@@ -347,7 +327,7 @@ void ScreenLineEntry::aPostOntoAFullGridIsTheGridsErrorAndPostsNothing() {
 void ScreenLineEntry::postingAgainIsPossibleAfterADeletedLine() {
   InvoiceBench bench;
   bench.OpenAtLines();
-  FillGrid(bench, 99);
+  bench.FillGrid(99);
   bench.Answers.Ok();
   bench.PostManual(u"Last"_s, u"1"_s, u"7"_s);
   QVERIFY(!bench.On().IsEnabled(u"cmdPost_2"_s));
@@ -360,7 +340,7 @@ void ScreenLineEntry::postingAgainIsPossibleAfterADeletedLine() {
 
 void ScreenLineEntry::unitsThatDoNotConvertFailAtPosting() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuCItems"_s);
+  bench.OpenAt(u"mnuCItems"_s);
   bench.On().PickEntry(u"cboDescription_2"_s, u"Sign"_s);
   bench.Invoice.Entry.txtCUnits = u"12abc"_s;
   bench.Invoice.Show();
@@ -372,7 +352,7 @@ void ScreenLineEntry::unitsThatDoNotConvertFailAtPosting() {
 
 void ScreenLineEntry::countBoxesBlankAZeroAndFilterTheirKeys() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.Invoice.Entry.txtUnits = u"0"_s;
   bench.Invoice.Show();
   bench.On().Click(u"txtUnits"_s);
@@ -394,7 +374,7 @@ void ScreenLineEntry::countBoxesBlankAZeroAndFilterTheirKeys() {
 
 void ScreenLineEntry::unitsThatAreNoNumberComeBackAsZero() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"txtUnits"_s);
   bench.On().Type(u"."_s);
   bench.On().Click(u"cmdPost_1"_s);
@@ -407,7 +387,7 @@ void ScreenLineEntry::unitsThatAreNoNumberComeBackAsZero() {
 
 void ScreenLineEntry::manualBoxesFilterTheirKeys() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuManual"_s);
+  bench.OpenAt(u"mnuManual"_s);
   bench.On().Fill(u"txtManual_0"_s, u"A-1 \"x\""_s);
   QCOMPARE(bench.Text(u"txtManual_0"_s), u"A-1 \"x\""_s);
   bench.On().PressKey(Qt::Key_Return);
@@ -425,7 +405,7 @@ void ScreenLineEntry::manualBoxesFilterTheirKeys() {
 
 void ScreenLineEntry::enterInTheLastBoxPosts() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().Type(u"2"_s);
   bench.On().PressKey(Qt::Key_Return);
@@ -451,7 +431,7 @@ void ScreenLineEntry::enterInTheLastBoxPosts() {
 
 void ScreenLineEntry::aTypedPriceStaysAsTypedWhenItsBoxIsLeft() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
   bench.On().Fill(u"cboPrice_0"_s, u"75.5"_s);
   bench.On().Click(u"txtInvoiceNo"_s);
@@ -461,7 +441,7 @@ void ScreenLineEntry::aTypedPriceStaysAsTypedWhenItsBoxIsLeft() {
 
 void ScreenLineEntry::emptyUnitsHideTheMarkOfABreakAndAnEmptyPriceLeavesIt() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().Type(u"5"_s);

@@ -6,15 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void OpenAt(InvoiceBench& bench, const QString& entry) {
-  bench.OpenAtLines();
-  bench.On().Trigger(entry);
-}
-
-}  // namespace
-
 class ScreenLists : public QObject {
   Q_OBJECT
 
@@ -33,7 +24,7 @@ class ScreenLists : public QObject {
 
 void ScreenLists::typingCompletesTheDescription() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Type(u"ha"_s);
   auto* line = bench.On().Control<QComboBox>(u"cboDescription_1"_s)->lineEdit();
   QCOMPARE(line->text(), u"hammer"_s);
@@ -46,7 +37,7 @@ void ScreenLists::typingCompletesTheDescription() {
 
 void ScreenLists::typingAWholeNameSelectsIt() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Type(u"paint"_s);
   QCOMPARE(bench.Text(u"cboDescription_1"_s), u"Paint"_s);
   QCOMPARE(bench.Text(u"cboPrice_1"_s), u"$33.34"_s);
@@ -55,7 +46,7 @@ void ScreenLists::typingAWholeNameSelectsIt() {
 
 void ScreenLists::backspaceDoesNotComplete() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.On().Type(u"re"_s);
   QCOMPARE(bench.Text(u"cboDescription_0"_s), u"repair"_s);
   bench.On().PressKey(Qt::Key_Backspace);
@@ -66,7 +57,7 @@ void ScreenLists::backspaceDoesNotComplete() {
 
 void ScreenLists::changingTheDescriptionBlanksPriceAndUnits() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().Type(u"4"_s);
   bench.On().Fill(u"cboDescription_1"_s, u"z"_s);
@@ -76,7 +67,7 @@ void ScreenLists::changingTheDescriptionBlanksPriceAndUnits() {
 
 void ScreenLists::aCompletedDescriptionCountsThoughItWasNotPicked() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.On().Type(u"Rep"_s);
   bench.On().Fill(u"cboPrice_0"_s, u"70"_s);
   QCOMPARE(bench.Text(u"cboDescription_0"_s), u"Repair"_s);
@@ -87,7 +78,7 @@ void ScreenLists::aCompletedDescriptionCountsThoughItWasNotPicked() {
 
 void ScreenLists::aCategoryNarrowsTheItemsUntilAll() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);
   QCOMPARE(categories->count(), 3);
   QCOMPARE(categories->item(0)->text(), u"All"_s);
@@ -117,7 +108,7 @@ void ScreenLists::aCategoryNarrowsTheItemsUntilAll() {
 
 void ScreenLists::aNarrowedListStaysNarrowedWhenTheFrameIsOpenedAgain() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);
   categories->setFocus();
   categories->setCurrentRow(2);
@@ -128,7 +119,7 @@ void ScreenLists::aNarrowedListStaysNarrowedWhenTheFrameIsOpenedAgain() {
 
 void ScreenLists::theBreakOfANarrowedListGoesWithIt() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
   auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);
   categories->setFocus();
@@ -142,7 +133,7 @@ void ScreenLists::theBreakOfANarrowedListGoesWithIt() {
 
 void ScreenLists::theListsFollowTheCatalogue() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuServices"_s);
+  bench.OpenAt(u"mnuServices"_s);
   bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
   bench.Tree.Write(u"/Services.txt"_s, Field("Polishing", 60) + Field("$15.00", 10) + Bytes16(1) +
                                            Field("Sanding", 60) + Field("$16.00", 10) + Bytes16(1));
@@ -158,7 +149,7 @@ void ScreenLists::theListsFollowTheCatalogue() {
 
 void ScreenLists::allKeepsTheUnitsAndTheFocus() {
   InvoiceBench bench;
-  OpenAt(bench, u"mnuItems"_s);
+  bench.OpenAt(u"mnuItems"_s);
   bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   bench.On().Type(u"4"_s);
   auto* categories = bench.On().Control<QListWidget>(u"lstCategories"_s);

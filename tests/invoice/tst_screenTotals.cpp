@@ -30,6 +30,24 @@ void OpenReady(InvoiceBench& bench) {
   bench.On().Click(u"cmdPrint"_s);
 }
 
+/// Types a flat discount; the box that tells of the new terms is answered.
+void BeginFlatDiscount(InvoiceBench& bench, const QString& discount) {
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_1"_s);
+  bench.On().Type(discount);
+}
+
+void DeductDiscount(InvoiceBench& bench, const QString& discount) {
+  BeginFlatDiscount(bench, discount);
+  bench.On().Click(u"cmdAddDiscount"_s);
+}
+
+/// Types a charge and leaves its box.
+void EnterCharge(InvoiceBench& bench, const QString& box, const QString& charge) {
+  bench.On().Fill(box, charge);
+  bench.On().Click(u"txtInvoiceNo"_s);
+}
+
 int Terms(const InvoiceBench& bench) {
   return bench.On().Control<QComboBox>(u"cboTerms"_s)->currentIndex();
 }
@@ -191,8 +209,7 @@ void ScreenTotals::aChargeThatIsNoNumberIsEmptiedAndKeepsTheFocus() {
 void ScreenTotals::anEmptiedChargeBoxKeepsItsHeldCharge() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.On().Fill(u"txtShip"_s, u"5"_s);
-  bench.On().Click(u"txtInvoiceNo"_s);
+  EnterCharge(bench, u"txtShip"_s, u"5"_s);
   bench.On().Fill(u"txtShip"_s, QString());
   bench.On().Click(u"cmdInvoice_9"_s);
   QCOMPARE(bench.Text(u"txtShip"_s), QString());
@@ -204,8 +221,7 @@ void ScreenTotals::shippingAfterFinalizeDisablesPrint() {
   OpenReady(bench);
   bench.On().Click(u"cmdInvoice_9"_s);
   QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
-  bench.On().Fill(u"txtShip"_s, u"5"_s);
-  bench.On().Click(u"txtInvoiceNo"_s);
+  EnterCharge(bench, u"txtShip"_s, u"5"_s);
   QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
   QCOMPARE(bench.On().FocusName(), u"txtInvoiceNo"_s);
 }
@@ -214,8 +230,7 @@ void ScreenTotals::anAdditionalChargeSendsTheFocusToFinalize() {
   InvoiceBench bench;
   OpenReady(bench);
   bench.On().Click(u"cmdInvoice_9"_s);
-  bench.On().Fill(u"txtMisc"_s, u"5"_s);
-  bench.On().Click(u"txtInvoiceNo"_s);
+  EnterCharge(bench, u"txtMisc"_s, u"5"_s);
   QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
   QCOMPARE(bench.On().FocusName(), u"cmdInvoice_9"_s);
   QCOMPARE(bench.Text(u"txtMisc"_s), u"$5.00"_s);
@@ -225,8 +240,7 @@ void ScreenTotals::anAdditionalChargeOfZeroChangesNothing() {
   InvoiceBench bench;
   OpenReady(bench);
   bench.On().Click(u"cmdInvoice_9"_s);
-  bench.On().Fill(u"txtMisc"_s, u"$0.00"_s);
-  bench.On().Click(u"txtInvoiceNo"_s);
+  EnterCharge(bench, u"txtMisc"_s, u"$0.00"_s);
   QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
   QCOMPARE(bench.On().FocusName(), u"txtInvoiceNo"_s);
 }
@@ -235,8 +249,7 @@ void ScreenTotals::aDoubleClickClearsACharge() {
   InvoiceBench bench;
   OpenReady(bench);
   bench.On().Fill(u"txtShip"_s, u"5"_s);
-  bench.On().Fill(u"txtMisc"_s, u"3"_s);
-  bench.On().Click(u"txtInvoiceNo"_s);
+  EnterCharge(bench, u"txtMisc"_s, u"3"_s);
   for (const auto& box : {u"txtShip"_s, u"txtMisc"_s}) {
     auto* control = bench.On().Control(box);
     QTest::mouseDClick(control, Qt::LeftButton);
@@ -332,9 +345,7 @@ void ScreenTotals::flatDiscountIsDeductedAtFinalize() {
 void ScreenTotals::aFlatDiscountOfTheWholeAmountIsRefused() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"1070"_s);
+  BeginFlatDiscount(bench, u"1070"_s);
   bench.Answers.Ok(u"Your discount exceeds the Invoice Amount"_s, Standard);
   bench.On().Click(u"cmdAddDiscount"_s);
   QCOMPARE(bench.Dialogs.Beeps, 1);
@@ -349,9 +360,7 @@ void ScreenTotals::aFlatDiscountOfTheWholeAmountIsRefused() {
 void ScreenTotals::aFlatDiscountThatIsNoNumberIsAnErrorAndTheProgramGoesOn() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"."_s);
+  BeginFlatDiscount(bench, u"."_s);
   bench.On().Click(u"cmdAddDiscount"_s);
   QCOMPARE(bench.Around.Errors, QList<int>{13});
   QVERIFY(bench.Around.Subjects.first().contains(u"txtFlatDiscount"_s));
@@ -361,9 +370,7 @@ void ScreenTotals::aFlatDiscountThatIsNoNumberIsAnErrorAndTheProgramGoesOn() {
 void ScreenTotals::leavingTheFlatDiscountReformatsItAndMovesOn() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"12.5"_s);
+  BeginFlatDiscount(bench, u"12.5"_s);
   bench.On().Click(u"txtInvoiceNo"_s);
   QCOMPARE(bench.Text(u"txtFlatDiscount"_s), u"$12.50"_s);
   QCOMPARE(bench.On().FocusName(), u"cmdAddDiscount"_s);
@@ -372,10 +379,7 @@ void ScreenTotals::leavingTheFlatDiscountReformatsItAndMovesOn() {
 void ScreenTotals::choosingFlatAgainClearsTheHeldDiscount() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"70"_s);
-  bench.On().Click(u"cmdAddDiscount"_s);
+  DeductDiscount(bench, u"70"_s);
   bench.On().Click(u"cmdInvoice_9"_s);
   bench.Answers.Ok();
   bench.On().Click(u"optDiscount_0"_s);
@@ -418,10 +422,7 @@ void ScreenTotals::theOptionDialogueDisablesPrint() {
 void ScreenTotals::readyToPrintClearsAHeldFlatDiscount() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"70"_s);
-  bench.On().Click(u"cmdAddDiscount"_s);
+  DeductDiscount(bench, u"70"_s);
   bench.On().Click(u"cmdPrint"_s);
   QCOMPARE(bench.Invoice.FlatDiscount, Currency());
   QCOMPARE(bench.Text(u"txtFlatDiscount"_s), u"$0.00"_s);
@@ -435,10 +436,7 @@ void ScreenTotals::clearTotalsSetsEverythingBackAndGoesToTheLines() {
   InvoiceBench bench;
   OpenReady(bench);
   QCOMPARE(bench.Text(u"cmdCancelPrint"_s), u"Clear Totals/Addons - Redo"_s);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"70"_s);
-  bench.On().Click(u"cmdAddDiscount"_s);
+  DeductDiscount(bench, u"70"_s);
   bench.On().Fill(u"txtShip"_s, u"5"_s);
   bench.On().Click(u"cmdInvoice_9"_s);
   bench.On().Click(u"cmdCancelPrint"_s);
@@ -491,9 +489,7 @@ void ScreenTotals::arrowKeysChooseAnOptionToo() {
 void ScreenTotals::enterInTheDiscountDeductsItAndInAChargeFinalizes() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"70"_s);
+  BeginFlatDiscount(bench, u"70"_s);
   bench.On().PressKey(Qt::Key_Return);
   QCOMPARE(bench.Text(u"txtDiscount"_s), u"$70.00"_s);
   bench.On().Fill(u"txtShip"_s, u"5"_s);
@@ -505,8 +501,7 @@ void ScreenTotals::enterInTheDiscountDeductsItAndInAChargeFinalizes() {
 void ScreenTotals::aBlankedChargePrintsNothing() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.On().Fill(u"txtShip"_s, u"5"_s);
-  bench.On().Click(u"txtInvoiceNo"_s);
+  EnterCharge(bench, u"txtShip"_s, u"5"_s);
   bench.On().Fill(u"txtShip"_s, QString());
   bench.On().Click(u"cmdInvoice_9"_s);
   bench.Answers.Yes();
@@ -523,8 +518,7 @@ void ScreenTotals::aDoubleClickOfAnotherButtonKeepsTheCharge() {
   InvoiceBench bench;
   OpenReady(bench);
   bench.On().Fill(u"txtShip"_s, u"5"_s);
-  bench.On().Fill(u"txtMisc"_s, u"3"_s);
-  bench.On().Click(u"txtInvoiceNo"_s);
+  EnterCharge(bench, u"txtMisc"_s, u"3"_s);
   for (const auto& [box, charge] : {std::pair(u"txtShip"_s, u"$5.00"_s), {u"txtMisc"_s, u"$3.00"_s}}) {
     for (const auto button : {Qt::RightButton, Qt::MiddleButton}) {
       QTest::mouseDClick(bench.On().Control(box), button);
@@ -537,10 +531,7 @@ void ScreenTotals::aDoubleClickOfAnotherButtonKeepsTheCharge() {
 void ScreenTotals::aDeductedDiscountOutlastsTheLinesAndTheMenuEntry() {
   InvoiceBench bench;
   OpenReady(bench);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"70"_s);
-  bench.On().Click(u"cmdAddDiscount"_s);
+  DeductDiscount(bench, u"70"_s);
   bench.On().Trigger(u"mnuCreate"_s);
   bench.On().Trigger(u"mnuPrint"_s);
   QVERIFY(!bench.On().IsEnabled(u"cmdAddDiscount"_s));

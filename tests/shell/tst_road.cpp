@@ -77,15 +77,6 @@ QMap<QString, QByteArray> WithExitBackup(QMap<QString, QByteArray> tree) {
   return tree;
 }
 
-/// The sold-to block of page 1 as printed, line by line.
-QStringList SoldToBlock(const RecordingPrinter& paper) {
-  QStringList block;
-  for (const PaperText& text : paper.Texts(1)) {
-    if (block.isEmpty() ? text.Text == u"SOLD TO:"_s : text.X == 1080.0F && text.Y < 4800.0F) block.append(text.Text);
-  }
-  return block;
-}
-
 }  // namespace
 
 class Road : public QObject {
@@ -160,7 +151,7 @@ void Road::anInternationalProfileAtStartPrintsTheCustomerWithoutHisState() {
   QVERIFY(program.StartAtMenu());
   PostHammers();
   PrintAndConfirm(program);
-  QCOMPARE(SoldToBlock(program.Paper),
+  QCOMPARE(program.Paper.SoldToBlock(),
            (QStringList{u"SOLD TO:"_s, u"Acme Tools"_s, u"1 Main Street"_s, u"Springfield"_s, u"62701"_s}));
   QVERIFY(program.Paper.Find(u"IL"_s).empty());
 }
@@ -171,7 +162,7 @@ void Road::aProfileInUsaStylePrintsTheStateInOneLine() {
   QVERIFY(program.StartAtMenu());
   PostHammers();
   PrintAndConfirm(program);
-  QCOMPARE(SoldToBlock(program.Paper),
+  QCOMPARE(program.Paper.SoldToBlock(),
            (QStringList{u"SOLD TO:"_s, u"Acme Tools"_s, u"1 Main Street"_s, u"Springfield, IL 62701"_s}));
 }
 

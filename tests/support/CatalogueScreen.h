@@ -11,17 +11,17 @@ class CatalogueScreen {
  public:
   /// One service of a dollar and a quarter of an hour.
   static QByteArray Service(const char* description) {
-    return Padded(description, 60) + Padded("$1.00", 10) + Hex("01 00");
+    return Field(description, 60) + Field("$1.00", 10) + Hex("01 00");
   }
   /// Cost 1.25, price 12.50, 10 on hand, 11.00 from 6 up, reorder 24 at 4.
   static QByteArray Item(const char* description, const char* category) {
-    return Padded(description, 50) + Padded(category, 20) + Hex("D4 30 00 00 00 00 00 00") +
+    return Field(description, 50) + Field(category, 20) + Hex("D4 30 00 00 00 00 00 00") +
            Hex("48 E8 01 00 00 00 00 00") + Hex("0A 00") + Hex("B0 AD 01 00 00 00 00 00") + Hex("06 00 00 00") +
            Hex("18 00") + Hex("04 00");
   }
   /// Price 100, 90.50 from 3 up.
   static QByteArray CustomItem(const char* description) {
-    return Padded(description, 50) + Hex("40 42 0F 00 00 00 00 00") + Hex("28 CF 0D 00 00 00 00 00") +
+    return Field(description, 50) + Hex("40 42 0F 00 00 00 00 00") + Hex("28 CF 0D 00 00 00 00 00") +
            Hex("03 00 00 00");
   }
 

@@ -9,17 +9,8 @@
 #include "catalogue/SalesItemsList.h"
 #include "runtime/FileDevice.h"
 #include "shell/CommonDiskRoutines.h"
+#include "support/Bytes.h"
 #include "support/ErrorOf.h"
-
-/// `text` padded with blanks to `width` bytes, as a record holds it.
-inline QByteArray Padded(const QByteArray& text, int width) {
-  return text.leftJustified(width, ' ');
-}
-
-/// Bytes written as pairs of hexadecimal digits, blanks between them at will.
-inline QByteArray Hex(const char* digits) {
-  return QByteArray::fromHex(digits);
-}
 
 class CatalogueTree {
  public:

@@ -1,6 +1,5 @@
 #include "support/InvoiceBench.h"
 
-#include <QtEndian>
 #include <QtTest>
 #include <QtWidgets>
 
@@ -39,27 +38,7 @@ QByteArray Custom(const QByteArray& name, qint64 price, qint64 breakPrice, int b
   return Field(name, 50) + Bytes64(price) + Bytes64(breakPrice) + Bytes32(breakUnits);
 }
 
-template <typename Number>
-QByteArray Little(Number value) {
-  QByteArray bytes(sizeof(Number), '\0');
-  qToLittleEndian(value, bytes.data());
-  return bytes;
-}
-
 }  // namespace
-
-QByteArray Field(const QByteArray& text, int width) {
-  return text.leftJustified(width, ' ', true);
-}
-QByteArray Bytes16(int number) {
-  return Little(static_cast<qint16>(number));
-}
-QByteArray Bytes32(int number) {
-  return Little(static_cast<qint32>(number));
-}
-QByteArray Bytes64(qint64 number) {
-  return Little(number);
-}
 
 void NotingProgram::Show(ScreenName screen) {
   Asked << u"show "_s + NameOf(screen);
@@ -130,6 +109,22 @@ void InvoiceBench::Reopen() {
 void InvoiceBench::OpenAtLines() {
   Open();
   On().Click(u"cmdInvoice_0"_s);
+}
+
+void InvoiceBench::OpenAt(const QString& entry) {
+  OpenAtLines();
+  On().Trigger(entry);
+}
+
+void InvoiceBench::FillGrid(int lines) {
+  for (int row = 1; row <= lines; ++row) {
+    Invoice.fgInvoice.SetText(row, 0, u"1"_s);
+    Invoice.fgInvoice.SetText(row, 1, u"Crate"_s);
+    Invoice.fgInvoice.SetText(row, 3, u"$1.00"_s);
+    Invoice.fgInvoice.SetText(row, 4, u"$1.00"_s);
+    Invoice.fgInvoice.SetText(row, 5, u"False"_s);
+  }
+  Invoice.LineCount = static_cast<qint16>(lines);
 }
 
 QStringList InvoiceBench::Row(int row) const {

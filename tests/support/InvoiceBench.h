@@ -19,6 +19,7 @@
 #include "shell/CommonDialog.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/Screens.h"
+#include "support/Bytes.h"
 #include "support/FailingDevice.h"
 #include "support/FixedClock.h"
 #include "support/QueuedAnswers.h"
@@ -59,6 +60,10 @@ class InvoiceBench {
   void Open();
   /// The same, then Continue: the creation view.
   void OpenAtLines();
+  /// The same, then an entry of the menu.
+  void OpenAt(const QString& entry);
+  /// Puts this many lines of $1.00 into the grid, past the screen.
+  void FillGrid(int lines);
   /// Leaves the screen by its window and shows it anew, as the next invoice.
   void Reopen();
 
@@ -103,10 +108,3 @@ class InvoiceBench {
   std::unique_ptr<frmInvoice> m_screen;
   std::unique_ptr<ScreenDriver> m_driver;
 };
-
-/// A record's text field.
-QByteArray Field(const QByteArray& text, int width);
-/// Little-endian bytes of a number as a record holds it; amounts in ten-thousandths.
-QByteArray Bytes16(int number);
-QByteArray Bytes32(int number);
-QByteArray Bytes64(qint64 number);

@@ -57,3 +57,11 @@ QStringList RecordingPrinter::Words(std::size_t page) const {
   for (const PaperText& run : Texts(page)) words.append(run.Text);
   return words;
 }
+
+QStringList RecordingPrinter::SoldToBlock() const {
+  QStringList block;
+  for (const PaperText& text : Texts(1)) {
+    if (block.isEmpty() ? text.Text == u"SOLD TO:" : text.X == 1080.0F && text.Y < 4800.0F) block.append(text.Text);
+  }
+  return block;
+}

@@ -28,6 +28,8 @@ class RecordingPrinter final : public PaperSurface {
   std::vector<PaperText> Find(const QString& text) const;
   /// All texts of a page, in the order of printing.
   QStringList Words(std::size_t page) const;
+  /// The sold-to block of page 1 as printed, line by line.
+  QStringList SoldToBlock() const;
 
  protected:
   void SendJob(const PaperJob& job) override;
