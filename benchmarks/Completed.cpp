@@ -48,7 +48,8 @@ struct Business {
     for (int i = 0; i < invoices; ++i) {
       // Not by the checked writer, which brings each to the disk.
       QFile file(Tree.path() + u"/CompletedInvoices/%1.txt"_s.arg(20260001 + i));
-      if (file.open(QIODevice::WriteOnly)) file.write(Image(i));
+      const QByteArray image = Image(i);
+      MustHold(file.open(QIODevice::WriteOnly) && file.write(image) == image.size(), u"the images are written"_s);
     }
   }
 
@@ -88,14 +89,16 @@ void MeasureCompleted() {
   QtDialogs dialogs;
   CompletedInvoices list;
   const QByteArray folder = large.Tree.path().toLocal8Bit() + "/CompletedInvoices";
-  Report(u"list of 10,000 completed invoices, over opening each and five lines"_s,
-         MediansOf(
-             7, [&] { LoadCompletedInvoices(list, large.Disk); }, [&] { ReadFiveLinesOfEach(folder); }),
-         2);
+  const Pair listing = MediansOf(
+      7, [&] { LoadCompletedInvoices(list, large.Disk); }, [&] { ReadFiveLinesOfEach(folder); });
+  MustHold(list.fgReceivables.Rows() == Many + 1, u"every completed invoice is listed"_s);
+  Report(u"list of 10,000 completed invoices, over opening each and five lines"_s, listing, 2);
 
   CompletedInvoice shown;
   const auto open = [&shown](Business& business) {
-    Repeat([&] { OpenCompletedInvoice(shown, business.Disk, u"20260005"_s, u"1/1/2020"_s); });
+    Repeat([&] {
+      MustHold(OpenCompletedInvoice(shown, business.Disk, u"20260005"_s, u"1/1/2020"_s), u"the invoice opens"_s);
+    });
   };
   Report(u"200 clicks on one of 10,000 completed invoices, over one of ten"_s,
          MediansOf(
@@ -104,7 +107,7 @@ void MeasureCompleted() {
 
   const auto menu = [&dialogs](Business& business) {
     const MainMenuContext context{business.Disk, dialogs, {}, [] { return 0; }, {}};
-    Repeat([&] { UpdateMainMenu(context); });
+    Repeat([&] { MustHold(UpdateMainMenu(context).Visible[2], u"the menu offers the completed invoices"_s); });
   };
   Report(u"200 times the main menu's tests, 10,000 completed invoices over ten"_s,
          MediansOf(

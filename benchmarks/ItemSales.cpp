@@ -92,6 +92,6 @@ void MeasureItemSales() {
   const auto pass = [&] { year.Pass(); };
   const Pair grid = MediansOf(
       11, [&] { year.Load(); }, pass);
-  if (!year.Agrees()) qFatal("the grid doesn't hold what the pass found");
+  MustHold(year.Agrees(), u"the grid holds what the pass found"_s);
   Report(u"the sales grid of 32,767 records and 510 names, over one look-up each"_s, grid, 3);
 }
