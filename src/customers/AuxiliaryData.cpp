@@ -1,5 +1,7 @@
 #include "customers/AuxiliaryData.h"
 
+#include <optional>
+
 #include "customers/CommonAccountRoutines.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
@@ -23,6 +25,15 @@ QString BoxFolder(const QString& account, int box) {
 
 QString BoxFile(const QString& account, int box) {
   return BoxFolder(account, box) + u"/Data.txt"_s;
+}
+
+QString ContentOf(CommonDiskRoutines& disk, const QString& file) {
+  ListReader reader = disk.OpenInputFile(file);
+  QString text;
+  while (!reader.AtEnd()) {
+    text += reader.ReadString() + u"\r\n"_s;
+  }
+  return text;
 }
 
 bool CanHaveFolders(const QString& account) {
@@ -62,19 +73,24 @@ void AuxiliaryData::LoadAuxData() {
   if (!CanHaveFolders(account)) {
     return;
   }
+  // A file that can't be read doesn't leave the boxes behind it empty: a save would then empty their files.
+  std::optional<RuntimeError> failed;
   for (int box = 0; box < AuxBoxCount; ++box) {
     const QString file = BoxFile(account, box);
-    if (!m_disk.FileExists(file)) {
-      continue;
+    try {
+      if (m_disk.FileExists(file)) {
+        m_view.SetAuxText(box, ContentOf(m_disk, file));
+      }
+    } catch (const RuntimeError& error) {
+      if (!failed) {
+        failed = error;
+      }
     }
-    ListReader reader = m_disk.OpenInputFile(file);
-    QString text;
-    while (!reader.AtEnd()) {
-      text += reader.ReadString() + u"\r\n"_s;
-    }
-    m_view.SetAuxText(box, text);
   }
   m_disk.CloseAllFiles();
+  if (failed) {
+    throw *failed;
+  }
 }
 
 void AuxiliaryData::SaveAuxData() {

@@ -29,7 +29,8 @@ class AuxiliaryData {
   void SaveAuxHeadings();
   /// Fills the boxes from the account's files; what it has none of is empty. Nothing where the boxes are retained: they
   /// keep what they hold of the account before. A comma breaks the line there, quotes around a field are lost, and each
-  /// save and load adds a line end; this is meant.
+  /// save and load adds a line end; this is meant. The error of a file that can't be read is thrown once the other
+  /// boxes are filled.
   void LoadAuxData();
   /// Makes the folders that are missing. Throws RuntimeError 64 for an account that can't name any; 61, 70 or 75 with
   /// each file as it was or as it is to be.

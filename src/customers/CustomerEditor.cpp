@@ -6,7 +6,6 @@
 #include "runtime/CodePage.h"
 #include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
-#include "runtime/RuntimeError.h"
 #include "setup/BusinessProfile.h"
 #include "shell/CommonDiskRoutines.h"
 
@@ -37,12 +36,11 @@ CustomerEditor::CustomerEditor(CommonDiskRoutines& disk, Dialogs& dialogs, const
                                CustomerOnScreen& onScreen, CustomerView& view)
     : m_disk(disk), m_dialogs(dialogs), m_profile(profile), m_onScreen(onScreen), m_view(view), m_file(disk) {}
 
-void CustomerEditor::Open() {
+std::optional<RuntimeError> CustomerEditor::Open() {
   if (m_file.Exists()) {
     CountCustomers();
     BuildAccountList();
-    LoadCustomer();
-    return;
+    return ShowCustomer();
   }
   m_dialogs.ShowMessage(
       u"Your Customer File is Empty\nCreate your First Customer Now\nTo create a Residential Account,\n"
@@ -51,6 +49,7 @@ void CustomerEditor::Open() {
   m_customerCount = 1;
   SetPointer(1);
   StartBlankRecord({});
+  return std::nullopt;
 }
 
 void CustomerEditor::DecideAddressStyle() {
@@ -77,6 +76,13 @@ void CustomerEditor::BlankBoxes() {
 }
 
 void CustomerEditor::LoadCustomer() {
+  if (const std::optional<RuntimeError> failed = ShowCustomer()) {
+    throw *failed;
+  }
+}
+
+/// Answers the error of the auxiliary boxes: the customer himself is shown whole.
+std::optional<RuntimeError> CustomerEditor::ShowCustomer() {
   BlankBoxes();
   m_view.HideSearchFrames();
   m_file.Read(m_customerPointer);
@@ -95,13 +101,23 @@ void CustomerEditor::LoadCustomer() {
   m_view.SetText(CustomerBox::txtCustomer5, postal);
   m_view.SetText(CustomerBox::txtAdd4, postal);
   m_acctFlagValue = record.AcctFlag();
-  m_view.LoadAuxiliaryBoxes();
+  const std::optional<RuntimeError> failed = FillAuxiliaryBoxes();
   if (Text(CustomerBox::txtCustomer0).isEmpty()) {
     m_view.FocusOn(CustomerBox::txtCustomer0);
   } else {
     m_view.FocusOnSelect();
   }
   ShowCaption();
+  return failed;
+}
+
+std::optional<RuntimeError> CustomerEditor::FillAuxiliaryBoxes() {
+  try {
+    m_view.LoadAuxiliaryBoxes();
+    return std::nullopt;
+  } catch (const RuntimeError& error) {
+    return error;
+  }
 }
 
 void CustomerEditor::SaveCustomer() {
@@ -250,12 +266,15 @@ void CustomerEditor::DeleteCustomer() {
     --m_customerCount;
   }
   SetPointer(qMin(m_customerPointer, m_customerCount));
-  LoadCustomer();
+  const std::optional<RuntimeError> unread = ShowCustomer();
   m_view.FocusOn(CustomerBox::txtCustomer0);
   BuildAccountList();
   if (failed) {
     throw failed->WithAdvice(
         u"The customer is gone from the file all the same: don't delete again. Nothing else was lost."_s);
+  }
+  if (unread) {
+    throw *unread;
   }
 }
 

@@ -2,11 +2,13 @@
 /// lists and messages are here; the screen shows what this tells it to.
 #pragma once
 
+#include <optional>
 #include <QSet>
 
 #include "customers/CustomerFile.h"
 #include "customers/CustomerOnScreen.h"
 #include "customers/CustomerView.h"
+#include "runtime/RuntimeError.h"
 #include "shell/Screens.h"
 
 class CommonDiskRoutines;
@@ -19,14 +21,16 @@ class CustomerEditor {
                  CustomerView& view);
 
   /// Each showing of the screen, from its blanked boxes on: counts, lists and shows the customer, or starts the first
-  /// one where there is no file.
-  void Open();
+  /// one where there is no file. The error of an auxiliary file that can't be read is answered and not thrown: the
+  /// screen comes up with the customer all the same.
+  std::optional<RuntimeError> Open();
   /// The address style is Setup's, taken over at each showing and whenever it is toggled there.
   void DecideAddressStyle();
   void UseAddressStyle(bool usa);
 
   void CountCustomers();
   void BlankBoxes();
+  /// Shows the customer at the pointer. The error of an auxiliary file is thrown once all the rest is shown.
   void LoadCustomer();
   /// Checks the boxes and writes the record; `SaveAccepted` tells of it. Throws RuntimeError 61, 70 or 75, with the
   /// record as it was and the boxes as typed.
@@ -87,6 +91,8 @@ class CustomerEditor {
   bool CheckFileName();
   void FillBuffer();
   void StartBlankRecord(const QString& telephone);
+  std::optional<RuntimeError> ShowCustomer();
+  std::optional<RuntimeError> FillAuxiliaryBoxes();
   void ShowCaption();
 
   CommonDiskRoutines& m_disk;

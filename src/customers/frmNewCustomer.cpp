@@ -64,7 +64,9 @@ void frmNewCustomer::Activate() {
   setWindowTitle(u"Managing Account Data"_s);
   m_ui->mnuCust->menuAction()->setVisible(true);
   setWindowTitle(u"Select Customer for "_s + windowTitle());
-  m_editor.Open();
+  if (const std::optional<RuntimeError> unread = m_editor.Open()) {
+    Run([&unread] { throw *unread; });  // Told, and the screen comes up.
+  }
 }
 
 void frmNewCustomer::ConnectButtons() {

@@ -14,6 +14,30 @@ class AuxiliaryDataTest : public QObject {
     desk.Driver().Trigger(u"mnuAux"_s);
   }
   static QString Aux(const CustomerDesk& desk, int box) { return desk.Text(u"txtAux_%1"_s.arg(box)); }
+  using Step = std::function<void(CustomerDesk&)>;
+  /// Three customers, of whom the second and the first have two boxes with a text each.
+  struct DeskWithBoxes : CustomerDesk {
+    DeskWithBoxes() : CustomerDesk(Many(3)) {
+      for (const QString& account : {u"1"_s, u"2"_s}) {
+        Program.Tree.Write(File(account, 0), "unreadable\r\n");
+        Program.Tree.Write(File(account, 1), "other\r\n");
+      }
+    }
+  };
+  /// Which opening of a file it is that opens box 0 of the account while `act` runs, from 1: told by a run without any
+  /// failure of it, on a desk of its own.
+  static int OpeningOf(const QString& account, const Step& prepare, const Step& act) {
+    DeskWithBoxes desk;
+    prepare(desk);
+    act(desk);
+    const QStringList opened = desk.Program.Files.PathsOf(FailingDevice::Call::Open);
+    return static_cast<int>(opened.indexOf(desk.Program.Tree.Path(File(account, 0)))) + 1;
+  }
+  static QString ToldOf(const CustomerDesk& desk, const QString& account) {
+    return desk.Program.Tree.Path(File(account, 0)) +
+           u": The file or its folder is write-protected or may not be used. (error 70)\n\nCheck that you may read and "_s
+           u"write the file and its folder, then try again. Nothing was lost."_s;
+  }
   static void Type(const CustomerDesk& desk, int box, const QString& text) { desk.Fill(u"txtAux_%1"_s.arg(box), text); }
 
  private Q_SLOTS:
@@ -155,6 +179,91 @@ class AuxiliaryDataTest : public QObject {
     QCOMPARE(desk.Text(u"lblAccount"_s), u"Name 1"_s);
     desk.Click(u"cmdNav_2"_s);
     QCOMPARE(Aux(desk, 0), QString());
+  }
+
+  void aBoxThatCannotBeReadLeavesTheCustomerShownWhole() {
+    const Step prepare = [](CustomerDesk& desk) {
+      OpenAux(desk);
+      desk.Program.Files.Reset();
+    };
+    const Step act = [](CustomerDesk& desk) { desk.Click(u"cmdNav_2"_s); };
+    const int opening = OpeningOf(u"2"_s, prepare, act);
+    QVERIFY(opening > 0);
+    DeskWithBoxes desk;
+    prepare(desk);
+    desk.Program.Files.AlsoFailAt(FailingDevice::Call::Open, opening, EACCES);
+    desk.Program.Answers.Ok();
+    act(desk);
+    QCOMPARE(desk.Program.Answers.Last().Text, ToldOf(desk, u"2"_s));
+    QCOMPARE(desk.Box(0), u"2"_s);
+    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 2"_s);
+    QCOMPARE(desk.Focus(), u"cmdCustomer_1"_s);
+    QCOMPARE(Aux(desk, 0), QString());
+    QVERIFY2(Aux(desk, 1) == u"other\n"_s, "the boxes behind it are filled: a save would empty their files");
+    desk.Click(u"cmdSaveAux_3"_s);
+    QCOMPARE(Aux(desk, 0), u"unreadable\n"_s);
+  }
+
+  void aBoxThatCannotBeReadLetsTheScreenComeUp() {
+    const Step prepare = [](CustomerDesk& desk) {
+      desk.Program.StartAtMenu();
+      desk.Program.Files.Reset();
+    };
+    const Step act = [](CustomerDesk& desk) { desk.GoFromMenu(); };
+    const int opening = OpeningOf(u"1"_s, prepare, act);
+    QVERIFY(opening > 0);
+    DeskWithBoxes desk;
+    prepare(desk);
+    desk.Program.Files.AlsoFailAt(FailingDevice::Call::Open, opening, EACCES);
+    desk.Program.Answers.Ok();
+    act(desk);
+    QCOMPARE(desk.Program.Answers.Last().Text, ToldOf(desk, u"1"_s));
+    QVERIFY(desk.Shown());
+    QVERIFY(!ScreenDriver::IsShown(u"frmStartup"_s));
+    QVERIFY(!desk.Program.Running().HasEnded());
+    QCOMPARE(desk.Box(0), u"1"_s);
+    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 1"_s);
+    desk.Click(u"cmdNav_2"_s);
+    QCOMPARE(desk.Box(0), u"2"_s);
+  }
+
+  void aBoxThatCannotBeReadAfterADeleteLeavesTheListRight_data() {
+    QTest::addColumn<bool>("deleteFails");
+    QTest::newRow("the delete is done") << false;
+    QTest::newRow("the delete has its own failure, which is told") << true;
+  }
+  void aBoxThatCannotBeReadAfterADeleteLeavesTheListRight() {
+    QFETCH(bool, deleteFails);
+    const Step prepare = [deleteFails](CustomerDesk& desk) {
+      desk.Open();
+      desk.Program.Files.Reset();
+      if (deleteFails) desk.Program.Files.FailAt(FailingDevice::Call::FlushFolder, 2, EIO);
+    };
+    const auto deleteFirst = [](CustomerDesk& desk, bool told) {
+      desk.Program.Answers.Yes(u"Delete this Customer"_s);
+      if (told) desk.Program.Answers.Ok();
+      desk.Driver().Trigger(u"mnuDelete"_s);
+    };
+    const int opening = OpeningOf(u"2"_s, prepare, [&](CustomerDesk& desk) { deleteFirst(desk, deleteFails); });
+    QVERIFY(opening > 0);
+    DeskWithBoxes desk;
+    prepare(desk);
+    desk.Program.Files.AlsoFailAt(FailingDevice::Call::Open, opening, EACCES);
+    deleteFirst(desk, true);
+    const QString told = desk.Program.Answers.Last().Text;
+    if (deleteFails) {
+      QVERIFY2(told.contains(u"(error 75)"_s) && told.contains(u"The customer is gone from the file all the same"_s),
+               qPrintable(told));
+    } else {
+      QCOMPARE(told, ToldOf(desk, u"2"_s));
+    }
+    QCOMPARE(desk.Box(0), u"2"_s);
+    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 1"_s);
+    QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
+    const auto* list = desk.Driver().Control<QComboBox>(u"cboAccounts"_s);
+    QCOMPARE(list->count(), 2);
+    QCOMPARE(list->itemText(0), u"Name 2"_s);
+    QCOMPARE(list->itemText(1), u"Name 3"_s);
   }
 
   void movingSavesNoAuxiliaryData() {
