@@ -6,6 +6,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "shell/CommonDiskRoutines.h"
+#include "shell/ErrorText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,24 +66,42 @@ void ShowRecord(TextMatrix& grid, int row, const RecordView& record, const QStri
   grid.SetText(row, LineColumn::ApplyTax, record.Text(65, 5));
 }
 
-/// The failure of a load with what the user can do about it. The usual words would be untrue: no start of the program
-/// makes the folder, and the invoice was cleared before.
+/// After a delete nothing is selected while the buttons stay enabled.
+bool IsSelected(const TemplateDesk& desk, const QString& fileName) {
+  if (fileName.isEmpty())
+    Tell(desk.Invoice, desk.Boxes, u"Select a Template in the list first"_s, u"No Template selected"_s);
+  return !fileName.isEmpty();
+}
+
+/// The failure of a load with what the user can do about it. The usual words alone would be untrue: no start of the
+/// program makes the folder, what is damaged may stand in either of two files, and the invoice was cleared before.
 RuntimeError LoadFailure(const RuntimeError& error, const CommonDiskRoutines& disk, const QString& fileName) {
   const QString opened = disk.PathOf(OpenedName(fileName));
   const QString counted = disk.PathOf(CountedName(fileName));
   QString subject = error.Subject().startsWith(u'\\') ? disk.PathOf(error.Subject()) : error.Subject();
   QString text = error.Text();
-  QString advice =
-      u"A template is read from %1, and its lines are counted in %2: put the same good file in both "
-      "places, then load it again."_s.arg(opened, counted);
-  if (error.Number() == ErrorNumber::PathNotFound) {
-    advice =
-        u"The program doesn't make that folder. Make it, put a copy of %1 there as %2, then load the template "
-        "again."_s.arg(counted, fileName);
-  } else if (error.Number() == ErrorNumber::OutOfRange) {
-    subject = counted;
-    text = u"It counts more lines than the %1 of an invoice."_s.arg(MaximumLines);
-    advice = u"Remove the file and save the template anew, then copy it and load it again."_s;
+  QString advice;
+  switch (error.Number()) {
+    case ErrorNumber::PathNotFound:
+      advice =
+          u"The program doesn't make that folder. Make it, put a copy of %1 there as %2, then load the template "
+          "again."_s.arg(counted, fileName);
+      break;
+    case ErrorNumber::OutOfRange:
+      subject = counted;
+      text = u"It counts more lines than the %1 of an invoice."_s.arg(MaximumLines);
+      advice = u"Remove the file and save the template anew, then copy it and load it again."_s;
+      break;
+    case ErrorNumber::TypeMismatch:
+    case ErrorNumber::InputPastEnd:
+    case ErrorNumber::Overflow:
+      if (!subject.startsWith(u'/')) subject = opened;  // An extension too large to be written names no file.
+      advice =
+          u"A template is read from %1, and its lines are counted in %2: put the same good file in both "
+          "places, then load it again."_s.arg(opened, counted);
+      break;
+    default:
+      advice = UsualRemedy(error);
   }
   return RuntimeError(error.Number(), subject, text)
       .WithAdvice(advice + u" The invoice was cleared for the load: enter again what it held."_s);
@@ -102,10 +121,12 @@ QString TemplateFolder() {
   return u"\\KarvexInvoicer\\Templates\\Invoices"_s;
 }
 
-void LoadTemplate(const TemplateDesk& desk, const QString& fileName) {
+bool LoadTemplate(const TemplateDesk& desk, const QString& fileName) {
+  if (!IsSelected(desk, fileName)) return false;
   ClearInvoice(desk.Invoice, desk.Today);
   try {
     LoadRecords(desk, fileName);
+    return true;
   } catch (const RuntimeError& error) {
     // A load that fails on the way must not leave a count of lines that aren't there.
     ClearGrid(desk.Invoice);
@@ -140,6 +161,7 @@ bool SaveAsTemplate(const TemplateDesk& desk) {
 }
 
 bool DeleteTemplate(const TemplateDesk& desk, const QString& fileName) {
+  if (!IsSelected(desk, fileName)) return false;
   desk.Invoice.Show();
   if (!desk.Boxes.AskOkCancel(u"This will Delete Template\r\n"_s + fileName, u"Template Deletion"_s)) return false;
   const QString name = TemplateFolder() + u'\\' + fileName;

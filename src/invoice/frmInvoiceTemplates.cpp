@@ -12,8 +12,9 @@ using namespace Qt::StringLiterals;
 void frmInvoice::WireTemplates() {
   const auto desk = [this] { return TemplateDesk{m_invoice, m_desk.Disk, m_desk.Boxes, m_desk.Today}; };
   const auto selected = [this] {
-    const QListWidgetItem* item = ui->flstInvoiceTemplates->currentItem();
-    return item == nullptr ? QString() : item->text();
+    // Not the current item: tabbing into the list makes its first one current and selects none.
+    const QList<QListWidgetItem*> items = ui->flstInvoiceTemplates->selectedItems();
+    return items.isEmpty() ? QString() : items.first()->text();
   };
   On(ui->flstInvoiceTemplates, &QListWidget::itemSelectionChanged, [this] {
     if (ui->flstInvoiceTemplates->selectedItems().isEmpty()) return;
@@ -21,8 +22,7 @@ void frmInvoice::WireTemplates() {
     ui->cmdTemplate_1->setEnabled(true);
   });
   Click(ui->cmdTemplate_0, [this, desk, selected] {
-    LoadTemplate(desk(), selected());
-    Continue();
+    if (LoadTemplate(desk(), selected())) Continue();
   });
   Click(ui->cmdTemplate_1, [this, desk, selected] {
     if (!DeleteTemplate(desk(), selected())) return;

@@ -45,6 +45,10 @@ QString WhatToDo(const RuntimeError& error) {
 
 }  // namespace
 
+QString UsualRemedy(const RuntimeError& error) {
+  return WhatToDo(error).remove(u"Nothing was lost."_s).trimmed();
+}
+
 QString ErrorBoxText(const RuntimeError& error, bool ends) {
   QString text = error.Text();
   if (!error.Subject().isEmpty()) text = error.Subject() + u": "_s + text;

@@ -18,6 +18,8 @@ const QString Delete = u"cmdTemplate_1"_s;
 const QString Save = u"cmdTemplate_2"_s;
 const QString ExistsTitle = u"Template Exists"_s;
 const QString ExistsText = u"A Template Named Monthlyalready Exists.\nPress Yes to Replace the Existing Template"_s;
+const QString NotSelectedText = u"Select a Template in the list first"_s;
+const QString NotSelectedTitle = u"No Template selected"_s;
 const QStringList Blank{QString(), QString(), QString(), QString(), QString(), QString()};
 
 QByteArray Line(const QByteArray& quantity, const QByteArray& description, const QByteArray& price,
@@ -66,6 +68,7 @@ class ScreenTemplates : public QObject {
 
  private Q_SLOTS:
   void theLinesWithAQuantityAreSaved();
+  void linesOfNoPositiveQuantityStayOut();
   void theInputBoxAsksInTheseWords();
   void anEmptyNameSavesNothing();
   void cancelSavesNothing();
@@ -83,6 +86,9 @@ class ScreenTemplates : public QObject {
   void loadingWithoutTheFolderIsError76AndTheProgramGoesOn();
   void loadingShowsTheLinesAndContinues();
   void loadingReplacesTheLines();
+  void loadingTakesChargesTotalsNarrativeAndReferenceAway();
+  void afterADeleteNothingIsSelectedAndLoadAndDeleteSaySo();
+  void theRowThatTheTabKeyComesToIsNotSelected();
   void savingALoadedTemplateCutsThePricesFirstDigit();
   void aTemplateOfNoRecordsLoadsAnEmptyInvoice();
   void aPriceThatIsNoNumberIsError13AndLeavesNoLines();
@@ -116,6 +122,18 @@ void ScreenTemplates::theLinesWithAQuantityAreSaved() {
   // Beside the folder, not in it.
   QCOMPARE(bench.Tree.List(u"/KarvexInvoicer/Templates"_s), QStringList({u"Invoices/"_s, u"InvoicesMonthly.txt"_s}));
   QCOMPARE(bench.Tree.List(u"/KarvexInvoicer/Templates/Invoices"_s), QStringList{});
+}
+
+void ScreenTemplates::linesOfNoPositiveQuantityStayOut() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  for (const QString& name : {u"None"_s, u"Crate"_s, u"Back"_s, u"Word"_s}) Post(bench, name, u"1"_s, u"10"_s);
+  // As a partial invoice may bring them.
+  bench.Invoice.fgInvoice.SetText(1, 0, u"0"_s);
+  bench.Invoice.fgInvoice.SetText(3, 0, u"-2"_s);
+  bench.Invoice.fgInvoice.SetText(4, 0, u"two"_s);
+  SaveAs(bench, u"Monthly"_s);
+  QCOMPARE(bench.Tree.Bytes(Saved), Line("1", "Crate", "10.00", "False"));
 }
 
 void ScreenTemplates::theInputBoxAsksInTheseWords() {
@@ -338,6 +356,90 @@ void ScreenTemplates::loadingReplacesTheLines() {
   bench.On().Click(Load);
   QCOMPARE(bench.Row(1).at(1), u"Hammer"_s);
   QCOMPARE(bench.Row(2), Blank);
+}
+
+void ScreenTemplates::loadingTakesChargesTotalsNarrativeAndReferenceAway() {
+  InvoiceBench bench;
+  WriteTemplate(bench, Line("3", "Hammer", "12.00", "True"));
+  bench.OpenAtLines();
+  Post(bench, u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().Trigger(u"mnuNarrative"_s);
+  bench.On().Fill(u"txtNarrative"_s, u"Replaced the pump"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().Fill(u"txtMisc"_s, u"3"_s);
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$18.00"_s);
+  QCOMPARE(bench.Invoice.txtNarrative, u"Replaced the pump"_s);
+  bench.On().Trigger(u"mnuSetup"_s);
+  bench.On().Fill(u"txtReference"_s, u"PO 5"_s);
+  ClickTemplate(bench, 0);
+  bench.On().Click(Load);
+  QCOMPARE(bench.Around.Errors, QList<int>{});
+  for (const auto& box : {u"txtShip"_s, u"txtMisc"_s, u"txtTotal"_s, u"txtGrandTotal"_s}) {
+    QCOMPARE(bench.Text(box), u"$0.00"_s);
+  }
+  for (const Currency held :
+       {bench.Invoice.ShipCharge, bench.Invoice.MiscCharge, bench.Invoice.SubTotal, bench.Invoice.GrandTotal}) {
+    QCOMPARE(held, Currency());
+  }
+  QCOMPARE(bench.Text(u"txtNarrative"_s), QString());
+  // Continue gives the blank reference its default.
+  QCOMPARE(bench.Text(u"txtReference"_s), u"Prepared 3/7/2026"_s);
+}
+
+void ScreenTemplates::afterADeleteNothingIsSelectedAndLoadAndDeleteSaySo() {
+  InvoiceBench bench;
+  bench.Tree.Write(Listed, "");
+  bench.Tree.Write(u"/KarvexInvoicer/Templates/Invoices/Yearly.txt"_s, "");
+  bench.OpenAtLines();
+  Post(bench, u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().Trigger(u"mnuSetup"_s);
+  bench.On().Fill(u"txtReference"_s, u"PO 5"_s);
+  ClickTemplate(bench, 0);
+  bench.Answers.Ok();
+  bench.On().Click(Delete);
+  const auto before = bench.Tree.Everything();
+  bench.Answers.Ok(NotSelectedText, NotSelectedTitle);
+  bench.On().Click(Load);
+  bench.Answers.Ok(NotSelectedText, NotSelectedTitle);
+  bench.On().Click(Delete);
+  QCOMPARE(bench.Around.Errors, QList<int>{});
+  QCOMPARE(bench.Tree.Everything(), before);
+  QCOMPARE(bench.Row(1).at(1), u"Crate"_s);
+  QCOMPARE(bench.Invoice.LineCount, 1);
+  QCOMPARE(bench.Text(u"txtReference"_s), u"PO 5"_s);
+  QVERIFY(bench.On().IsVisible(u"fraSetup"_s));
+  // A click helps, as the box says.
+  ClickTemplate(bench, 0);
+  bench.Answers.Ok(u"This will Delete Template\nYearly.txt"_s, u"Template Deletion"_s);
+  bench.On().Click(Delete);
+  QVERIFY(!bench.Tree.Exists(u"/KarvexInvoicer/Templates/Invoices/Yearly.txt"_s));
+}
+
+void ScreenTemplates::theRowThatTheTabKeyComesToIsNotSelected() {
+  InvoiceBench bench;
+  bench.Tree.Write(Listed, "");
+  bench.Tree.Write(u"/KarvexInvoicer/Templates/Invoices/Yearly.txt"_s, "");
+  bench.OpenAtLines();
+  Post(bench, u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().Trigger(u"mnuSetup"_s);
+  ClickTemplate(bench, 0);
+  bench.Answers.Ok();
+  bench.On().Click(Delete);
+  bench.On().Fill(u"txtReference"_s, u"PO 5"_s);
+  bench.On().PressKey(Qt::Key_Tab);
+  QCOMPARE(bench.On().FocusName(), List);
+  const auto* list = bench.On().Control<QListWidget>(List);
+  QVERIFY(list->currentItem() != nullptr);
+  QVERIFY(list->selectedItems().isEmpty());
+  for (const QString& button : {Load, Delete}) {
+    bench.Answers.Ok(NotSelectedText, NotSelectedTitle);
+    bench.On().Click(button);
+  }
+  QCOMPARE(bench.Row(1).at(1), u"Crate"_s);
+  QCOMPARE(bench.Around.Errors, QList<int>{});
+  QVERIFY(bench.Tree.Exists(u"/KarvexInvoicer/Templates/Invoices/Yearly.txt"_s));
 }
 
 void ScreenTemplates::savingALoadedTemplateCutsThePricesFirstDigit() {

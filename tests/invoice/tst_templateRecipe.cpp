@@ -68,6 +68,9 @@ class TemplateRecipe : public QObject {
   void withoutTheFolderTheBoxNamesItAndWhatToPutThere();
   void withoutTheCopyToReadTheBoxNamesBothFiles();
   void aTemplateThatIsDamagedNamesBothFiles();
+  void anExtensionTooLargeNamesBothFiles();
+  void aDiskThatFailsIsToldAsOneAndThatTheInvoiceIsCleared_data();
+  void aDiskThatFailsIsToldAsOneAndThatTheInvoiceIsCleared();
   void aTemplateOfTooManyLinesNamesTheFileThatCountsThem();
   void aNameWithASeparatorIsToldAsOne();
 };
@@ -176,6 +179,48 @@ void TemplateRecipe::aTemplateThatIsDamagedNamesBothFiles() {
           u"from "_s +
           tree.Path(Opened) + u", and its lines are counted in "_s + tree.Path(Saved) +
           u": put the same good file in both places, then load it again."_s + Cleared);
+}
+
+void TemplateRecipe::anExtensionTooLargeNamesBothFiles() {
+  InvoicingDesk desk;
+  const TemporaryTree& tree = desk.Program.Tree;
+  QByteArray large = Hammers;
+  large.replace("3    ", "1E300");
+  large.replace("12.00", "1E300");
+  for (const QString& name : {Listed, Saved, Opened}) tree.Write(name, large);
+  QVERIFY(desk.Program.StartAtMenu());
+  const QString box = BoxOfTheLoad(desk);
+  QVERIFY2(box.startsWith(tree.Path(Opened) + u": "_s) && box.contains(u"(error 6)"_s) && box.endsWith(Cleared),
+           qPrintable(box));
+  QVERIFY(box.contains(u"its lines are counted in "_s + tree.Path(Saved) + u": put the same good file in both"_s));
+}
+
+void TemplateRecipe::aDiskThatFailsIsToldAsOneAndThatTheInvoiceIsCleared_data() {
+  QTest::addColumn<int>("error");
+  QTest::addColumn<QString>("told");
+  QTest::newRow("unreadable") << EACCES
+                              << u"The file or its folder is write-protected or may not be used. (error 70)"_s;
+  QTest::newRow("broken") << EIO << u"The file or folder can't be used. (error 75)"_s;
+}
+
+void TemplateRecipe::aDiskThatFailsIsToldAsOneAndThatTheInvoiceIsCleared() {
+  QFETCH(int, error);
+  QFETCH(QString, told);
+  InvoicingDesk desk;
+  const TemporaryTree& tree = desk.Program.Tree;
+  for (const QString& name : {Listed, Saved, Opened}) tree.Write(name, Hammers);
+  QVERIFY(desk.Program.StartAtMenu());
+  OpenWithALine(desk);
+  desk.Program.Files.FailAlways(FailingDevice::Call::Read, error);
+  desk.Program.Answers.Ok();
+  LoadTemplate();
+  desk.Program.Files.Reset();
+  QCOMPARE(desk.Program.Answers.Last().Text,
+           tree.Path(Opened) + u": "_s + told +
+               u"\n\nCheck that you may read and write the file and its folder, then try again."_s + Cleared);
+  QCOMPARE(InvoicingDesk::Line(1), QStringList(6, QString()));
+  LoadTemplate();
+  QCOMPARE(InvoicingDesk::Line(1).at(1), u"Hammer"_s);
 }
 
 void TemplateRecipe::aTemplateOfTooManyLinesNamesTheFileThatCountsThem() {
