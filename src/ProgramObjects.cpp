@@ -5,7 +5,7 @@
 
 Program::Objects::Objects(const Platform& platform)
     : On(platform),
-      Store(*platform.Files),
+      Store(*platform.Files, platform.DataRoot),
       Disk(Store, platform.DataRoot, platform.EXEName),
       Instance(Store, platform.LockFolder, platform.DataRoot),
       Prices(Disk, Lists, SalesItems),

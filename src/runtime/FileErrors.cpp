@@ -7,6 +7,8 @@
 
 #include "runtime/RuntimeError.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool IsKind(const QString& path, mode_t kind) {
@@ -55,6 +57,17 @@ void RaiseFileError(qint64 result, const QString& path) {
 
 void CheckFile(qint64 result, const QString& path) {
   if (result < 0) RaiseFileError(result, path);
+}
+
+void RaiseLinkedFolder(const QString& path) {
+  throw RuntimeError(ErrorNumber::PathFileAccess, path,
+                     u"It is a link to another place, and the program changes nothing outside its own folder."_s)
+      .WithAdvice(u"Put a folder with what the link leads to in the link's place, then try again. Nothing was lost."_s);
+}
+
+void CheckNoLink(const QString& path) {
+  struct stat status;
+  if (::lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISLNK(status.st_mode)) RaiseLinkedFolder(path);
 }
 
 void CheckFolder(qint64 result, const QString& path) {

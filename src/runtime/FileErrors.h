@@ -14,3 +14,7 @@ QString FolderOf(const QString& path);
 void CheckFile(qint64 result, const QString& path);
 /// For a folder: what isn't there is error 76, not 53.
 void CheckFolder(qint64 result, const QString& path);
+
+/// A folder that is a symbolic link to elsewhere: error 75 with its own words. `Check` lets pass what is none.
+[[noreturn]] void RaiseLinkedFolder(const QString& path);
+void CheckNoLink(const QString& path);

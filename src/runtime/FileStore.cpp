@@ -199,6 +199,12 @@ QByteArray FileStore::ReadLines(const QString& path, int lines) const {
   return bytes;
 }
 
+void FileStore::RequireInTree(const QString& path) const {
+  if (m_tree.isEmpty() || !path.startsWith(m_tree + u'/')) return;
+  qsizetype end = m_tree.size() + 1;
+  while ((end = path.indexOf(u'/', end)) >= 0) CheckNoLink(path.left(end++));
+}
+
 void FileStore::WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content) {
   const int descriptor = m_device.Open(temporary, FileDevice::OpenMode::WriteNew);
   CheckFile(descriptor, path);
@@ -210,6 +216,7 @@ void FileStore::WriteTemporary(const QString& temporary, const QString& path, co
 }
 
 void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
+  RequireInTree(path);
   // A rename would replace a write-protected file as well; the protection is somebody's wish.
   const int mayWrite = m_device.MayWrite(path);
   if (mayWrite != -ENOENT) CheckFile(mayWrite, path);
@@ -227,6 +234,7 @@ void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
 }
 
 void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArray& bytes) {
+  RequireInTree(path);
   const bool isNew = !IsFile(path);
   int descriptor = m_device.Open(path, FileDevice::OpenMode::Update);
   if (descriptor == -ELOOP) {
@@ -269,17 +277,21 @@ void FileStore::Copy(const QString& from, const QString& to) {
 }
 
 void FileStore::Rename(const QString& from, const QString& to) {
+  RequireInTree(from);
+  RequireInTree(to);
   CheckFile(m_device.Rename(from, to), from);
   FlushFolderOf(m_device, to);
 }
 
 void FileStore::Remove(const QString& path) {
+  RequireInTree(path);
   const int result = m_device.Remove(path);
   if (result < 0 && result != -ENOENT && result != -ENOTDIR) RaiseFileError(result, path);
 }
 
 void FileStore::MakeFolder(const QString& path) {
   // Nearly always it is there: one look is cheaper than an attempt, which would have to look afterwards as well.
+  RequireInTree(path + u'/');
   if (IsFolder(path)) return;
   CheckFolder(m_device.MakeFolder(path), path);
 }

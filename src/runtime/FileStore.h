@@ -4,6 +4,9 @@
 /// A file is never half written: what replaces a file is written beside it, checked to the last byte, flushed,
 /// renamed over the old one, and the folder is flushed. Every failure throws a RuntimeError that names the path:
 /// 53 not found, 61 disk full, 70 permission denied, 75 any other access, 76 folder not found.
+///
+/// A store that knows its tree changes nothing outside it by a name inside it: a folder of the tree that is a symbolic
+/// link is refused (error 75 that names the link). Reading goes through links.
 #pragma once
 
 #include <QByteArray>
@@ -14,7 +17,8 @@
 
 class FileStore {
  public:
-  explicit FileStore(FileDevice& device) : m_device(device) {}
+  /// `tree` is absolute, without a trailing separator; without one no folder is refused.
+  explicit FileStore(FileDevice& device, QString tree = {}) : m_device(device), m_tree(std::move(tree)) {}
 
   FileDevice& Device() const { return m_device; }
   bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one.
@@ -49,7 +53,10 @@ class FileStore {
   void MakePath(const QString& path);    ///< The folder and those that lead to it.
 
  private:
+  /// Throws where a folder on the way from the tree to the path is a link.
+  void RequireInTree(const QString& path) const;
   bool PutBack(const QString& path, const QByteArray& before, qint64 offset, qint64 lengthBefore);
   void WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content);
   FileDevice& m_device;
+  QString m_tree;
 };

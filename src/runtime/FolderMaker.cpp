@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <QFile>
 
 #include "runtime/FileDevice.h"
@@ -22,7 +23,11 @@ QByteArray FolderMaker::Encoded(const QString& name) {
 }
 
 void FolderMaker::Make(const QByteArray& name) {
-  // With the separator behind it, only a folder answers to the name.
-  if (::faccessat(m_folder, name.constData(), F_OK, 0) == 0) return;
+  struct stat status;
+  if (::fstatat(m_folder, name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+    if (S_ISDIR(status.st_mode)) return;
+    // What would be made in it would lie elsewhere.
+    if (S_ISLNK(status.st_mode)) RaiseLinkedFolder(m_parent + u'/' + QFile::decodeName(name));
+  }
   CheckFolder(m_device.MakeFolderIn(m_folder, name.constData()), m_parent + u'/' + QFile::decodeName(name));
 }

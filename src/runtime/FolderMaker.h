@@ -15,8 +15,8 @@ class FolderMaker {
 
   /// A name as the file system spells it.
   static QByteArray Encoded(const QString& name);
-  /// Nothing if the folder is there. `name` is relative to the parent, encoded, and ends in a separator. Throws
-  /// RuntimeError 61, 70, 75 or 76.
+  /// Nothing if the folder is there. `name` is relative to the parent, encoded, without a separator behind it. Throws
+  /// RuntimeError 61, 70, 75 (also where a link to a folder stands in its place) or 76.
   void Make(const QByteArray& name);
 
  private:

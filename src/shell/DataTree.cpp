@@ -18,9 +18,9 @@ void MakeCustomerFolders(CommonDiskRoutines& disk) {
   for (int number = 1; number <= count; ++number) {
     const QString account = customers.Record(number).Text(0, 20);
     if (!CanNameAFile(account)) continue;
-    const QByteArray folder = FolderMaker::Encoded(account) + '/';
+    const QByteArray folder = FolderMaker::Encoded(account);
     folders.Make(folder);
-    for (char digit = '0'; digit <= '5'; ++digit) folders.Make(folder + "AuxFile" + digit + '/');
+    for (char digit = '0'; digit <= '5'; ++digit) folders.Make(folder + "/AuxFile" + digit);
   }
   disk.CloseAllFiles();
 }

@@ -29,7 +29,13 @@ bool PreviousInstance::Claim() {
     // The lock will tell.
   }
   if (m_lock->tryLock(0)) return true;
-  return m_lock->error() != QLockFile::LockFailedError;
+  if (m_lock->error() != QLockFile::LockFailedError) return true;
+  // A mark that tells of no program is one whose program was killed while it set it. The system's own lock on the file
+  // tells that from one that is being set just now, and keeps it.
+  qint64 process = 0;
+  QString host, program;
+  if (m_lock->getLockInfo(&process, &host, &program)) return false;
+  return m_lock->removeStaleLockFile() && m_lock->tryLock(0);
 }
 
 void PreviousInstance::Release() {

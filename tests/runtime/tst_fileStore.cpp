@@ -155,19 +155,81 @@ class FileStoreTest : public QObject {
 
   void manyFoldersAreMadeUnderOneParent() {
     FolderMaker maker(m_device, m_tree->Root());
-    maker.Make("a/");
-    maker.Make("a/b/");
-    maker.Make("a/b/");
+    maker.Make("a");
+    maker.Make("a/b");
+    maker.Make("a/b");
     QCOMPARE(m_device.Count(Call::MakeFolder), 2);
     QCOMPARE(m_tree->List(u"/a"_s), QStringList{u"b/"_s});
-    QCOMPARE(ErrorOf([&] { maker.Make("none/c/"); }), 76);
+    QCOMPARE(ErrorOf([&] { maker.Make("none/c"); }), 76);
     m_tree->Write(u"/file"_s, "");
-    QCOMPARE(ErrorOf([&] { maker.Make("file/"); }), 75);
+    QCOMPARE(ErrorOf([&] { maker.Make("file"); }), 75);
     m_device.FailAt(Call::MakeFolder, 1, ENOSPC);
-    const RuntimeError full = CaughtFrom([&] { maker.Make("d/"); });
+    const RuntimeError full = CaughtFrom([&] { maker.Make("d"); });
     QCOMPARE(full.Number(), 61);
-    QCOMPARE(full.Subject(), Path(u"/d/"_s));
+    QCOMPARE(full.Subject(), Path(u"/d"_s));
     QCOMPARE(ErrorOf([&] { const FolderMaker none(m_device, Path(u"/none"_s)); }), 76);
+  }
+
+  void aLinkInAFoldersPlaceIsNotFollowedByTheMaker() {
+    const TemporaryTree outside;
+    QVERIFY(QFile::link(outside.Root(), Path(u"/a"_s)));
+    FolderMaker maker(m_device, m_tree->Root());
+    const RuntimeError error = CaughtFrom([&] { maker.Make("a"); });
+    QCOMPARE(error.Number(), 75);
+    QCOMPARE(error.Subject(), Path(u"/a"_s));
+    QCOMPARE(m_device.Count(Call::MakeFolder), 0);
+  }
+
+  void aStoreThatKnowsItsTreeChangesNothingThroughALinkedFolder_data() {
+    QTest::addColumn<std::function<void(FileStore&, QString)>>("act");
+    using Act = std::function<void(FileStore&, QString)>;
+    const auto row = [](const char* name, const Act& act) { QTest::newRow(name) << act; };
+    row("a save", [](FileStore& store, const QString& folder) { store.ReplaceWhole(folder + u"/a.txt"_s, "new"); });
+    row("a record", [](FileStore& store, const QString& folder) { store.WriteInPlace(folder + u"/a.txt"_s, 0, "n"); });
+    row("a copy",
+        [](FileStore& store, const QString& folder) { store.Copy(folder + u"/a.txt"_s, folder + u"/b.txt"_s); });
+    row("a rename away",
+        [](FileStore& store, const QString& folder) { store.Rename(folder + u"/a.txt"_s, folder + u"/../b.txt"_s); });
+    row("a removal", [](FileStore& store, const QString& folder) { store.Remove(folder + u"/a.txt"_s); });
+    row("a folder", [](FileStore& store, const QString& folder) { store.MakeFolder(folder + u"/f"_s); });
+    row("the folder itself", [](FileStore& store, const QString& folder) { store.MakeFolder(folder); });
+    row("a path", [](FileStore& store, const QString& folder) { store.MakePath(folder + u"/f/g"_s); });
+  }
+  void aStoreThatKnowsItsTreeChangesNothingThroughALinkedFolder() {
+    using Act = std::function<void(FileStore&, QString)>;
+    QFETCH(Act, act);
+    const TemporaryTree outside;
+    outside.Write(u"/a.txt"_s, "old");
+    outside.MakeFolder(u"/deep"_s);
+    outside.Write(u"/deep/a.txt"_s, "old");
+    FileStore store(m_device, m_tree->Root());
+    QVERIFY(QFile::link(outside.Root(), Path(u"/link"_s)));
+    for (const QString& folder : {Path(u"/link"_s), Path(u"/link/deep"_s)}) {
+      const RuntimeError error = CaughtFrom([&] { act(store, folder); });
+      QCOMPARE(error.Number(), 75);
+      QCOMPARE(error.Subject(), Path(u"/link"_s));
+      QVERIFY2(error.Text().contains(u"is a link"_s), qPrintable(error.Text()));
+      QCOMPARE(outside.Everything(), (QMap<QString, QByteArray>{{u"/a.txt"_s, "old"}, {u"/deep/a.txt"_s, "old"}}));
+      QCOMPARE(outside.List(), (QStringList{u"a.txt"_s, u"deep/"_s}));
+      QCOMPARE(outside.List(u"/deep"_s), QStringList{u"a.txt"_s});
+      QCOMPARE(store.ReadWhole(folder + u"/a.txt"_s), "old");
+    }
+  }
+
+  void theTreeMayBeReachedByALinkItself() {
+    const TemporaryTree elsewhere;
+    QVERIFY(QFile::link(m_tree->Root(), elsewhere.Path(u"/root"_s)));
+    FileStore store(m_device, elsewhere.Path(u"/root"_s));
+    store.MakeFolder(elsewhere.Path(u"/root/f"_s));
+    store.ReplaceWhole(elsewhere.Path(u"/root/f/a.txt"_s), "new");
+    QCOMPARE(m_tree->Bytes(u"/f/a.txt"_s), "new");
+  }
+
+  void aStoreWithoutATreeFollowsLinkedFolders() {
+    const TemporaryTree outside;
+    QVERIFY(QFile::link(outside.Root(), Path(u"/link"_s)));
+    m_store.ReplaceWhole(Path(u"/link/a.pdf"_s), "page");
+    QCOMPARE(outside.Bytes(u"/a.pdf"_s), "page");
   }
 
   void everyFileIsClosedAgain() {

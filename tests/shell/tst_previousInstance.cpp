@@ -81,6 +81,34 @@ class PreviousInstanceTest : public QObject {
     QVERIFY(mine.Claim());
   }
 
+  void aMarkThatWasCutOffWhileItWasSetKeepsNobodyOut_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("cut short") << QByteArray("41");
+    QTest::newRow("garbled") << QByteArray("\x01\xff\n");
+  }
+  void aMarkThatWasCutOffWhileItWasSetKeepsNobodyOut() {
+    QFETCH(QByteArray, content);
+    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), m_root->Root());
+    QVERIFY(first.Claim());
+    const QString mark = u'/' + m_locks->List().constFirst();
+    first.Release();
+    m_locks->Write(mark, content);
+    QVERIFY(first.Claim());
+    QVERIFY(!second.Claim());
+    first.Release();
+    QCOMPARE(m_locks->List(), QStringList{});
+  }
+
+  void aMarkThatIsJustBeingSetIsLeftToItsProgram() {
+    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), m_root->Root());
+    QVERIFY(first.Claim());
+    // The program holds the system's lock on its mark before it has written anything into it.
+    QVERIFY(QFile::resize(m_locks->Path(u'/' + m_locks->List().constFirst()), 0));
+    QVERIFY(!second.Claim());
+    QCOMPARE(m_locks->List().size(), 1);
+  }
+
   void theLockFolderIsMadeWhereItIsMissing() {
     PreviousInstance instance(m_store, m_locks->Path(u"/a/b"_s), m_root->Root());
     QVERIFY(instance.Claim());

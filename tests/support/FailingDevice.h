@@ -33,6 +33,8 @@ class FailingDevice : public FileDevice {
   void AlsoFailAt(Call call, int nth, int error) { m_failures[{call, nth}] = error; }
   /// Every call of the kind from now on.
   void FailAlways(Call call, int error);
+  /// Besides what is set already, without a new count.
+  void AlsoFailAlways(Call call, int error) { m_always[call] = error; }
   /// The `nth` write takes only `size` bytes; the one after it answers `-error`.
   void WriteShortAt(int nth, qint64 size, int error);
   /// Every call from the `nth` on, whatever its kind.

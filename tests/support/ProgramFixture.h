@@ -37,6 +37,8 @@ class ProgramFixture {
   /// tree.
   void End();
 
+  /// Where the marks of running programs stand.
+  QString LockFolder() const { return m_lockFolder.Root(); }
   Program& Running() { return *m_program; }
   Screen* Built(ScreenName screen) { return m_program->Built(screen); }
 
