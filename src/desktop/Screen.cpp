@@ -2,8 +2,11 @@
 
 #include <map>
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <vector>
 
@@ -79,6 +82,12 @@ bool Screen::event(QEvent* event) {
     // The Tab key goes from box to box, also out of boxes of several lines.
     for (QPlainTextEdit* lines : findChildren<QPlainTextEdit*>()) {
       lines->setTabChangesFocus(true);
+    }
+    // A box of one line holds one line, whatever is pasted: in a file a line break would make two rows of it.
+    for (QLineEdit* line : findChildren<QLineEdit*>()) {
+      auto* combo = qobject_cast<QComboBox*>(line->parentWidget());
+      const bool isPart = qobject_cast<QAbstractSpinBox*>(line->parentWidget()) != nullptr;
+      if (!isPart) Typed(combo != nullptr ? static_cast<QWidget*>(combo) : line);
     }
   }
   return QMainWindow::event(event);

@@ -196,6 +196,23 @@ class TypedTexts : public QObject {
     QCOMPARE(bench.driver->Text(control), u"âbc"_s);
   }
 
+  void aLineBreakPastedIntoABoxOfOneLineIsABlankWithoutAnyRuleToo_data() {
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("held");
+    QTest::newRow("a text box") << u"box"_s << u"a b c d"_s;
+    QTest::newRow("an editable list") << u"combo"_s << u"a b c d"_s;
+    QTest::newRow("a box of several lines") << u"lines"_s << u"a\nb\nc d"_s;
+  }
+  void aLineBreakPastedIntoABoxOfOneLineIsABlankWithoutAnyRuleToo() {
+    QFETCH(QString, control);
+    QFETCH(QString, held);
+    Bench bench;
+    bench.driver->Click(control);
+    bench.driver->Paste(u"a\r\nb\nc d"_s);
+    const auto* lines = qobject_cast<QPlainTextEdit*>(bench.driver->Control(control));
+    QCOMPARE(lines != nullptr ? lines->toPlainText() : bench.driver->Text(control), held);
+  }
+
   void theLimitCutsWhatIsTypedAndPastedButNotATextFromCode_data() {
     QTest::addColumn<QString>("control");
     QTest::newRow("a text box") << u"box"_s;

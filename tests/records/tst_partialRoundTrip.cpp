@@ -73,6 +73,7 @@ class PartialRoundTrip : public QObject {
   void parkedQuitRecalledAndFinished();
   void aRecalledInvoiceThatIsSavedAgainReplacesItsFile();
   void aCommaInTheReferenceIsKeptInTheFileThoughItCannotBeRecalled();
+  void aLineBreakPastedIntoTheReferenceLosesNoPartialInvoice();
 };
 
 void PartialRoundTrip::parkedQuitRecalledAndFinished() {
@@ -165,6 +166,22 @@ void PartialRoundTrip::aCommaInTheReferenceIsKeptInTheFileThoughItCannotBeRecall
   QVERIFY2(program.Answers.Last().Text.contains(u"20260017.txt"_s), qPrintable(program.Answers.Last().Text));
   QVERIFY(ScreenDriver::IsShown(u"frmIncomplete"_s));
   QCOMPARE(program.Tree.Bytes(Image), saved);
+}
+
+void PartialRoundTrip::aLineBreakPastedIntoTheReferenceLosesNoPartialInvoice() {
+  ProgramFixture program;
+  Stock(program.Tree);
+  QVERIFY(program.StartAtMenu());
+  BeginInvoice(u"PO 5"_s, u"Ann"_s);
+  ScreenDriver(u"frmInvoice"_s).Trigger(u"mnuSetup"_s);
+  ScreenDriver(u"frmInvoice"_s).Fill(u"txtReference"_s, u"PO "_s);
+  ScreenDriver(u"frmInvoice"_s).Paste(u"6\r\nlot 7"_s);
+  ScreenDriver(u"frmInvoice"_s).Click(u"cmdInvoice_0"_s);
+  PostHammers(u"2"_s);
+  Save(program);
+  QVERIFY(program.Tree.Bytes(Image).contains("\r\nPO 6 lot 7\r\nAnn\r\n1\r\n"));
+  Recall(program);
+  QCOMPARE(ScreenDriver(u"frmInvoice"_s).Text(u"txtReference"_s), u"PO 6 lot 7"_s);
 }
 
 QTEST_MAIN(PartialRoundTrip)

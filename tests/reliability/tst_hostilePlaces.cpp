@@ -332,7 +332,7 @@ void HostilePlaces::aRootThatVanishesIsToldAtEachSave_data() {
   QTest::newRow("a customer") << Act([](ProgramFixture&) {
     OneDay::GoToCustomers();
     ScreenDriver(u"frmNewCustomer"_s).Fill(u"txtCustomer_2"_s, u"99 Elsewhere"_s);
-  }) << u"Command1_0"_s << u"frmNewCustomer"_s
+  }) << u"cmdCustomer_0"_s << u"frmNewCustomer"_s
                               << u"/CustomerData.txt"_s;
   QTest::newRow("a partial invoice") << Act([](ProgramFixture& program) {
     OneDay::ComposeInvoice();

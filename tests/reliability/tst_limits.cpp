@@ -263,7 +263,7 @@ void Limits::theLastCustomerIsTakenAndTheNextRefused() {
   screen.Trigger(u"mnuAdd"_s);
   screen.Fill(u"txtCustomer_0"_s, u"32767"_s);
   screen.Fill(u"txtCustomer_1"_s, u"The Last"_s);
-  screen.Click(u"Command1_0"_s);
+  screen.Click(u"cmdNav_0"_s);
   QCOMPARE(program.Tree.Size(u"/CustomerData.txt"_s), 328 * 32767);
   program.Answers.Ok(
       u"/CustomerData.txt: The customer file is full: it holds 32,767 customers. (error 6)\n\n"
@@ -284,7 +284,7 @@ void Limits::atItsLimitTheCustomerFileSavesAndDeletes() {
   ScreenDriver(u"frmStartup"_s).Click(u"cmdGoto"_s);
   const ScreenDriver screen(u"frmNewCustomer"_s);
   screen.Fill(u"txtCustomer_1"_s, u"Changed"_s);
-  screen.Click(u"Command1_0"_s);
+  screen.Click(u"cmdNav_0"_s);
   QByteArray expected = before;
   expected.replace(20, 7, "Changed");
   QVERIFY(program.Tree.Bytes(u"/CustomerData.txt"_s) == expected);
