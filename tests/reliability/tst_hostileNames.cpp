@@ -1,0 +1,401 @@
+// Account, invoice and template names that no file should have: typed or pasted by the user, or read from a damaged or
+// foreign file. Nothing outside the data root is ever written, made or deleted; what can't name a file is refused with
+// a box; and the next start finds a sound tree.
+
+#include <QtWidgets>
+
+#include "reliability/MemoryDisk.h"
+#include "reliability/OneDay.h"
+#include "reliability/Surroundings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[maybe_unused]] const MemoryDisk Quick;
+
+struct Name {
+  const char* Label;
+  QString Text;
+  bool CanNameAFile;
+};
+
+const QList<Name>& Names() {
+  static const QList<Name> names{{"the folder above", u".."_s, false},
+                                 {"the folder itself", u"."_s, false},
+                                 {"up and out", u"../../secret"_s, false},
+                                 {"up and out, backslashes", u"..\\..\\secret"_s, false},
+                                 {"through a folder", u"x/../../secret"_s, false},
+                                 {"a separator", u"10/01"_s, false},
+                                 {"a backslash", u"10\\01"_s, false},
+                                 {"from the root", u"/secret"_s, false},
+                                 {"a zero byte", u"10"_s + QChar::Null + u"01"_s, false},
+                                 {"a device's name", u"CON"_s, true},
+                                 {"another device's name", u"NUL"_s, true},
+                                 {"a device's name with an ending", u"COM1.txt"_s, true},
+                                 {"three dots", u"..."_s, true},
+                                 {"hidden", u".1001"_s, true},
+                                 {"an option", u"-rf"_s, true},
+                                 {"a home", u"~root"_s, true},
+                                 {"wildcards", u"*?[a]"_s, true},
+                                 {"a percent sign", u"%1%2%n"_s, true},
+                                 {"the new file's ending", u"1001.new"_s, true}};
+  return names;
+}
+
+void AddNames() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<bool>("safe");
+  for (const Name& name : Names()) QTest::newRow(name.Label) << name.Text << name.CanNameAFile;
+}
+
+QByteArray CustomerOf(const QString& account) {
+  return BusinessRecord(account.toLatin1(), "Acme Tools");
+}
+
+/// A day's tree, its customer under another account.
+void Stock(const TemporaryTree& tree, const QString& account) {
+  OneDay::Stock(tree);
+  tree.Write(u"/CustomerData.txt"_s, CustomerOf(account));
+}
+
+void PasteInto(const ScreenDriver& screen, const QString& box, const QString& text) {
+  screen.Fill(box, QString());
+  screen.Paste(text);
+}
+
+/// A partial invoice as a foreign hand would leave it: the number that its first row lists it by, and the one that its
+/// recall fills in.
+QByteArray PartialOf(const QString& listed, const QString& recalled) {
+  const QByteArray name = recalled.toLatin1();
+  return listed.toLatin1() + "\r\n1001\r\nAcme Tools\r\n3/5/2026\r\n" +
+         "\"Acme Tools\"\r\n\"1 Dock Rd\"\r\n\"\"\r\n\"Salem\"\r\n\"MA\"\r\n\"01970\"\r\n" +
+         "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n" + name +
+         "\r\n1001\r\nPO 5\r\nAnn\r\n1\r\n\r\nSurvey\r\n3/1/2026\r\n$80.00\r\n$80.00\r\nFalse\r\n";
+}
+
+/// The next boxes, at most so many, get a Yes or an OK; a text is asked for in vain.
+void AnswerAll(ProgramFixture& program) {
+  for (int i = 0; i < 20; ++i) {
+    program.Answers.Dialog([](QDialog& dialog) {
+      const auto* box = qobject_cast<QMessageBox*>(&dialog);
+      if (box == nullptr) return dialog.reject();
+      QAbstractButton* yes = box->button(QMessageBox::Yes);
+      (yes != nullptr ? yes : box->buttons().constFirst())->click();
+    });
+  }
+}
+
+}  // namespace
+
+class HostileNames : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void anAccountOfTheFileStaysInTheTree_data() { AddNames(); }
+  void anAccountOfTheFileStaysInTheTree();
+  void anAccountOfTheFileWritesItsNotesInTheTree_data() { AddNames(); }
+  void anAccountOfTheFileWritesItsNotesInTheTree();
+  void aPastedAccountStaysInTheTree_data() { AddNames(); }
+  void aPastedAccountStaysInTheTree();
+  void aDeletedAccountTakesNothingFromOutside_data() { AddNames(); }
+  void aDeletedAccountTakesNothingFromOutside();
+  void aPastedInvoiceNumberStaysInTheTree_data() { AddNames(); }
+  void aPastedInvoiceNumberStaysInTheTree();
+  void aPartialInvoiceOfAForeignNumberStaysInTheTree_data() { AddNames(); }
+  void aPartialInvoiceOfAForeignNumberStaysInTheTree();
+  void aPartialInvoiceListedUnderAForeignNumberTakesNothingFromOutside_data() { AddNames(); }
+  void aPartialInvoiceListedUnderAForeignNumberTakesNothingFromOutside();
+  void aTemplateStaysInTheTree_data() { AddNames(); }
+  void aTemplateStaysInTheTree();
+  void aNameOfThreeHundredCharactersIsToldOrCut();
+  void blanksAroundAnAccountAreNoPartOfItsFiles();
+};
+
+void HostileNames::anAccountOfTheFileStaysInTheTree() {
+  QFETCH(QString, name);
+  QFETCH(bool, safe);
+  Surroundings around;
+  ProgramFixture program;
+  Stock(program.Tree, name);
+  around.Watch({program.Tree.Root(), program.LockFolder()});
+  QVERIFY(program.StartAtMenu());
+  const QString folder = u"/AuxFiles/"_s + name + u"/AuxFile5"_s;
+  const QString ledger = u"/KVActiveAccounts/"_s + name + u".txt"_s;
+  if (safe) {
+    QVERIFY(program.Tree.Exists(folder));
+    OneDay::CommitInvoice(program);
+    QCOMPARE(program.Tree.Size(ledger), 2 * 155);
+    QCOMPARE(program.Tree.Bytes(u"/Backup"_s + ledger), program.Tree.Bytes(ledger));
+    QCOMPARE(program.Tree.Bytes(u"/KVInvoiceNo.txt"_s), "20260002\r\n");
+  } else {
+    QCOMPARE(program.Tree.List(u"/AuxFiles"_s), QStringList{});
+    // The way to the invoice saves the customer first, and that says what is wrong.
+    OneDay::GoToCustomers();
+    program.Answers.Ok({}, u"Invalid Account Number"_s);
+    ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdCustomer_1"_s);
+    QVERIFY(ScreenDriver::IsShown(u"frmNewCustomer"_s));
+    QCOMPARE(program.Tree.List(u"/KVActiveAccounts"_s), QStringList{});
+    QCOMPARE(program.Tree.Bytes(u"/CustomerData.txt"_s), CustomerOf(name));
+  }
+  QCOMPARE(around.Changes().join(u'\n'), QString());
+  program.End();
+  QCOMPARE(around.Changes().filter(u"karvex-invoicer-"_s, Qt::CaseInsensitive).size(), around.Changes().size());
+  QVERIFY(program.Start());
+}
+
+void HostileNames::anAccountOfTheFileWritesItsNotesInTheTree() {
+  QFETCH(QString, name);
+  QFETCH(bool, safe);
+  Surroundings around;
+  ProgramFixture program;
+  Stock(program.Tree, name);
+  QVERIFY(program.StartAtMenu());
+  around.Watch({program.Tree.Root(), program.LockFolder()});
+  OneDay::GoToCustomers();
+  const ScreenDriver screen(u"frmNewCustomer"_s);
+  AnswerAll(program);
+  screen.Trigger(u"mnuAux"_s);
+  if (screen.IsVisible(u"txtAux_0"_s)) {
+    screen.Click(u"txtAux_0"_s);
+    screen.Paste(u"a note"_s);
+    screen.Click(u"cmdSaveAux_1"_s);
+  }
+  program.Answers.Forget();
+  QCOMPARE(program.Tree.Exists(u"/AuxFiles/"_s + name + u"/AuxFile0/Data.txt"_s), safe);
+  QCOMPARE(around.Changes().join(u'\n'), QString());
+  QVERIFY(!program.Running().HasEnded());
+}
+
+void HostileNames::aPastedAccountStaysInTheTree() {
+  QFETCH(QString, name);
+  Surroundings around;
+  ProgramFixture program;
+  OneDay::Stock(program.Tree);
+  QVERIFY(program.StartAtMenu());
+  around.Watch({program.Tree.Root(), program.LockFolder()});
+  const QByteArray before = program.Tree.Bytes(u"/CustomerData.txt"_s);
+  OneDay::GoToCustomers();
+  const ScreenDriver screen(u"frmNewCustomer"_s);
+  AnswerAll(program);
+  screen.Trigger(u"mnuAdd"_s);
+  PasteInto(screen, u"txtCustomer_0"_s, name);
+  PasteInto(screen, u"txtCustomer_1"_s, u"Bell Farm"_s);
+  PasteInto(screen, u"txtCustomer_6"_s, u"555-0123"_s);
+  screen.Click(u"cmdNav_0"_s);
+  program.Answers.Forget();
+  QVERIFY(!program.Running().HasEnded());
+  const QByteArray after = program.Tree.Bytes(u"/CustomerData.txt"_s);
+  QVERIFY(after.startsWith(before) && after.size() % 328 == 0);
+  // What was stored, if anything, can name its files: the next start makes their folders.
+  QVERIFY(program.Start());
+  const QByteArray stored = after.mid(328, 20).trimmed();
+  QVERIFY2(stored.isEmpty() || program.Tree.Exists(u"/AuxFiles/"_s + QString::fromLatin1(stored) + u"/AuxFile5"_s),
+           stored.constData());
+  QCOMPARE(around.Changes().join(u'\n'), QString());
+}
+
+void HostileNames::aDeletedAccountTakesNothingFromOutside() {
+  QFETCH(QString, name);
+  QFETCH(bool, safe);
+  Surroundings around;
+  ProgramFixture program;
+  Stock(program.Tree, name);
+  const QByteArray other = CustomerOf(u"7"_s);
+  program.Tree.Write(u"/CustomerData.txt"_s, CustomerOf(name) + other);
+  if (safe) program.Tree.Write(u"/KVActiveAccounts/"_s + name + u".txt"_s, QByteArray(155, ' '));
+  program.Tree.Write(u"/secret.txt"_s, "of the root");
+  QVERIFY(program.StartAtMenu());
+  around.Watch({program.Tree.Root(), program.LockFolder()});
+  OneDay::GoToCustomers();
+  AnswerAll(program);
+  ScreenDriver(u"frmNewCustomer"_s).Trigger(u"mnuDelete"_s);
+  program.Answers.Forget();
+  QCOMPARE(around.Changes().join(u'\n'), QString());
+  QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
+  const QByteArray left = program.Tree.Bytes(u"/CustomerData.txt"_s);
+  QVERIFY(left == other || left == CustomerOf(name) + other);
+  if (safe) {
+    QVERIFY(left == other);
+    QVERIFY(!program.Tree.Exists(u"/KVActiveAccounts/"_s + name + u".txt"_s));
+  }
+}
+
+void HostileNames::aPastedInvoiceNumberStaysInTheTree() {
+  QFETCH(QString, name);
+  Surroundings around;
+  ProgramFixture program;
+  OneDay::Stock(program.Tree);
+  QVERIFY(program.StartAtMenu());
+  around.Watch({program.Tree.Root(), program.LockFolder()});
+  OneDay::ComposeInvoice();
+  const ScreenDriver invoice(u"frmInvoice"_s);
+  AnswerAll(program);
+  invoice.Trigger(u"mnuSetup"_s);
+  PasteInto(invoice, u"txtInvoiceNo"_s, name);
+  invoice.Click(u"cmdInvoice_0"_s);
+  invoice.Click(u"cmdSave"_s);
+  program.Answers.Forget();
+  QVERIFY(!program.Running().HasEnded());
+  QCOMPARE(around.Changes().join(u'\n'), QString());
+  // The box takes digits and a point alone: with nothing left of the name there is no invoice to be saved.
+  for (const QString& file : program.Tree.List(u"/KarvexInvoicer/IncompleteInvoices"_s)) {
+    QVERIFY2(QRegularExpression(u"^[0-9.]+\\.txt$"_s).match(file).hasMatch(), qPrintable(file));
+  }
+}
+
+void HostileNames::aPartialInvoiceOfAForeignNumberStaysInTheTree() {
+  QFETCH(QString, name);
+  QFETCH(bool, safe);
+  for (const bool commits : {false, true}) {
+    Surroundings around;
+    ProgramFixture program;
+    OneDay::Stock(program.Tree);
+    const QString file = u"/KarvexInvoicer/IncompleteInvoices/20260009.txt"_s;
+    const QByteArray before = PartialOf(u"20260009"_s, name);
+    program.Tree.Write(file, before);
+    program.Tree.Write(u"/secret.txt"_s, "of the root");
+    QVERIFY(program.StartAtMenu());
+    around.Watch({program.Tree.Root(), program.LockFolder()});
+    const ScreenDriver menu(u"frmStartup"_s);
+    menu.Click(u"optMainMenuSub_1"_s);
+    menu.Click(u"cmdGoto"_s);
+    AnswerAll(program);
+    ScreenDriver(u"frmIncomplete"_s).DoubleClickRow(u"fgIncomplete"_s, 1);
+    const ScreenDriver invoice(u"frmInvoice"_s);
+    invoice.Click(u"cmdInvoice_0"_s);
+    if (commits) {
+      // An unsafe number gets no further than this.
+      QCOMPARE(invoice.IsEnabled(u"cmdPrint"_s), safe);
+      if (safe) {
+        OneDay::Finalize();
+        invoice.Click(u"cmdInvoiceContinue"_s);
+      }
+    } else {
+      invoice.Click(u"cmdSave"_s);
+    }
+    program.Answers.Forget();
+    QVERIFY(!program.Running().HasEnded());
+    QCOMPARE(around.Changes().join(u'\n'), QString());
+    QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
+    // An unsafe number leaves the file alone; a safe one is saved, or committed, under its own name.
+    const QString folder = commits ? u"/CompletedInvoices/"_s : u"/KarvexInvoicer/IncompleteInvoices/"_s;
+    if (safe) {
+      QVERIFY2(program.Tree.Exists(folder + name + u".txt"_s), qPrintable(program.Answers.Last().Text));
+    } else {
+      QCOMPARE(program.Tree.Bytes(file), before);
+      QCOMPARE(program.Tree.List(u"/CompletedInvoices"_s), QStringList{});
+    }
+  }
+}
+
+void HostileNames::aPartialInvoiceListedUnderAForeignNumberTakesNothingFromOutside() {
+  QFETCH(QString, name);
+  Surroundings around;
+  ProgramFixture program;
+  OneDay::Stock(program.Tree);
+  const QString file = u"/KarvexInvoicer/IncompleteInvoices/20260009.txt"_s;
+  const QByteArray before = PartialOf(name, u"20260009"_s);
+  program.Tree.Write(file, before);
+  program.Tree.Write(u"/secret.txt"_s, "of the root");
+  QVERIFY(program.StartAtMenu());
+  around.Watch({program.Tree.Root(), program.LockFolder()});
+  const ScreenDriver menu(u"frmStartup"_s);
+  menu.Click(u"optMainMenuSub_1"_s);
+  menu.Click(u"cmdGoto"_s);
+  const ScreenDriver partials(u"frmIncomplete"_s);
+  // Its recall and its purge go by the listed number, and there is no such file.
+  for (const QString& button : {u"Command1_1"_s, u"Command1_3"_s}) {
+    AnswerAll(program);
+    partials.SelectRow(u"fgIncomplete"_s, 1);
+    partials.Click(button);
+    program.Answers.Forget();
+    QVERIFY(!program.Running().HasEnded());
+    QCOMPARE(around.Changes().join(u'\n'), QString());
+    QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
+    if (!ScreenDriver::IsShown(u"frmIncomplete"_s)) break;
+  }
+  QCOMPARE(program.Tree.Bytes(file), before);
+}
+
+void HostileNames::aTemplateStaysInTheTree() {
+  QFETCH(QString, name);
+  Surroundings around;
+  InvoiceBench bench;
+  bench.Tree.MakeFolder(u"/KarvexInvoicer/Templates/Invoices"_s);
+  around.Watch({bench.Tree.Root()});
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
+  bench.On().Trigger(u"mnuCreate"_s);
+  const auto before = bench.Tree.Everything();
+  for (const QString& prefix : {u""_s, u"/"_s, u"\\"_s, u"/../"_s}) {
+    bench.Answers.Dialog([&](QDialog& dialog) {
+      auto* box = qobject_cast<QInputDialog*>(&dialog);
+      QVERIFY(box != nullptr);
+      box->setTextValue(prefix + name);
+      box->accept();
+    });
+    for (int i = 0; i < 3; ++i) {
+      bench.Answers.Dialog([](QDialog& dialog) { dialog.accept(); });
+    }
+    if (bench.On().IsEnabled(u"cmdTemplate_2"_s)) bench.On().Click(u"cmdTemplate_2"_s);
+    bench.Answers.Forget();
+  }
+  QCOMPARE(around.Changes().join(u'\n'), QString());
+  // What came is a template among the templates; nothing else changed.
+  const auto after = bench.Tree.Everything();
+  for (auto it = after.cbegin(); it != after.cend(); ++it) {
+    const bool isTemplate = it.key().startsWith(u"/KarvexInvoicer/Templates/Invoices"_s) && it.value().size() == 70;
+    QVERIFY2(isTemplate || before.value(it.key()) == it.value(), qPrintable(it.key()));
+  }
+  for (auto it = before.cbegin(); it != before.cend(); ++it) QVERIFY(after.contains(it.key()));
+}
+
+void HostileNames::aNameOfThreeHundredCharactersIsToldOrCut() {
+  Surroundings around;
+  {
+    InvoiceBench bench;
+    bench.Tree.MakeFolder(u"/KarvexInvoicer/Templates/Invoices"_s);
+    around.Watch({bench.Tree.Root()});
+    bench.OpenAtLines();
+    bench.PostManual(u"Crate"_s, u"1"_s, u"10"_s);
+    bench.On().Trigger(u"mnuCreate"_s);
+    const auto before = bench.Tree.Everything();
+    bench.Answers.Dialog([](QDialog& dialog) {
+      auto* box = qobject_cast<QInputDialog*>(&dialog);
+      QVERIFY(box != nullptr);
+      box->setTextValue(QString(300, u'W'));
+      box->accept();
+    });
+    bench.On().Click(u"cmdTemplate_2"_s);
+    QCOMPARE(bench.Around.Errors, QList<int>{64});
+    QCOMPARE(bench.Tree.Everything(), before);
+    QCOMPARE(bench.Row(1).at(1), u"Crate"_s);
+    QCOMPARE(around.Changes().join(u'\n'), QString());
+  }
+  ProgramFixture program;
+  OneDay::Stock(program.Tree);
+  QVERIFY(program.StartAtMenu());
+  OneDay::ComposeInvoice();
+  const ScreenDriver invoice(u"frmInvoice"_s);
+  invoice.Trigger(u"mnuSetup"_s);
+  PasteInto(invoice, u"txtInvoiceNo"_s, QString(300, u'9'));
+  const auto before = program.Tree.Everything();
+  program.Answers.Ok();
+  invoice.Click(u"cmdSave"_s);
+  QVERIFY(program.Answers.Last().Text.endsWith(u"can't name a file."_s));
+  QCOMPARE(program.Tree.Everything(), before);
+}
+
+void HostileNames::blanksAroundAnAccountAreNoPartOfItsFiles() {
+  ProgramFixture program;
+  Stock(program.Tree, u"  10 01  "_s);
+  QVERIFY(program.StartAtMenu());
+  QCOMPARE(program.Tree.List(u"/AuxFiles"_s), QStringList{u"10 01/"_s});
+  OneDay::CommitInvoice(program);
+  QCOMPARE(program.Tree.List(u"/KVActiveAccounts"_s), QStringList{u"10 01.txt"_s});
+  QCOMPARE(program.Tree.List(u"/Backup/KVActiveAccounts"_s), QStringList{u"10 01.txt"_s});
+}
+
+QTEST_MAIN(HostileNames)
+#include "tst_hostileNames.moc"
