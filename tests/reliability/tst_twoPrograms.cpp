@@ -98,9 +98,11 @@ int main(int argc, char* argv[]) {
     FixedClock clock;
     TestDialogs dialogs;
     RecordingPrinter paper;
+    const PortTable ports;
+    SerialLine modem(ports);
     QueuedAnswers answers;
     answers.Ok(Told);
-    Program program(PlatformOn(arguments[2], arguments[3], files, clock, dialogs, paper));
+    Program program(PlatformOn(arguments[2], arguments[3], files, clock, dialogs, paper, modem));
     const bool runs = program.Start();
     answers.Forget();
     ::puts(runs ? "runs" : (answers.Last().Text == Told ? "told" : "failed"));
