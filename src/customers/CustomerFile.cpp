@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <QScopeGuard>
 #include <QSet>
 #include <string_view>
 #include <vector>
@@ -176,9 +177,12 @@ std::optional<RuntimeError> CustomerFile::Remove(int number, int count, const QS
       }
     }
   }
+  // What fails leaves no second customer file behind.
+  auto failedOnTheWay = qScopeGuard([&] { m_disk.Store().Device().Remove(m_disk.PathOf(temporary)); });
   m_disk.SaveFile(temporary, kept, BackupCopy::Kept);
   try {
     m_disk.RenameDataFile(temporary, FileName());
+    failedOnTheWay.dismiss();
   } catch (const RuntimeError& error) {
     if (m_disk.Store().IsFile(m_disk.PathOf(temporary))) {
       throw;

@@ -11,9 +11,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// No file has that name, or can have it.
+bool MeansAbsent(int error) {
+  return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP;
+}
+
 bool IsKind(const QString& path, mode_t kind) {
   struct stat status;
-  return ::stat(QFile::encodeName(path).constData(), &status) == 0 && (status.st_mode & S_IFMT) == kind;
+  if (::stat(QFile::encodeName(path).constData(), &status) == 0) return (status.st_mode & S_IFMT) == kind;
+  // What can't be looked at may well be there: taken for absent, it would be replaced unasked, or by its older copy.
+  if (!MeansAbsent(errno)) RaiseFileError(-errno, path);
+  return false;
 }
 
 int NumberOf(int error, const QString& path) {

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// A file or folder at `path`, links followed.
+/// A file or folder at `path`, links followed. Throws where that can't be found out.
 bool IsFileAt(const QString& path);
 bool IsFolderAt(const QString& path);
 /// The folder that holds `path`.

@@ -21,7 +21,7 @@ class FileStore {
   explicit FileStore(FileDevice& device, QString tree = {}) : m_device(device), m_tree(std::move(tree)) {}
 
   FileDevice& Device() const { return m_device; }
-  bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one.
+  bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one. Throws if it can't tell.
   bool IsFolder(const QString& path) const;
   qint64 Size(const QString& path) const;  ///< In bytes; error 53 if absent.
   /// Names of the files (not folders) in `folder` that match the wildcard (`*.txt`, whatever the case), in name order;

@@ -1,0 +1,201 @@
+#include "reliability/Bench.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+#include <csignal>
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+#include "reliability/Desk.h"
+#include "reliability/Report.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr unsigned Patience = 120;  ///< Seconds, after which a try counts as hanging.
+constexpr int ScreenFailed = 3;     ///< Exit code: the screens couldn't be worked on as told.
+
+struct Request {
+  FileCalls::Plan Plan;
+  bool Again;
+};
+
+template <typename Message>
+bool Send(int pipe, const Message& message) {
+  return ::write(pipe, &message, sizeof message) == static_cast<ssize_t>(sizeof message);
+}
+
+template <typename Message>
+bool Receive(int pipe, Message& message) {
+  return ::read(pipe, &message, sizeof message) == static_cast<ssize_t>(sizeof message);
+}
+
+/// A fork takes along the thread that forks and no other.
+bool IsAlone() {
+  return QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() == 1;
+}
+
+/// Runs `work` in a process of its own, which ends with it; its status.
+template <typename Work>
+int InChild(Work work) {
+  const pid_t child = ::fork();
+  if (child < 0) qFatal("no process can be forked");
+  if (child == 0) {
+    ::alarm(Patience);
+    work();
+    ::_exit(QTest::currentTestFailed() ? ScreenFailed : 0);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return status;
+}
+
+/// After a failure that he was told of the user does the same again, unless he sees that it was done all the same.
+bool DoesAgain(const Desk& desk, const Save& save, const DataTree& found, const QString& after) {
+  if (save.Screen.isEmpty() || desk.HasEnded() || !desk.Shows(save.Screen)) return false;
+  if (FailuresOf(desk.Boxes).isEmpty()) return false;
+  Outcome unharmed;
+  return ReadReport(after, unharmed) && !save.WasDone(WithoutTemporaries(found), unharmed.Tree);
+}
+
+/// The try itself, where the user is about to save.
+void DoSave(Desk& desk, const Save& save, const Request& request, const QString& report, const QString& after) {
+  Outcome outcome;
+  FileCalls::Arm(desk.Root().toLocal8Bit().constData(), request.Plan);
+  save.Perform(desk);
+  FileCalls::Mark("back");
+  FileCalls::Disarm();
+  outcome.Boxes = desk.Boxes;
+  outcome.Calls = FileCalls::Count();
+  outcome.Harmed = FileCalls::Harmed();
+  for (const std::string& path : FileCalls::HarmedPaths()) outcome.HarmedPaths.append(QString::fromStdString(path));
+  outcome.Tree = ReadTree(desk.Root());
+  if (request.Plan.What == FileCalls::Harm::None) outcome.Notes = FileCalls::Notes();
+  if (request.Again && DoesAgain(desk, save, outcome.Tree, after)) {
+    desk.Boxes.clear();
+    save.Perform(desk);
+    outcome.DidAgain = true;
+    outcome.AgainBoxes = desk.Boxes;
+    outcome.AgainTree = ReadTree(desk.Root());
+  }
+  WriteReport(report, outcome);
+}
+
+}  // namespace
+
+bool TellsFailure(const QString& box) {
+  // A print job has its own words for whatever happens in it.
+  return box.contains(u"(error ") || box.contains(u"A Print Error has occurred");
+}
+
+QStringList FailuresOf(const QStringList& boxes) {
+  QStringList failures;
+  for (const QString& box : boxes) {
+    if (TellsFailure(box)) failures.append(box);
+  }
+  return failures;
+}
+
+Bench::Bench(const Save& save, const QString& folder) : m_save(save), m_folder(folder) {
+  QDir(m_folder).removeRecursively();
+  QDir().mkpath(Root());
+  DataTree tree = CommonTree();
+  m_save.Stock(tree);
+  WriteTree(Root(), tree);
+  int requests[2], answers[2];
+  if (::pipe(requests) != 0 || ::pipe(answers) != 0) qFatal("no pipe");
+  m_server = ::fork();
+  if (m_server < 0) qFatal("no process can be forked");
+  if (m_server == 0) {
+    ::close(requests[1]);
+    ::close(answers[0]);
+    Serve(requests[0], answers[1]);
+  }
+  ::close(requests[0]);
+  ::close(answers[1]);
+  m_requests = requests[1];
+  m_answers = answers[0];
+  int ready = 0;
+  if (!Receive(m_answers, ready) || ready != 0) {
+    m_unharmed.Broken = u"the way to the save can't be gone"_s;
+    return;
+  }
+  m_before = ReadTree(Root());
+  m_unharmed = Try({});
+  WriteReport(AfterFile(), m_unharmed);
+}
+
+Bench::~Bench() {
+  ::close(m_requests);
+  ::close(m_answers);
+  ::waitpid(m_server, nullptr, 0);
+  QDir(m_folder).removeRecursively();
+}
+
+QString Bench::Unusable() const {
+  if (!m_unharmed.Broken.isEmpty()) return m_unharmed.Broken;
+  if (m_unharmed.Tree == m_before) return u"the save changes nothing"_s;
+  if (!TemporariesOf(m_unharmed.Tree).isEmpty()) return u"the save leaves a temporary file"_s;
+  return {};
+}
+
+void Bench::Serve(int requests, int answers) {
+  Desk desk(Root(), m_folder + u"/lock"_s);
+  if (!m_save.AtStart() && desk.Start() && desk.GoToMenu()) m_save.Prepare(desk);
+  const int ready = !IsAlone() || QTest::currentTestFailed() || (!m_save.AtStart() && desk.HasEnded()) ? 1 : 0;
+  Send(answers, ready);
+  desk.Boxes.clear();
+  Request request{};
+  while (ready == 0 && Receive(requests, request)) {
+    const int status = InChild([&] { DoSave(desk, m_save, request, ReportFile(), AfterFile()); });
+    Send(answers, status);
+  }
+  // Not by the program's own end: that is a save.
+  ::_exit(0);
+}
+
+Outcome Bench::Try(const FileCalls::Plan& plan, bool again) {
+  WriteTree(Root(), m_before);
+  QFile::remove(ReportFile());
+  int status = 0;
+  if (!Send(m_requests, Request{plan, again}) || !Receive(m_answers, status)) qFatal("the prepared process is gone");
+  return Read(status);
+}
+
+Outcome Bench::Restart(const DataTree& tree, bool saves) {
+  WriteTree(Root(), tree);
+  QFile::remove(ReportFile());
+  static int starts = 0;
+  const QString lock = m_folder + u"/lock-%1"_s.arg(++starts);
+  return Read(InChild([&] {
+    Desk desk(Root(), lock);
+    if (m_save.AtStart()) {
+      DoSave(desk, m_save, {}, ReportFile(), {});
+      return;
+    }
+    if (desk.Start() && desk.GoToMenu() && saves) m_save.Prepare(desk);
+    Save nothing{.Name = m_save.Name};
+    nothing.Perform = [](Desk&) {};
+    DoSave(desk, saves && !desk.HasEnded() ? m_save : nothing, {}, ReportFile(), {});
+  }));
+}
+
+Outcome Bench::Read(int status) {
+  Outcome outcome;
+  outcome.Killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+  if (outcome.Killed) {
+    outcome.Tree = ReadTree(Root());
+    return outcome;
+  }
+  const bool told = ReadReport(ReportFile(), outcome);
+  if (WIFSIGNALED(status)) {
+    outcome.Broken = WTERMSIG(status) == SIGALRM ? u"hung"_s : u"crashed (signal %1)"_s.arg(WTERMSIG(status));
+  } else if (WEXITSTATUS(status) == ScreenFailed) {
+    outcome.Broken = u"the screens can't be worked on"_s;
+  } else if (WEXITSTATUS(status) != 0 || !told) {
+    outcome.Broken = u"ended with code %1"_s.arg(WEXITSTATUS(status));
+  }
+  return outcome;
+}

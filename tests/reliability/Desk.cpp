@@ -1,0 +1,71 @@
+#include "reliability/Desk.h"
+
+#include <cstdio>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "desktop/Style.h"
+#include "reliability/FileCalls.h"
+
+using namespace Qt::StringLiterals;
+
+Desk::Desk(const QString& root, const QString& lockFolder) : m_root(root), m_lockFolder(lockFolder) {
+  ApplyStyle(*qApp);
+  qApp->installEventFilter(this);
+}
+
+Desk::~Desk() = default;
+
+bool Desk::Start() {
+  QDir().mkpath(m_lockFolder);
+  m_program = std::make_unique<Program>(PlatformOn(m_root, m_lockFolder, m_files, m_calendar, m_dialogs, m_paper));
+  const bool runs = m_program->Start();
+  ScreenDriver::ProcessEvents();
+  return runs;
+}
+
+bool Desk::GoToMenu() {
+  if (HasEnded() || !Shows(u"frmSplash"_s)) return false;
+  ScreenDriver(u"frmSplash"_s).Click(u"cmdContinue"_s);
+  return Shows(u"frmStartup"_s);
+}
+
+void Desk::OpenRoutine(int option) const {
+  const ScreenDriver menu(u"frmStartup"_s);
+  menu.Click(u"optMainMenuSub_%1"_s.arg(option));
+  menu.Click(u"cmdGoto"_s);
+}
+
+void Desk::Answer(QDialog& dialog) {
+  QString text;
+  if (const auto* message = qobject_cast<QMessageBox*>(&dialog)) text = message->text();
+  Boxes.append(dialog.windowTitle() + u": "_s + text);
+  std::fprintf(stderr, "%s\n", qPrintable(Boxes.last()));
+  FileCalls::Mark("told: " + Boxes.last().toStdString());
+  if (auto* input = qobject_cast<QInputDialog*>(&dialog)) input->setTextValue(InputText);
+  auto* message = qobject_cast<QMessageBox*>(&dialog);
+  QAbstractButton* yes = message == nullptr ? nullptr : message->button(QMessageBox::Yes);
+  if (yes == nullptr && message != nullptr) yes = message->button(QMessageBox::Ok);
+  if (yes != nullptr) {
+    yes->click();
+  } else {
+    dialog.accept();
+  }
+}
+
+bool Desk::eventFilter(QObject* watched, QEvent* event) {
+  // Nobody looks, and drawing starts threads, which no fork takes along.
+  if (event->type() == QEvent::Polish && watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow()) {
+    static_cast<QWidget*>(watched)->setUpdatesEnabled(false);
+  }
+  if (event->type() == QEvent::Show) {
+    if (auto* dialog = qobject_cast<QDialog*>(watched)) {
+      QTimer::singleShot(0, dialog, [this, dialog] { Answer(*dialog); });
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,219 @@
+#include <algorithm>
+#include <cerrno>
+#include <set>
+
+#include "reliability/Sweeps.h"
+
+using namespace Qt::StringLiterals;
+using FileCalls::Harm;
+using FileCalls::Kind;
+using FileCalls::Note;
+using FileCalls::Plan;
+
+namespace {
+
+/// The file that the user knows.
+QString FileOf(QString file) {
+  if (file.endsWith(".new"_L1)) file.chop(4);
+  return file;
+}
+
+QString FileOf(const std::string& path) {
+  return FileOf(QString::fromStdString(path));
+}
+
+/// Files and folders that the call changes.
+QStringList ChangedBy(const Note& note, const QString& root) {
+  switch (note.What) {
+    case Kind::Create:
+    case Kind::Write:
+    case Kind::Remove:
+      return {QString::fromStdString(note.Path).sliced(root.size())};
+    case Kind::MakeFolder:
+      return {QString::fromStdString(note.Path).sliced(root.size()) + u'/'};
+    case Kind::Rename:
+      return {QString::fromStdString(note.Path).sliced(root.size()),
+              QString::fromStdString(note.To).sliced(root.size())};
+    default:
+      return {};
+  }
+}
+
+/// What the calls before the nth have changed in the unharmed course of things.
+QSet<QString> ChangedBefore(const std::vector<Note>& notes, int nth, const QString& root) {
+  QSet<QString> names;
+  for (const Note& note : notes) {
+    if (note.Nth >= nth) break;
+    if (note.Result < 0) continue;
+    for (const QString& name : ChangedBy(note, root)) names.insert(name);
+  }
+  return names;
+}
+
+}  // namespace
+
+/// What was being written when it failed isn't published.
+QString Sweep::JudgePublished(const Note& harmed, const Outcome& outcome) const {
+  const std::set<Kind> writing{Kind::Create, Kind::Write, Kind::Flush, Kind::Close, Kind::Permissions, Kind::Rename};
+  if (!harmed.Path.ends_with(".new") || !writing.contains(harmed.What)) return {};
+  const QString name = FileOf(harmed.Path).sliced(m_bench.Root().size());
+  if (ChangedBefore(m_bench.Unharmed().Notes, harmed.Nth, m_bench.Root()).contains(name)) return {};
+  if (outcome.Tree.value(name) == m_bench.Before().value(name)) return {};
+  return u"  %1 was published after its writing failed\n"_s.arg(name);
+}
+
+QString Sweep::JudgeTelling(const Outcome& outcome) const {
+  const QStringList told = FailuresOf(outcome.Boxes);
+  const bool mustTell = m_bench.What().Tells == Save::Telling::Box;
+  if (told.isEmpty()) {
+    const bool done = WithoutTemporaries(outcome.Tree) == m_bench.After();
+    return mustTell && !done ? u"  the user wasn't told\n"_s + Differences(m_bench.After(), outcome.Tree) : QString();
+  }
+  // A print job tells in its own words.
+  if (!told.filter(u"A Print Error has occurred"_s).isEmpty()) return {};
+  // A folder's failure is told by the file whose name was to be kept in it.
+  const auto names = [&](const QString& file) {
+    return std::any_of(told.begin(), told.end(), [&](const QString& box) { return box.contains(file); });
+  };
+  if (!mustTell) {
+    // What fails behind it, on the way back to the menu, is told as ever.
+    for (const auto& [name, bytes] : m_bench.After().asKeyValueRange()) {
+      const bool written = bytes != m_bench.Before().value(name);
+      if (written && names(m_bench.Root() + name)) return u"  the user was told: "_s + told.join(u" | ") + u'\n';
+    }
+  }
+  for (const QString& path : outcome.HarmedPaths) {
+    if (names(FileOf(path)) || names(FileOf(path).sliced(m_bench.Root().size()))) return {};
+  }
+  return u"  %1 isn't named: %2\n"_s.arg(FileOf(outcome.Harmed.Path), told.join(u" | "));
+}
+
+QString Sweep::JudgeFailure(const Plan& plan, const Outcome& outcome) const {
+  if (!outcome.Broken.isEmpty()) return u"  "_s + outcome.Broken + u'\n';
+  if (outcome.Harmed.Nth == 0) return u"  nothing was harmed\n"_s;
+  QString lines = Torn(m_bench.Before(), m_bench.After(), outcome.Tree);
+  lines += JudgeTelling(outcome) + JudgePublished(outcome.Harmed, outcome);
+  // What fails from then on can't be cleared away either.
+  const QStringList temporaries = TemporariesOf(outcome.Tree);
+  if (plan.What == Harm::FailOnce && !temporaries.isEmpty())
+    lines += u"  left behind: "_s + temporaries.join(u' ') + u'\n';
+  const DataTree files = WithoutTemporaries(outcome.Tree);
+  if (files == m_bench.After()) return lines;
+
+  const QSet<QString> before = ChangedBefore(m_bench.Unharmed().Notes, outcome.Harmed.Nth, m_bench.Root());
+  const QString harmed = FileOf(outcome.Harmed.Path).sliced(m_bench.Root().size());
+  for (const QString& name : m_bench.After().keys()) {
+    const bool old = files.value(name) == m_bench.Before().value(name);
+    const bool isNew = files.value(name) == m_bench.After().value(name);
+    if (m_bench.What().Tells == Save::Telling::SkipsRest && !old && !before.contains(name)) {
+      lines += u"  %1 was still written after the failure\n"_s.arg(name);
+    }
+    if (m_bench.What().Tells == Save::Telling::PassesOver && plan.What == Harm::FailOnce && !isNew && name != harmed &&
+        name != u"/Backup"_s + harmed) {
+      lines += u"  %1 was passed over as well\n"_s.arg(name);
+    }
+  }
+  return lines;
+}
+
+/// When the fault is gone the next save works: in the same program where its screen still stands, else in the next.
+void Sweep::GoOn(const Outcome& outcome, const QString& what) {
+  if (!outcome.Broken.isEmpty()) return;
+  if (!outcome.DidAgain) {
+    StartAgain(outcome.Tree, what);
+    return;
+  }
+  ++m_findings.Counts[u"saves done again"_s];
+  QString lines = Differences(m_bench.After(), outcome.AgainTree);
+  for (const QString& error : FailuresOf(outcome.AgainBoxes)) lines += u"  told: "_s + error + u'\n';
+  m_findings.Add(m_bench, what + u", then saved again"_s, lines);
+}
+
+void Sweep::Fail(const Plan& plan, const QString& what) {
+  const Outcome outcome = m_bench.Try(plan, true);
+  m_findings.Add(m_bench, what, JudgeFailure(plan, outcome));
+  GoOn(outcome, what);
+}
+
+void Sweep::Errors() {
+  struct Failure {
+    int Error;
+    const char* Name;
+  };
+  const std::vector<Failure> failures{{ENOSPC, "no space"}, {EIO, "an I/O error"}, {EACCES, "access denied"}};
+  const std::set<Kind> decisive{Kind::Create, Kind::Write, Kind::Flush, Kind::Rename, Kind::Remove};
+  struct Case {
+    Plan What;
+    QString Name;
+  };
+  std::vector<Case> cases, others;
+  for (const Note& note : m_bench.Unharmed().Notes) {
+    if (note.What == Kind::Mark) continue;
+    for (std::size_t i = 0; i < failures.size(); ++i) {
+      for (const Harm harm : {Harm::FailOnce, Harm::FailFromOn}) {
+        const QString name =
+            u"%1 at call %2 (%3 %4)%5"_s.arg(QString::fromLatin1(failures[i].Name))
+                .arg(note.Nth)
+                .arg(QString::fromLatin1(FileCalls::NameOf(note.What)), QString::fromStdString(note.Path),
+                     harm == Harm::FailOnce ? QString() : u" and from then on"_s);
+        // What decides whether a file stands is never left out of a sample.
+        const bool chosen = decisive.contains(note.What) && harm == Harm::FailOnce &&
+                            i == static_cast<std::size_t>(note.Nth) % failures.size();
+        (chosen ? cases : others).push_back({{harm, note.Nth, failures[i].Error, 0}, name});
+      }
+    }
+  }
+  const auto run = [this](const Case& one) {
+    ++m_findings.Counts[u"errors"_s];
+    Fail(one.What, one.Name);
+  };
+  for (const Case& one : cases) run(one);
+  m_effort.Sample(static_cast<int>(others.size()), [&](int i) { run(others[static_cast<std::size_t>(i)]); });
+}
+
+void Sweep::ShortWrites() {
+  struct Case {
+    Plan What;
+    std::string Path;
+  };
+  std::vector<Case> cases;
+  for (const Note& note : m_bench.Unharmed().Notes) {
+    if (note.What != Kind::Write || note.Size == 0) continue;
+    for (const long size : std::set<long>{0, 1, note.Size / 2, note.Size - 1}) {
+      if (size == note.Size) continue;
+      if (size > 0) cases.push_back({{Harm::ShortOnce, note.Nth, ENOSPC, size}, note.Path});
+      cases.push_back({{Harm::ShortThenFull, note.Nth, ENOSPC, size}, note.Path});
+    }
+  }
+  m_effort.Sample(static_cast<int>(cases.size()), [&](int i) {
+    const auto& [plan, path] = cases[static_cast<std::size_t>(i)];
+    ++m_findings.Counts[u"short writes"_s];
+    const bool goesOn = plan.What == Harm::ShortOnce;
+    const QString what = u"%1 bytes taken by write %2 (%3), the rest %4"_s.arg(plan.Size).arg(plan.Nth).arg(
+        QString::fromStdString(path), goesOn ? u"later"_s : u"never"_s);
+    if (!goesOn) {
+      Fail(plan, what);
+      return;
+    }
+    const Outcome outcome = m_bench.Try(plan);
+    QString lines = outcome.Broken + Differences(m_bench.After(), outcome.Tree);
+    lines += FailuresOf(outcome.Boxes).join(u'\n');
+    m_findings.Add(m_bench, what, lines);
+  });
+}
+
+void Sweep::FullDisk() {
+  for (int blocks = 0;; ++blocks) {
+    ++m_findings.Counts[u"full disks"_s];
+    const Plan plan{Harm::FullDisk, 0, ENOSPC, blocks};
+    const QString what = u"room for %1 blocks"_s.arg(blocks);
+    const Outcome outcome = m_bench.Try(plan, true);
+    if (outcome.Broken.isEmpty() && outcome.Harmed.Nth == 0) {
+      m_findings.Add(m_bench, what, Differences(m_bench.After(), outcome.Tree));
+      return;
+    }
+    m_findings.Add(m_bench, what, JudgeFailure(plan, outcome));
+    GoOn(outcome, what);
+    if (m_effort.IsOver()) return;
+  }
+}

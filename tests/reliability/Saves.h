@@ -1,0 +1,53 @@
+/// Each of the program's saves as the sweeps drive it: the tree that it starts from, the way to it through the real
+/// screens, and the one act of the user that saves.
+#pragma once
+
+#include <functional>
+#include <QString>
+#include <vector>
+
+#include "reliability/DataTree.h"
+
+class Desk;
+
+struct Save {
+  /// How much of a failure the user is told.
+  enum class Telling {
+    Box,        ///< A box names the file.
+    SkipsRest,  ///< Nothing; what was still to come is left out: a commit.
+    PassesOver  ///< Nothing; the file keeps its older copy: the exit backup.
+  };
+  /// What doing it again after a kill makes of the tree that the kill left.
+  using Continued = std::function<DataTree(const DataTree& left, const DataTree& before, const DataTree& after)>;
+
+  QString Name;
+  /// From the common tree to the one that this save starts from.
+  std::function<void(DataTree& tree)> Stock = [](DataTree&) {};
+  /// From the main menu to just before the save. Empty where the program's start itself is what saves.
+  std::function<void(Desk&)> Prepare{};
+  std::function<void(Desk&)> Perform{};
+  QString Screen{};  ///< Where it can be done again after a failure; blank: after a new start only.
+  Telling Tells = Telling::Box;
+  /// Whether the user sees at the next start that it was done. By default the tree is the one after it.
+  std::function<bool(const DataTree& left, const DataTree& after)> IsDone{};
+  Continued Again{};  ///< By default the tree after it.
+
+  bool AtStart() const { return Prepare == nullptr; }
+  bool WasDone(const DataTree& left, const DataTree& after) const {
+    return IsDone ? IsDone(left, after) : left == after;
+  }
+};
+
+/// All of them, in the order of a business's day.
+std::vector<Save> AllSaves();
+std::vector<Save> SavesOfFiles();
+std::vector<Save> SavesOfInvoices();
+/// A save as a careless program does it, and the words by which a sweep finds it out; none for the careful one.
+struct CarelessSave {
+  Save What;
+  QString Found;
+};
+std::vector<CarelessSave> CarelessSaves();
+
+/// A business with customers, a catalogue, partial invoices and records, and older copies of all in /Backup.
+DataTree CommonTree();

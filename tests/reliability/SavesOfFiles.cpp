@@ -1,0 +1,159 @@
+// The saves of Setup, the customers and the catalogue, the start and the end of the program.
+#include <QCheckBox>
+#include <QListWidget>
+#include <QTableView>
+#include <QTabWidget>
+
+#include "reliability/Desk.h"
+#include "reliability/Saves.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Customers = u"frmNewCustomer"_s;
+const QString CustomerFile = u"/CustomerData.txt"_s;
+
+void Turn(const ScreenDriver& screen, const QString& tabs, int tab) {
+  screen.Control<QTabWidget>(tabs)->setCurrentIndex(tab);
+  ScreenDriver::ProcessEvents();
+}
+
+std::function<void(Desk&)> Clicks(const QString& window, const QString& button) {
+  return [window, button](Desk&) { ScreenDriver(window).Click(button); };
+}
+
+Save Setup() {
+  Save save{.Name = u"setup"_s};
+  save.Prepare = [](Desk&) {
+    ScreenDriver(u"frmStartup"_s).Trigger(u"mnuCreate"_s);
+    const ScreenDriver setup(u"frmSetup"_s);
+    setup.Fill(u"txtBusiness_0"_s, u"Grove and Sons"_s);
+    Turn(setup, u"tabInfo"_s, 2);
+    Turn(setup, u"SSTab2"_s, 1);
+    setup.PickEntry(u"cboRate1"_s, u"7.0"_s);
+    if (!setup.Control<QCheckBox>(u"ckLabor"_s)->isChecked()) setup.Click(u"ckLabor"_s);
+  };
+  save.Perform = Clicks(u"frmSetup"_s, u"cmdQuit"_s);
+  save.Screen = u"frmSetup"_s;
+  return save;
+}
+
+Save CustomerAdd() {
+  Save save{.Name = u"customer-add"_s};
+  save.Prepare = [](Desk& desk) {
+    desk.OpenRoutine(0);
+    const ScreenDriver screen(Customers);
+    screen.Trigger(u"mnuAdd"_s);
+    screen.Fill(u"txtCustomer_0"_s, u"1004"_s);
+    screen.Fill(u"txtCustomer_1"_s, u"Dune Hotel"_s);
+  };
+  save.Perform = Clicks(Customers, u"cmdNav_0"_s);
+  save.Screen = Customers;
+  return save;
+}
+
+Save CustomerEdit() {
+  Save save{.Name = u"customer-edit"_s};
+  save.Prepare = [](Desk& desk) {
+    desk.OpenRoutine(0);
+    ScreenDriver(Customers).Fill(u"txtCustomer_2"_s, u"99 New Street"_s);
+  };
+  save.Perform = Clicks(Customers, u"cmdCustomer_0"_s);
+  save.Screen = Customers;
+  return save;
+}
+
+Save CustomerDelete() {
+  Save save{.Name = u"customer-delete"_s};
+  save.Prepare = [](Desk& desk) {
+    desk.OpenRoutine(0);
+    ScreenDriver(Customers).Click(u"cmdNav_3"_s);
+  };
+  save.Perform = [](Desk&) { ScreenDriver(Customers).Trigger(u"mnuDelete"_s); };
+  save.Screen = Customers;
+  // Once the shorter file stands the customer is gone; his ledger may outlive a kill, and no customer is listed for it.
+  save.IsDone = [](const DataTree& left, const DataTree& after) {
+    return left.value(CustomerFile) == after.value(CustomerFile);
+  };
+  return save;
+}
+
+Save CatalogueSave() {
+  Save save{.Name = u"catalogue"_s};
+  save.Prepare = [](Desk& desk) {
+    desk.OpenRoutine(3);
+    const ScreenDriver screen(u"frmServices"_s);
+    Turn(screen, u"tabServices"_s, 0);
+    // Where a kill came after it was stored, the grid shows it.
+    if (screen.Control<QTableView>(u"fgServices"_s)->model()->rowCount() > 1) return;
+    screen.Click(u"cmdServices_1"_s);
+    screen.Fill(u"txtDescription_0"_s, u"Pruning"_s);
+    screen.Fill(u"txtCharge_0"_s, u"35"_s);
+    screen.Control<QListWidget>(u"lstTime"_s)->setCurrentRow(2);
+    screen.Click(u"cmdServices_4"_s);
+  };
+  save.Perform = Clicks(u"frmServices"_s, u"cmdServices_0"_s);
+  save.Screen = u"frmServices"_s;
+  return save;
+}
+
+Save Labor() {
+  Save save{.Name = u"labor"_s};
+  save.Prepare = [](Desk& desk) {
+    desk.OpenRoutine(3);
+    const ScreenDriver screen(u"frmServices"_s);
+    Turn(screen, u"tabServices"_s, 2);
+    screen.Fill(u"txtLabor_1"_s, u"Arborist"_s);
+    screen.Fill(u"txtLaborRate_1"_s, u"90"_s);
+  };
+  save.Perform = Clicks(u"frmServices"_s, u"cmdServices_17"_s);
+  save.Screen = u"frmServices"_s;
+  return save;
+}
+
+Save ExitBackup() {
+  Save save{.Name = u"exit-backup"_s};
+  save.Stock = [](DataTree& tree) {
+    tree[u"/Labor.txt"_s] = "\"General Labor\",\"$50.00\"\r\n\"\",\"$0.00\"\r\n\"\",\"$0.00\"\r\n";
+    tree[u"/KVInvoiceNo.txt"_s] = "20260018\r\n";
+    tree.remove(u"/Backup/Services.txt"_s);
+  };
+  save.Prepare = [](Desk&) {};
+  save.Perform = [](Desk&) { ScreenDriver(u"frmStartup"_s).Trigger(u"mnuExit"_s); };
+  save.Tells = Save::Telling::PassesOver;
+  return save;
+}
+
+Save StartSaves(const QString& name, std::function<void(DataTree&)> stock) {
+  Save save{.Name = name, .Stock = std::move(stock)};
+  save.Perform = [](Desk& desk) {
+    if (desk.Start()) desk.GoToMenu();
+  };
+  return save;
+}
+
+Save Restore() {
+  return StartSaves(u"restore-from-backup"_s, [](DataTree& tree) {
+    for (const auto* name : {"/KarvexInvoicerSettings.txt", "/MyBusinessData.txt", "/TaxSettings.txt", "/Services.txt",
+                             "/InvoiceMemo.txt", "/CustomerData.txt", "/KVInvoiceNo.txt"}) {
+      tree.remove(QString::fromLatin1(name));
+    }
+  });
+}
+
+Save FirstStart() {
+  return StartSaves(u"first-start"_s, [](DataTree& tree) {
+    const DataTree business = std::exchange(tree, {});
+    for (const auto* name : {"/KarvexInvoicerSettings.txt", "/MyBusinessData.txt", "/Phone.txt", "/CustomerData.txt"}) {
+      tree[QString::fromLatin1(name)] = business.value(QString::fromLatin1(name));
+    }
+  });
+}
+
+}  // namespace
+
+std::vector<Save> SavesOfFiles() {
+  return {FirstStart(),     Restore(),       Setup(), CustomerAdd(), CustomerEdit(),
+          CustomerDelete(), CatalogueSave(), Labor(), ExitBackup()};
+}
