@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <QScopeGuard>
 #include <QSet>
 #include <string_view>
 #include <vector>
@@ -178,13 +177,18 @@ std::optional<RuntimeError> CustomerFile::Remove(int number, int count, const QS
     }
   }
   // What fails leaves no second customer file behind.
-  auto failedOnTheWay = qScopeGuard([&] { m_disk.Store().Device().Remove(m_disk.PathOf(temporary)); });
-  m_disk.SaveFile(temporary, kept, BackupCopy::Kept);
+  const auto drop = [&] { m_disk.Store().Device().Remove(m_disk.PathOf(temporary)); };
+  try {
+    m_disk.SaveFile(temporary, kept, BackupCopy::Kept);
+  } catch (const RuntimeError&) {
+    drop();
+    throw;
+  }
   try {
     m_disk.RenameDataFile(temporary, FileName());
-    failedOnTheWay.dismiss();
   } catch (const RuntimeError& error) {
     if (m_disk.Store().IsFile(m_disk.PathOf(temporary))) {
+      drop();
       throw;
     }
     // The shorter file is in place, but it isn't sure to outlast a power failure: ledger and copy stay.

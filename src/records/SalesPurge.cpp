@@ -60,8 +60,14 @@ bool PurgeSoldItems(const SalesRange& range, CommonDiskRoutines& disk) {
     disk.KillWithBackup(name);
     return false;
   }
-  disk.SaveFile(temporary, kept, BackupCopy::Kept);
-  disk.RenameDataFile(temporary, name);
+  try {
+    disk.SaveFile(temporary, kept, BackupCopy::Kept);
+    disk.RenameDataFile(temporary, name);
+  } catch (const RuntimeError&) {
+    // What fails leaves no second file behind.
+    disk.Store().Device().Remove(disk.PathOf(temporary));
+    throw;
+  }
   disk.CopyDataFile(name, u"/Backup/SoldItems.txt"_s);
   return true;
 }

@@ -232,10 +232,20 @@ class CustomerFileTest : public QObject {
       m_tree->Device.FailAt(FailingDevice::Call::Rename, nth, EACCES);
       QCOMPARE(ErrorOf([&] { m_file->Remove(2, 2, u"2"_s); }), 70);
       QCOMPARE(Customers(), before);
+      QVERIFY(!m_tree->Has(u"/CUSTOMER.TMP"_s));
       QCOMPARE(m_tree->Bytes(u"/Backup/CustomerData.txt"_s), "older");
       QCOMPARE(m_tree->Bytes(u"/KVActiveAccounts/2.txt"_s), "ledger");
       QCOMPARE(m_tree->Bytes(u"/Backup/KVActiveAccounts/2.txt"_s), "ledger copy");
     }
+  }
+
+  void aFolderThatIsNotFlushedBeforeTheRenameLeavesNoSecondFile() {
+    const QByteArray before = BusinessRecord("1", "One") + BusinessRecord("2", "Two");
+    PutCustomers(before);
+    m_tree->Device.FailAt(FailingDevice::Call::FlushFolder, 1, EIO);
+    QCOMPARE(ErrorOf([&] { m_file->Remove(2, 2, u"2"_s); }), 75);
+    QCOMPARE(Customers(), before);
+    QVERIFY(!m_tree->Has(u"/CUSTOMER.TMP"_s));
   }
 
   void aFolderThatIsNotFlushedAfterTheRenameIsAnsweredAndTheLedgerStays() {

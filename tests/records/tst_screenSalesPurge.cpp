@@ -196,6 +196,20 @@ class ScreenSalesPurge : public QObject {
     QCOMPARE(desk.Program.Tree.Bytes(File), Before + Behind + LongAgo);
   }
 
+  void aDiskThatFailsOnceOnTheWayLeavesNoSecondFile() {
+    // The second rename is the one that puts the shorter file in place, the first folder the one before it.
+    for (const auto& [call, nth] : {std::pair(FailingDevice::Call::Rename, 2), {FailingDevice::Call::FlushFolder, 1}}) {
+      Desk desk;
+      QVERIFY(desk.Open());
+      const auto before = desk.Program.Tree.Everything();
+      desk.Program.Files.FailAt(call, nth, EIO);
+      desk.Agree();
+      desk.Program.Answers.Ok({}, u"Karvex Invoicer"_s);
+      Desk::Purge();
+      QCOMPARE(desk.Program.Tree.Everything(), before);
+    }
+  }
+
   void killedAtAnyStepTheFileIsOldOrNew() {
     const QByteArray old = Last + Before + First;
     int step = 1;

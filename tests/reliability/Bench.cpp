@@ -125,6 +125,12 @@ Bench::Bench(const Save& save, const QString& folder) : m_save(save), m_folder(f
   m_before = ReadTree(Root());
   m_unharmed = Try({});
   WriteReport(AfterFile(), m_unharmed);
+  for (const FileCalls::Note& note : m_unharmed.Notes) {
+    const QString path = QString::fromStdString(note.Path);
+    if (note.What == FileCalls::Kind::Write && !path.endsWith(".new"_L1)) m_inPlace.insert(path.sliced(Root().size()));
+  }
+  // A ledger's copy is renewed with each posting, so that it may stand at any of them.
+  for (const QString& name : QSet<QString>(m_inPlace)) m_inPlace.insert(u"/Backup"_s + name);
 }
 
 Bench::~Bench() {

@@ -47,6 +47,8 @@ class Bench {
   /// What keeps the bench from being of any use; empty if nothing.
   QString Unusable() const;
 
+  /// What in the tree is torn: neither as before nor as after the save.
+  QString TornIn(const DataTree& tree) const { return Torn(m_before, After(), tree, m_inPlace); }
   Outcome Try(const FileCalls::Plan& plan, bool again = false);
   /// A new start on this tree; where `saves`, the way to the save and the save itself as well.
   Outcome Restart(const DataTree& tree, bool saves);
@@ -63,6 +65,7 @@ class Bench {
   QString m_folder;
   DataTree m_before;
   Outcome m_unharmed;
+  QSet<QString> m_inPlace;  ///< The files that the save writes in without replacing them.
   pid_t m_server = -1;
   int m_requests = -1;
   int m_answers = -1;

@@ -71,7 +71,7 @@ void WriteTree(const QString& root, const DataTree& tree) {
 QStringList TemporariesOf(const DataTree& tree) {
   QStringList names;
   for (const QString& name : tree.keys()) {
-    if (name.endsWith(".new"_L1) || name.endsWith(".TMP"_L1)) names.append(name);
+    if (name.endsWith(".new"_L1) || name == u"/CUSTOMER.TMP" || name == u"/TemporaryFile.txt") names.append(name);
   }
   return names;
 }
@@ -102,9 +102,8 @@ int RecordLengthOf(const QString& name) {
   return ledger ? 155 : 0;
 }
 
-bool IsOnTheWay(const QString& name, const QByteArray& before, const QByteArray& after, const QByteArray& found) {
+bool IsOnTheWay(const QByteArray& before, const QByteArray& after, const QByteArray& found, int length) {
   if (found.isNull() ? before.isNull() || after.isNull() : found == before || found == after) return true;
-  const int length = RecordLengthOf(name);
   // A file that goes is removed in one step; one that comes may be empty until its first record.
   if (length == 0 || found.isNull() || after.isNull() || found.size() % length != 0) return false;
   if (found.size() < std::min(before.size(), after.size()) || found.size() > std::max(before.size(), after.size())) {
@@ -117,12 +116,12 @@ bool IsOnTheWay(const QString& name, const QByteArray& before, const QByteArray&
   return true;
 }
 
-QString Torn(const DataTree& before, const DataTree& after, const DataTree& found) {
+QString Torn(const DataTree& before, const DataTree& after, const DataTree& found, const QSet<QString>& inPlace) {
   QString lines;
   for (const QString& name : NamesOf(before, found)) {
     if (name.endsWith(u'/') || TemporariesOf({{name, {}}}).size() == 1) continue;
     const QByteArray old = before.value(name), end = after.value(name), now = found.value(name);
-    if (IsOnTheWay(name, old, end, now)) continue;
+    if (IsOnTheWay(old, end, now, inPlace.contains(name) ? RecordLengthOf(name) : 0)) continue;
     lines += u"  %1 is neither old nor new\n    is  %2\n    old %3\n    new %4\n"_s.arg(name, Described(now),
                                                                                         Described(old), Described(end));
   }

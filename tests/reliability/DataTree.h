@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -20,8 +21,8 @@ QString Differences(const DataTree& wanted, const DataTree& found);
 
 /// The length of the file's records; 0 of a file that is only ever replaced whole.
 int RecordLengthOf(const QString& name);
-/// Whether the file may stand so on the way from `before` to `after`: as before, as after, or, where its records are
-/// written in place, each record as before or as after. An absent file is a null array.
-bool IsOnTheWay(const QString& name, const QByteArray& before, const QByteArray& after, const QByteArray& found);
-/// Whether each file of `found` is; else a line for each that isn't.
-QString Torn(const DataTree& before, const DataTree& after, const DataTree& found);
+/// Whether a file may stand so on the way from `before` to `after`: as before, as after, or, where records of `length`
+/// bytes are written in place, each record as before or as after. An absent file is a null array.
+bool IsOnTheWay(const QByteArray& before, const QByteArray& after, const QByteArray& found, int length);
+/// A line for each file of `found` that isn't so; those `inPlace` are written record by record.
+QString Torn(const DataTree& before, const DataTree& after, const DataTree& found, const QSet<QString>& inPlace);

@@ -22,7 +22,8 @@ Desk::~Desk() = default;
 
 bool Desk::Start() {
   QDir().mkpath(m_lockFolder);
-  m_program = std::make_unique<Program>(PlatformOn(m_root, m_lockFolder, m_files, m_calendar, m_dialogs, m_paper));
+  m_program =
+      std::make_unique<Program>(PlatformOn(m_root, m_lockFolder, m_files, m_calendar, m_dialogs, m_paper, m_modem));
   const bool runs = m_program->Start();
   ScreenDriver::ProcessEvents();
   return runs;

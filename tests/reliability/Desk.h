@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include "desktop/SerialLine.h"
 #include "Program.h"
 #include "runtime/FileDevice.h"
 #include "support/FixedClock.h"
@@ -44,5 +45,6 @@ class Desk : public QObject {
   FixedClock m_calendar;
   TestDialogs m_dialogs;
   RecordingPrinter m_paper;
+  SerialLine m_modem{PortTable{}};
   std::unique_ptr<Program> m_program;
 };

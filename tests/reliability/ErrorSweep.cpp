@@ -65,8 +65,8 @@ QString Sweep::JudgePublished(const Note& harmed, const Outcome& outcome) const 
 QString Sweep::JudgeTelling(const Outcome& outcome) const {
   const QStringList told = FailuresOf(outcome.Boxes);
   const bool mustTell = m_bench.What().Tells == Save::Telling::Box;
+  const bool done = WithoutTemporaries(outcome.Tree) == m_bench.After();
   if (told.isEmpty()) {
-    const bool done = WithoutTemporaries(outcome.Tree) == m_bench.After();
     return mustTell && !done ? u"  the user wasn't told\n"_s + Differences(m_bench.After(), outcome.Tree) : QString();
   }
   // A print job tells in its own words.
@@ -75,7 +75,7 @@ QString Sweep::JudgeTelling(const Outcome& outcome) const {
   const auto names = [&](const QString& file) {
     return std::any_of(told.begin(), told.end(), [&](const QString& box) { return box.contains(file); });
   };
-  if (!mustTell) {
+  if (!mustTell && !done) {
     // What fails behind it, on the way back to the menu, is told as ever.
     for (const auto& [name, bytes] : m_bench.After().asKeyValueRange()) {
       const bool written = bytes != m_bench.Before().value(name);
@@ -91,7 +91,7 @@ QString Sweep::JudgeTelling(const Outcome& outcome) const {
 QString Sweep::JudgeFailure(const Plan& plan, const Outcome& outcome) const {
   if (!outcome.Broken.isEmpty()) return u"  "_s + outcome.Broken + u'\n';
   if (outcome.Harmed.Nth == 0) return u"  nothing was harmed\n"_s;
-  QString lines = Torn(m_bench.Before(), m_bench.After(), outcome.Tree);
+  QString lines = m_bench.TornIn(outcome.Tree);
   lines += JudgeTelling(outcome) + JudgePublished(outcome.Harmed, outcome);
   // What fails from then on can't be cleared away either.
   const QStringList temporaries = TemporariesOf(outcome.Tree);

@@ -1,5 +1,6 @@
 #include <QCryptographicHash>
 #include <set>
+#include <utility>
 
 #include "reliability/Sweeps.h"
 
@@ -18,6 +19,12 @@ QByteArray FingerprintOf(const DataTree& tree) {
     if (!temporary) hash.addData(bytes);
   }
   return hash.result();
+}
+
+bool Changes(FileCalls::Kind kind) {
+  using FileCalls::Kind;
+  return kind == Kind::Create || kind == Kind::Write || kind == Kind::Truncate || kind == Kind::Rename ||
+         kind == Kind::Remove || kind == Kind::MakeFolder;
 }
 
 }  // namespace
@@ -50,14 +57,14 @@ void Sweep::StartAgain(const DataTree& left, const QString& what) {
   const QByteArray fingerprint = FingerprintOf(left);
   if (m_restarted.contains(fingerprint)) return;
   m_restarted.insert(fingerprint);
-  if (m_states++ % m_effort.Every != 0) return;
+  if (m_states++ % m_effort.RestartEvery != 0) return;
   ++m_findings.Counts[u"restarts"_s];
   const DataTree files = WithoutTemporaries(left);
   const bool done = m_bench.What().WasDone(files, m_bench.After());
   const Outcome outcome = m_bench.Restart(left, !done);
   QString lines = outcome.Broken;
   for (const QString& box : FailuresOf(outcome.Boxes)) lines += u"  told: "_s + box + u'\n';
-  lines += done ? Torn(files, m_bench.After(), outcome.Tree) : Differences(Wanted(files), outcome.Tree);
+  lines += done ? m_bench.TornIn(outcome.Tree) : Differences(Wanted(files), outcome.Tree);
   m_findings.Add(m_bench, what + u", then started again"_s, lines);
 }
 
@@ -68,7 +75,7 @@ void Sweep::KillOnce(const Plan& plan, const QString& what) {
     m_findings.Add(m_bench, what, u"  it wasn't killed; "_s + outcome.Broken);
     return;
   }
-  m_findings.Add(m_bench, what, Torn(m_bench.Before(), m_bench.After(), outcome.Tree));
+  m_findings.Add(m_bench, what, m_bench.TornIn(outcome.Tree));
   StartAgain(outcome.Tree, what);
 }
 
@@ -78,11 +85,14 @@ void Sweep::Kill() {
     QString Name;
   };
   std::vector<Case> cases;
+  bool differs = true;
   for (const FileCalls::Note& note : m_bench.Unharmed().Notes) {
     if (note.What == FileCalls::Kind::Mark) continue;
+    // A sample leaves out the kills that find the disk as the one before found it.
+    const bool isNew = std::exchange(differs, Changes(note.What)) || m_effort.Every == 1;
     const QString call = u"call %1 (%2 %3)"_s.arg(note.Nth).arg(QString::fromLatin1(FileCalls::NameOf(note.What)),
                                                                 QString::fromStdString(note.Path));
-    cases.push_back({{Harm::Kill, note.Nth, 0, 0}, u"killed before "_s + call});
+    if (isNew) cases.push_back({{Harm::Kill, note.Nth, 0, 0}, u"killed before "_s + call});
     // A write in place is one call of less than a page: the system does it whole or not at all.
     if (note.What != FileCalls::Kind::Write || !QString::fromStdString(note.Path).endsWith(".new"_L1)) continue;
     for (const long size : std::set<long>{1, note.Size / 2, note.Size - 1}) {

@@ -4,6 +4,7 @@
 #include <QTableView>
 #include <QTabWidget>
 
+#include "records/SoldItems.h"
 #include "reliability/Desk.h"
 #include "reliability/Saves.h"
 
@@ -76,6 +77,54 @@ Save CustomerDelete() {
   save.IsDone = [](const DataTree& left, const DataTree& after) {
     return left.value(CustomerFile) == after.value(CustomerFile);
   };
+  return save;
+}
+
+Save Auxiliary(const QString& name, const QString& button) {
+  Save save{.Name = name};
+  save.Prepare = [](Desk& desk) {
+    desk.OpenRoutine(0);
+    const ScreenDriver screen(Customers);
+    screen.Trigger(u"mnuAux"_s);
+    for (int box = 0; box < 6; ++box) {
+      screen.Fill(u"txtHeading_%1"_s.arg(box), u"Heading %1"_s.arg(box));
+      screen.Fill(u"txtAux_%1"_s.arg(box), u"Note %1"_s.arg(box));
+    }
+  };
+  save.Perform = Clicks(Customers, button);
+  save.Screen = Customers;
+  return save;
+}
+
+Save SpeedNumbers() {
+  Save save{.Name = u"speed-numbers"_s};
+  save.Stock = [](DataTree& tree) {
+    tree[u"/SpeedNumbers.txt"_s] = "\"Ann\"\r\n\"555\"\r\n";
+    tree[u"/Backup/SpeedNumbers.txt"_s] = "\"Ann\"\r\n\"444\"\r\n";
+  };
+  save.Prepare = [](Desk& desk) {
+    desk.OpenRoutine(0);
+    ScreenDriver(Customers).Click(u"Image1_1"_s);
+    const ScreenDriver dialer(u"frmDialer"_s);
+    dialer.Click(u"cmdDialer_1"_s);
+    dialer.Fill(u"txtDialer_0"_s, u"Bob"_s);
+    dialer.Fill(u"txtDialer_1"_s, u"777"_s);
+  };
+  save.Perform = Clicks(u"frmDialer"_s, u"cmdSpeedDialer_0"_s);
+  save.Screen = u"frmDialer"_s;
+  return save;
+}
+
+Save SalesPurge() {
+  Save save{.Name = u"sales-purge"_s};
+  save.Stock = [](DataTree& tree) {
+    tree[u"/SoldItems.txt"_s] = Sold("Crate", Day::Feb4, "20260001", 2) + Sold("Crate", Day::Mar1, "20260016", 3) +
+                                Sold("Hammer", Day::Feb4, "20260002", 1);
+    tree[u"/Backup/SoldItems.txt"_s] = Sold("Crate", Day::Feb4, "20260001", 2);
+  };
+  save.Prepare = [](Desk& desk) { desk.OpenRoutine(5); };
+  save.Perform = [](Desk&) { ScreenDriver(u"frmSalesReport"_s).Trigger(u"mnuDelete"_s); };
+  save.Screen = u"frmSalesReport"_s;
   return save;
 }
 
@@ -154,6 +203,17 @@ Save FirstStart() {
 }  // namespace
 
 std::vector<Save> SavesOfFiles() {
-  return {FirstStart(),     Restore(),       Setup(), CustomerAdd(), CustomerEdit(),
-          CustomerDelete(), CatalogueSave(), Labor(), ExitBackup()};
+  return {FirstStart(),
+          Restore(),
+          Setup(),
+          CustomerAdd(),
+          CustomerEdit(),
+          CustomerDelete(),
+          CatalogueSave(),
+          Auxiliary(u"auxiliary-headings"_s, u"cmdSaveAux_0"_s),
+          Auxiliary(u"auxiliary-data"_s, u"cmdSaveAux_1"_s),
+          Labor(),
+          SpeedNumbers(),
+          SalesPurge(),
+          ExitBackup()};
 }

@@ -13,7 +13,8 @@
 /// How much of a sweep is done: all of its cases, or an even sample of them.
 class Effort {
  public:
-  int Every = 1;  ///< Of the cases that may be sampled: each `Every`th.
+  int Every = 1;         ///< Of the cases that may be sampled: each `Every`th.
+  int RestartEvery = 1;  ///< Of the trees that were left: each `RestartEvery`th is started on again.
   std::chrono::steady_clock::time_point Deadline = std::chrono::steady_clock::time_point::max();
 
   bool IsOver() const { return std::chrono::steady_clock::now() >= Deadline; }

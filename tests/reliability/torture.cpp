@@ -79,7 +79,10 @@ void Work(const Order& order, const QString& folder, std::atomic<std::size_t>& n
     const std::size_t mine = next++;
     if (mine >= order.Saves.size()) break;
     Effort effort;
-    if (order.Short) effort.Every = 8;
+    if (order.Short) {
+      effort.Every = 16;
+      effort.RestartEvery = 4;
+    }
     if (order.Minutes > 0) {
       const auto left = end - steady_clock::now();
       const auto saves = static_cast<long>((order.Saves.size() - mine + workers - 1) / workers);

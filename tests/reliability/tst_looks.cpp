@@ -26,7 +26,7 @@ class LooksTest : public QObject {
       folder.Put(u"/Labor.txt"_s, "new");
       folder.Put(u"/Backup/Labor.txt"_s, "old");
       const auto broken = Failing(folder, error);
-      const RuntimeError told = ErrorOf([&] { folder.Disk.FileExists(u"/Labor.txt"_s); });
+      const RuntimeError told = CaughtFrom([&] { folder.Disk.FileExists(u"/Labor.txt"_s); });
       QCOMPARE(told.Number(), error == EACCES ? ErrorNumber::PermissionDenied : ErrorNumber::PathFileAccess);
       QCOMPARE(told.Subject(), folder.Path(u"/Labor.txt"_s));
       FileCalls::Disarm();
@@ -48,7 +48,7 @@ class LooksTest : public QObject {
   void aFolderThatCannotBeLookedAtIsTold() {
     DataFolder folder;
     const auto broken = Failing(folder, EIO);
-    const RuntimeError told = ErrorOf([&] { folder.Store.IsFolder(folder.Path(u"/Backup"_s)); });
+    const RuntimeError told = CaughtFrom([&] { folder.Store.IsFolder(folder.Path(u"/Backup"_s)); });
     QCOMPARE(told.Number(), ErrorNumber::PathFileAccess);
     QCOMPARE(told.Subject(), folder.Path(u"/Backup"_s));
   }
