@@ -1,8 +1,12 @@
 #include "desktop/SerialLine.h"
 
+#include <sys/ioctl.h>
+#include <termios.h>
 #include <unistd.h>
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QSerialPort>
+#include <QThread>
 #include <QTimer>
 
 #include "runtime/CodePage.h"
@@ -11,8 +15,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The longest that a text may take to leave the program: a few characters on a line that doesn't stand still.
+/// The longest that a text may take to leave the machine: a few characters on a line that doesn't stand still.
 constexpr int DrainMilliseconds = 100;
+/// Between two looks at what the driver still holds: half a character at the usual speed.
+constexpr unsigned long LookMicroseconds = 500;
 /// The longest pass of the event loop without bytes: short enough that a click in it is answered at once.
 constexpr int PassMilliseconds = 20;
 
@@ -20,6 +26,16 @@ constexpr int PassMilliseconds = 20;
 /// not the lock file that the toolkit makes before it looks.
 bool CanBeOpened(const QString& device) {
   return !device.isEmpty() && access(device.toLocal8Bit().constData(), R_OK | W_OK) == 0;
+}
+
+/// Waits until the driver has put everything on the wire. Its queue is asked rather than waited for, since a line that
+/// stands still would keep such a wait for ever; what is left then are the few characters in the device itself.
+void Drain(int line, const QDeadlineTimer& limit) {
+  int queued = 1;
+  while (ioctl(line, TIOCOUTQ, &queued) == 0 && queued > 0 && !limit.hasExpired()) {
+    QThread::usleep(LookMicroseconds);
+  }
+  if (queued == 0) tcdrain(line);
 }
 
 }  // namespace
@@ -70,8 +86,13 @@ void SerialLine::Open() {
 
 void SerialLine::Output(const QString& text) {
   if (!PortOpen()) return;
+  const QDeadlineTimer limit(DrainMilliseconds, Qt::PreciseTimer);
   m_port->write(ToCodePage(text));
-  m_port->waitForBytesWritten(DrainMilliseconds);
+  while (m_port->bytesToWrite() > 0) {
+    if (!m_port->waitForBytesWritten(static_cast<int>(limit.remainingTime()))) return;
+  }
+  // Only now is it the other end's turn, and the time that it has to answer in begins.
+  Drain(m_port->handle(), limit);
 }
 
 int SerialLine::InBufferCount() {

@@ -17,7 +17,8 @@ class SerialPort {
   /// False again once the line has dropped by itself.
   virtual bool PortOpen() const = 0;
 
-  /// Sends the text and waits, for a moment at most, until it has left the program.
+  /// Sends the text and waits, for a moment at most, until its last character is on the wire: what is waited for or
+  /// closed after it doesn't cut into its sending.
   virtual void Output(const QString& text) = 0;
   /// How many bytes have come and wait to be taken; 0 while no port is open.
   virtual int InBufferCount() = 0;

@@ -1,0 +1,153 @@
+// The serial line and its waits: what has been sent is out before anything else happens, and what the user does while
+// a port is looked at waits. The line is a pseudo-terminal; how full the queue of its driver is, the test says.
+#include <sys/ioctl.h>
+#include <sys/syscall.h>
+#include <termios.h>
+#include <unistd.h>
+#include <cstdarg>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QtTest>
+#include <QWidget>
+
+#include "desktop/SerialLine.h"
+#include "support/PlayedModem.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A driver that hasn't put on the wire yet what it was given; a pseudo-terminal never says so by itself.
+struct Driver {
+  int Queued = 0;    ///< One less with each look; below zero it stands still.
+  QStringList Done;  ///< The looks at the queue, and the wait for what is in the device.
+};
+Driver* played = nullptr;
+
+}  // namespace
+
+extern "C" int ioctl(int line, unsigned long request, ...) noexcept {
+  va_list rest;
+  va_start(rest, request);
+  void* argument = va_arg(rest, void*);
+  va_end(rest);
+  if (played != nullptr && request == TIOCOUTQ) {
+    *static_cast<int*>(argument) = qAbs(played->Queued);
+    played->Done.append(u"%1 queued"_s.arg(qAbs(played->Queued)));
+    if (played->Queued > 0) --played->Queued;
+    return 0;
+  }
+  return static_cast<int>(syscall(SYS_ioctl, line, request, argument));
+}
+
+extern "C" int tcdrain(int line) {
+  if (played != nullptr) played->Done.append(u"drained"_s);
+  // A wait without end where the line stands still; on a pseudo-terminal it is over at once.
+  return static_cast<int>(syscall(SYS_ioctl, line, TCSBRK, 1));
+}
+
+class SerialLineTest : public QObject {
+  Q_OBJECT
+
+  /// Counts the moves of the mouse over it.
+  class Desk : public QWidget {
+   public:
+    Desk() {
+      setMouseTracking(true);
+      resize(300, 200);
+      show();
+    }
+    /// What the user does waits in the toolkit's queue until a loop asks for it, as on a desktop. Keys and clicks that
+    /// a test sends don't, so it is a move; keys and clicks wait in the same queue under the same mark.
+    void MoveMouse(const QPoint& place) const { QCursor::setPos(mapToGlobal(place)); }
+    int Moves = 0;
+
+   protected:
+    void mouseMoveEvent(QMouseEvent*) override { ++Moves; }
+  };
+
+ private Q_SLOTS:
+  void init() {
+    m_modem = std::make_unique<PlayedModem>();
+    m_modem->Answer = [](const QByteArray&) { return QByteArray(); };
+    m_line = std::make_unique<SerialLine>(PortsOn({{1, m_modem->Device()}}));
+    m_line->SetPortOpen(true);
+    QVERIFY(m_line->PortOpen());
+  }
+  void cleanup() { played = nullptr; }
+
+  void whatIsSentHasReachedTheOtherEndAtOnce() {
+    m_line->Output(u"AT\r"_s);
+    QCOMPARE(m_modem->Commands(), QByteArrayList{"AT"});
+  }
+
+  void aTextIsSentOnlyOnceTheDriverHoldsNothingMore() {
+    Driver driver;
+    driver.Queued = 3;
+    played = &driver;
+    m_line->Output(u"AT\r"_s);
+    QCOMPARE(driver.Done, (QStringList{u"3 queued"_s, u"2 queued"_s, u"1 queued"_s, u"0 queued"_s, u"drained"_s}));
+  }
+
+  void aLineThatStandsStillIsGivenUp() {
+    Driver driver;
+    driver.Queued = -3;
+    played = &driver;
+    QElapsedTimer timer;
+    timer.start();
+    m_line->Output(u"ATH\r"_s);
+    const qint64 waited = timer.elapsed();
+    QVERIFY2(waited >= 95 && waited < 30'000, qPrintable(QString::number(waited)));
+    // What is in the device isn't waited for then: nobody could say for how long.
+    QVERIFY(!driver.Done.isEmpty());
+    QVERIFY(!driver.Done.contains(u"drained"_s));
+    QVERIFY(m_line->PortOpen());
+  }
+
+  void whereNobodyReadsItIsGivenUpToo() {
+    Driver driver;
+    played = &driver;
+    QElapsedTimer timer;
+    timer.start();
+    // More than a line holds that isn't read.
+    m_line->Output(QString(1'000'000, u'A'));
+    const qint64 waited = timer.elapsed();
+    QVERIFY2(waited >= 95 && waited < 30'000, qPrintable(QString::number(waited)));
+    QCOMPARE(driver.Done, QStringList());
+    timer.start();
+    m_line->SetPortOpen(false);
+    QVERIFY(timer.elapsed() < 30'000);
+  }
+
+  void whatTheUserDoesWaitsUntilAPortWasLookedAt() {
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk));
+    desk.MoveMouse({10, 10});
+    QCoreApplication::processEvents();
+    desk.Moves = 0;
+    desk.MoveMouse({100, 100});
+    m_line->WaitForBytes(2, 50);
+    QCOMPARE(desk.Moves, 0);
+    // Nothing of it is lost.
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.Moves, 1);
+  }
+
+  void whatTheUserDoesIsHeardWhileANumberIsDialed() {
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk));
+    desk.MoveMouse({10, 10});
+    QCoreApplication::processEvents();
+    desk.Moves = 0;
+    desk.MoveMouse({100, 100});
+    QVERIFY(m_line->Yield());
+    QCOMPARE(desk.Moves, 1);
+  }
+
+ private:
+  std::unique_ptr<PlayedModem> m_modem;
+  std::unique_ptr<SerialLine> m_line;
+};
+
+QTEST_MAIN(SerialLineTest)
+#include "tst_serialLine.moc"
