@@ -59,9 +59,11 @@ QString ErrorBoxText(const RuntimeError& error, bool ends) {
         u"The program ends and leaves all files as they are. Put a picture in that place, or move what stands there "
         u"elsewhere; or remove CompanyLogo.txt and its copy in the Backup folder. Then start the program again."_s;
   } else if (error.From() == RuntimeError::Origin::FileContent) {
+    text += u"The file can't be read as what it must be. The program ends and leaves all files as they are. "_s;
     text +=
-        u"The file can't be read as what it must be. The program ends and leaves all files as they are. Put the copy "
-        u"from the Backup folder in its place, or remove the file, then start the program again."_s;
+        error.Advice().isEmpty()
+            ? u"Put the copy from the Backup folder in its place, or remove the file, then start the program again."_s
+            : error.Advice();
   } else if (ends) {
     text += u"The program can't start. Mend this and start it again; no file was changed by it."_s;
   } else {

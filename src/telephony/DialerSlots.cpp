@@ -50,8 +50,9 @@ void Dialer::RunSpeedDialer(int command) {
 }
 
 void Dialer::SaveSlot() {
-  m_speed.Names[m_slot] = m_view.Text(DialerText::txtDialer0);
-  m_speed.Numbers[m_slot] = m_view.Text(DialerText::txtDialer1);
+  // The boxes let no quote through, but "Load" sets them by itself, and a quote would end its field in the file.
+  m_speed.Names[m_slot] = m_view.Text(DialerText::txtDialer0).remove(u'"');
+  m_speed.Numbers[m_slot] = m_view.Text(DialerText::txtDialer1).remove(u'"');
   m_view.SetSlotCaption(static_cast<int>(m_slot), m_speed.Names[m_slot]);
   SaveSpeedNumbers(m_desk.Disk, m_speed);
   CloseSpeedDial();

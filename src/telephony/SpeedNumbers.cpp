@@ -9,6 +9,14 @@ namespace {
 
 const QString FileName = u"/SpeedNumbers.txt"_s;
 
+/// No exit copies this file, so none can be brought back.
+RuntimeError Damage(int number, const QString& text) {
+  return RuntimeError(number, FileName, text, RuntimeError::Origin::FileContent)
+      .WithAdvice(
+          u"Remove SpeedNumbers.txt from the program's data folder, which empties the speed-dial buttons, or mend it: "
+          u"two lines for each entry, its name and its number, and 10 entries at most. Then start the program again."_s);
+}
+
 }  // namespace
 
 SpeedNumbers LoadSpeedNumbers(CommonDiskRoutines& disk) {
@@ -17,10 +25,10 @@ SpeedNumbers LoadSpeedNumbers(CommonDiskRoutines& disk) {
   ListReader file = disk.OpenInputFile(FileName);
   for (std::size_t slot = 0; !file.AtEnd(); ++slot) {
     if (slot == SpeedNumbers::Slots) {
-      throw RuntimeError(ErrorNumber::OutOfRange, FileName, u"It holds more than 10 speed-dial numbers."_s,
-                         RuntimeError::Origin::FileContent);
+      throw Damage(ErrorNumber::OutOfRange, u"It holds more than 10 speed-dial numbers."_s);
     }
     speed.Names[slot] = file.ReadString();
+    if (file.AtEnd()) throw Damage(ErrorNumber::InputPastEnd, u"Its last name has no number."_s);
     speed.Numbers[slot] = file.ReadString();
   }
   return speed;

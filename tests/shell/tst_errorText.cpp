@@ -38,6 +38,15 @@ class ErrorTextTest : public QObject {
     QVERIFY(text.contains(u"Backup"_s));
   }
 
+  void damageMaySayItselfHowToMendIt() {
+    const RuntimeError damage =
+        RuntimeError(62, u"/SpeedNumbers.txt"_s, u"It is cut."_s, RuntimeError::Origin::FileContent)
+            .WithAdvice(u"Remove it."_s);
+    QCOMPARE(ErrorBoxText(damage, true),
+             u"/SpeedNumbers.txt: It is cut. (error 62)\n\nThe file can't be read as what it must be. The program ends "
+             u"and leaves all files as they are. Remove it."_s);
+  }
+
   void aLogoThatIsNoPictureIsNotAdvisedAway() {
     const RuntimeError damage(481, u"/CompanyLogo.txt"_s, u"It names /home/me/logo.png."_s,
                               RuntimeError::Origin::FileContent);

@@ -24,7 +24,8 @@ QString Recipient() {
 }
 
 struct Desk : PhoneDesk {
-  explicit Desk(const QByteArray& speed = {}) {
+  explicit Desk(const QByteArray& speed = {}, const QByteArray& customer = Customer("321-555-0142"))
+      : PhoneDesk(customer) {
     if (!speed.isEmpty()) Program.Tree.Write(File, speed);
   }
   QByteArray Bytes() const { return Program.Tree.Bytes(File); }
@@ -46,12 +47,15 @@ class ScreenSpeedDial : public QObject {
   void restoreBeforeAnySlotKeepsTheRecipient();
   void loadCurrentSavesTheRecipientInTheSlotChosenLast();
   void loadCurrentBeforeAnySlotUsesTheFirst();
+  void loadCurrentDropsTheQuotesOfAStoredName();
+  void aNamedSlotClickedDuringTheEntryIsOverwrittenByItsSave();
   void savingASlotWithoutANameDropsIt();
   void deleteAsksAndTakesTheEntryOut();
   void noToTheDeleteShutsItsButton();
   void aQuoteIsRefused();
   void aNameWithAnAmpersandIsShownAsItIs();
   void elevenPairsNameTheFileAndChangeNothing();
+  void aNameWithoutItsNumberTellsWhatToDo();
   void aFullDiskKeepsFileAndEntry();
 };
 
@@ -171,6 +175,40 @@ void ScreenSpeedDial::loadCurrentBeforeAnySlotUsesTheFirst() {
   QCOMPARE(Captions(), (QStringList{u"Bay Farm"_s, u"Bob"_s}));
 }
 
+void ScreenSpeedDial::loadCurrentDropsTheQuotesOfAStoredName() {
+  RecordText customer;
+  customer.AcctNo = "1001";
+  customer.AcctName = "Bay \"Big\", Farm";
+  customer.AcctType = "Business";
+  customer.Phone = "3\"5, 1";
+  Desk desk(AnnAndBob, customer.Bytes());
+  const ScreenDriver dialer = desk.Open();
+  QCOMPARE(Recipient(), u"Bay \"Big\", Farm 3\"5, 1"_s);
+  dialer.Click(u"cmdDialer_2"_s);
+  dialer.Click(u"cmdSpeedDialer_4"_s);
+  QCOMPARE(desk.Bytes(), AnnAndBob + "\"Bay Big, Farm\"\r\n\"35, 1\"\r\n");
+  const QStringList saved{u"Ann"_s, u"Bob"_s, u"Bay Big, Farm"_s};
+  QCOMPARE(Captions(), saved);
+  PhoneDesk::HangUp();
+  desk.Call();
+  QVERIFY(!desk.Program.Running().HasEnded());
+  QCOMPARE(Captions(), saved);
+}
+
+void ScreenSpeedDial::aNamedSlotClickedDuringTheEntryIsOverwrittenByItsSave() {
+  Desk desk(AnnAndBob);
+  const ScreenDriver dialer = desk.Open();
+  dialer.Click(u"cmdDialer_4"_s);
+  dialer.Type(u"Cy"_s);
+  dialer.Fill(u"txtDialer_1"_s, u"888"_s);
+  dialer.Click(u"cmdDialer_0"_s);
+  QCOMPARE(Recipient(), u"Ann 555"_s);
+  QVERIFY(dialer.IsVisible(u"fraSpeedDial"_s));
+  dialer.Click(u"cmdSpeedDialer_0"_s);
+  QCOMPARE(desk.Bytes(), "\"Cy\"\r\n\"888\"\r\n\"Bob\"\r\n\"777\"\r\n");
+  QCOMPARE(Captions(), (QStringList{u"Cy"_s, u"Bob"_s}));
+}
+
 void ScreenSpeedDial::savingASlotWithoutANameDropsIt() {
   Desk desk(AnnAndBob);
   const ScreenDriver dialer = desk.Open();
@@ -197,7 +235,11 @@ void ScreenSpeedDial::deleteAsksAndTakesTheEntryOut() {
   QCOMPARE(desk.Program.Answers.Last().Buttons, QMessageBox::Yes | QMessageBox::No);
   QCOMPARE(desk.Bytes(), "\"Bob\"\r\n\"777\"\r\n");
   QCOMPARE(Captions(), QStringList{u"Bob"_s});
+  // The button stays live on the same slot: the entry that moved up is the next that it takes out.
   QVERIFY(dialer.IsEnabled(u"cmdSpeedDialer_2"_s));
+  desk.Program.Answers.Yes(u"This will delete SpeedDial entry  Bob\nAre you Sure"_s, u"Delete Speed Dial"_s);
+  dialer.Click(u"cmdSpeedDialer_2"_s);
+  QCOMPARE(desk.Bytes(), QByteArray());
 }
 
 void ScreenSpeedDial::noToTheDeleteShutsItsButton() {
@@ -247,6 +289,27 @@ void ScreenSpeedDial::elevenPairsNameTheFileAndChangeNothing() {
   QVERIFY(desk.Program.Running().HasEnded());
   QCOMPARE(desk.Bytes(), eleven);
   QVERIFY(!desk.Program.Tree.Exists(u"/Backup/CustomerData.txt"_s));
+}
+
+void ScreenSpeedDial::aNameWithoutItsNumberTellsWhatToDo() {
+  const QByteArray damaged = AnnAndBob + "\"Cy\"\r\n";
+  Desk desk(damaged);
+  desk.Start();
+  desk.Program.Answers.Ok();
+  PhoneDesk::Customers().Click(u"Image1_1"_s);
+  QCOMPARE(
+      desk.Program.Answers.Last().Text,
+      u"/SpeedNumbers.txt: Its last name has no number. (error 62)\n\n"
+      "The file can't be read as what it must be. The program ends and leaves all files as they are. "
+      "Remove SpeedNumbers.txt from the program's data folder, which empties the speed-dial buttons, or mend it: "
+      "two lines for each entry, its name and its number, and 10 entries at most. Then start the program again."_s);
+  QVERIFY(desk.Program.Running().HasEnded());
+  QCOMPARE(desk.Bytes(), damaged);
+  // What it advises helps.
+  desk.Program.Tree.Remove(File);
+  desk.Open();
+  QVERIFY(PhoneDesk::Shown());
+  QCOMPARE(Captions(), QStringList());
 }
 
 void ScreenSpeedDial::aFullDiskKeepsFileAndEntry() {
