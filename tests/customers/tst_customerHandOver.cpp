@@ -127,6 +127,35 @@ class CustomerHandOverTest : public EditorFixture {
     QCOMPARE(Shown(), both ? QStringList{u"Select Phone or Cell? Click YES to dial Phone,\nClick NO to dial Cell"_s}
                            : QStringList());
   }
+
+  void theNumberToDialIsTheOneReadLast() {
+    RecordText shown;
+    shown.AcctNo = "1";
+    shown.AcctName = "Acme";
+    shown.AcctType = "Business";
+    shown.Phone = "111";
+    RecordText last = shown;
+    last.AcctNo = "2";
+    last.AcctName = "Bell";
+    last.Phone = "222";
+    OpenWith(shown.Bytes() + last.Bytes());
+    QCOMPARE(Editor().NumberToDial(), u"111"_s);
+    Editor().Find({EveryCustomer, "All", true});
+    QCOMPARE(Editor().ScreenCustomerName(), u"Acme"_s);
+    QCOMPARE(Editor().NumberToDial(), u"222"_s);
+    // Any load brings it back to whom the screen shows.
+    Editor().ShowRecord(1);
+    QCOMPARE(Editor().NumberToDial(), u"111"_s);
+  }
+
+  void theNameOfABusinessWithoutOneIsTheOneReadLast() {
+    OpenWith(BusinessRecord("1", "Acme") + PersonRecord("2", "Ann", "Q", "Bell"));
+    Type(Box::txtCustomer1, {});
+    Editor().Find({EveryCustomer, "All", true});
+    Editor().SaveCustomer();
+    QCOMPARE(Text(Box::txtCustomer1), u"Mr. Ann Q. Bell"_s);
+    QCOMPARE(Shown(), QStringList());
+  }
 };
 
 QTEST_GUILESS_MAIN(CustomerHandOverTest)

@@ -316,7 +316,10 @@ class CustomerSearchTest : public QObject {
     CustomerDesk desk(Town());
     desk.Open();
     desk.Driver().Trigger(u"mnuPrint"_s);
+    QCOMPARE(ListEntry(desk), u"Close Customer List"_s);
     desk.Driver().RightPressRow(u"fgCustomersFound"_s, 5);
+    QCOMPARE(ListEntry(desk), u"View Customer List"_s);
+    QVERIFY(desk.Sees(u"fraCustomersFound"_s));
     desk.Driver().ClickPopup(u"mnupopup"_s, u"mnuSelect"_s);
     QCOMPARE(desk.Box(0), u"5"_s);
     desk.Driver().Trigger(u"mnuPrint"_s);

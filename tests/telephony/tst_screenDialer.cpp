@@ -19,6 +19,7 @@ class ScreenDialer : public QObject {
   void theCustomersNumberIsHandedOver_data();
   void theCustomersNumberIsHandedOver();
   void anIndividualIsCalledByHisName();
+  void afterTheCompleteListTheLastNumberOfTheFileStandsUnderTheNameShown();
   void thePictureIsReachedAndRunByTheKeyboard();
   void theCaptionsAndTips();
   void itOpensReadyToDial();
@@ -84,6 +85,28 @@ void ScreenDialer::anIndividualIsCalledByHisName() {
   const ScreenDriver dialer = desk.Open();
   QVERIFY2(dialer.Text(u"lblName"_s).contains(u"Ann"_s), qPrintable(dialer.Text(u"lblName"_s)));
   QVERIFY(dialer.Text(u"lblName"_s).endsWith(u"Hill & Sons"_s));
+}
+
+void ScreenDialer::afterTheCompleteListTheLastNumberOfTheFileStandsUnderTheNameShown() {
+  RecordText last;
+  last.AcctNo = "1002";
+  last.AcctName = "Zinc Works";
+  last.AcctType = "Business";
+  last.Phone = "999-9";
+  PhoneDesk desk(PhoneDesk::Customer("111-1") + last.Bytes());
+  desk.Start();
+  const ScreenDriver customers = PhoneDesk::Customers();
+  customers.Trigger(u"mnuPrint"_s);
+  customers.Click(u"cmdRetry"_s);
+  ScreenDriver dialer = desk.Call();
+  QCOMPARE(dialer.Text(u"lblName"_s), u"Bay Farm"_s);
+  QCOMPARE(dialer.Text(u"lblNumber"_s), u"999-9"_s);
+  PhoneDesk::HangUp();
+  // A customer who is loaded again has his own.
+  customers.Click(u"cmdNav_0"_s);
+  dialer = desk.Call();
+  QCOMPARE(dialer.Text(u"lblName"_s), u"Bay Farm"_s);
+  QCOMPARE(dialer.Text(u"lblNumber"_s), u"111-1"_s);
 }
 
 void ScreenDialer::thePictureIsReachedAndRunByTheKeyboard() {
