@@ -28,7 +28,7 @@ class PdfSurface final : public PaperSurface {
   qsizetype Size = 0;
 
  protected:
-  void SendJob(const PaperJob& job) override {
+  void SendJob(const PaperJob& job, const Progress& /*progress*/) override {
     Last = job;
     Size = PdfOf(job, true, Fonts()).size();
   }

@@ -118,7 +118,7 @@ Program::Builder Program::BuilderOf(ScreenName screen) {
       return [this] {
         return std::make_unique<frmIncomplete>(
             *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
-                               *m_platform.Calendar, *this, m_objects->Reports});
+                               *m_platform.Calendar, *this, m_objects->Reports, m_platform.Patience});
       };
     case ScreenName::frmSalesReport:
       return [this] { return BuildSalesReport(); };
@@ -146,8 +146,9 @@ std::unique_ptr<Screen> Program::BuildInvoice() {
 std::unique_ptr<Screen> Program::BuildSalesReport() {
   Objects& our = *m_objects;
   return std::make_unique<frmSalesReport>(
-      *this, SalesDesk{our.Sales, our.SalesDays, our.SalesPickers, our.SalesItems, our.SalesPages, our.Routines,
-                       our.Disk, *m_platform.Boxes, *m_platform.Calendar, our.Live.Business, *this});
+      *this,
+      SalesDesk{our.Sales, our.SalesDays, our.SalesPickers, our.SalesItems, our.SalesPages, our.Routines, our.Disk,
+                *m_platform.Boxes, *m_platform.Calendar, our.Live.Business, *this, m_platform.Patience});
 }
 
 std::unique_ptr<Screen> Program::BuildReprint() {

@@ -97,28 +97,30 @@ void PrepareSheet(QPrinter& device, bool portrait) {
   device.setResolution(TwipsPerInch);
 }
 
-void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts) {
+void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts, const Progress& progress) {
   const PictureMap pictures = PicturesOf(job);
   const auto failed = [] { return RuntimeError(ErrorNumber::PrinterError, {}); };
   QPainter painter;
   if (!painter.begin(&device)) throw failed();
   painter.setRenderHint(QPainter::LosslessImageRendering);  // A logo of few colours stays crisp.
   MarkPainter marks(painter, fonts, pictures);
-  bool first = true;
+  const auto all = static_cast<qint64>(job.Pages.size());
+  qint64 done = 0;
   for (const PaperPage& page : job.Pages) {
-    if (!first && !device.newPage()) throw failed();
-    first = false;
+    if (done > 0 && !device.newPage()) throw failed();
     for (const PaperMark& mark : page) std::visit(marks, mark);
+    ++done;
+    if (progress && !progress(done, all)) throw RuntimeError(ErrorNumber::DialogCancelled, {});
   }
   if (!painter.end()) throw failed();
 }
 
-QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts) {
+QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts, const Progress& progress) {
   QBuffer content;
   content.open(QIODevice::WriteOnly);
   QPdfWriter writer(&content);
   PrepareSheet(writer, portrait);
   writer.setCreator(u"Karvex Invoicer"_s);
-  DrawJob(job, writer, fonts);
+  DrawJob(job, writer, fonts, progress);
   return content.data();
 }

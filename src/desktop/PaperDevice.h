@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include "desktop/PaperJob.h"
+#include "runtime/Progress.h"
 
 class PaperFonts;
 class QPdfWriter;
@@ -17,8 +18,8 @@ void PrepareSheet(QPdfWriter& device, bool portrait);
 void PrepareSheet(QPrinter& device, bool portrait);
 
 /// Draws all pages. Throws RuntimeError 482 where the device refuses, or, before anything is sent, where a picture
-/// can't be read.
-void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts);
+/// can't be read. Tells each page that is drawn; told to stop, RuntimeError 32755.
+void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts, const Progress& progress = {});
 
 /// The job as the content of a PDF file.
-QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts);
+QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts, const Progress& progress = {});

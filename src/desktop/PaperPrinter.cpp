@@ -50,8 +50,8 @@ void PaperPrinter::ShowPrinter() {
   m_fileChosen = true;
 }
 
-void PaperPrinter::EndDoc() {
-  PaperSurface::EndDoc();
+void PaperPrinter::EndDoc(const Progress& progress) {
+  PaperSurface::EndDoc(progress);
   m_fileChosen = false;  // Also where there was nothing to send.
 }
 
@@ -60,16 +60,16 @@ void PaperPrinter::KillDoc() {
   m_fileChosen = false;
 }
 
-void PaperPrinter::SendJob(const PaperJob& job) {
+void PaperPrinter::SendJob(const PaperJob& job, const Progress& progress) {
   const bool fileChosen = std::exchange(m_fileChosen, false);
   if (!IsPdf()) {
     SendToPrinter(job);
   } else if (fileChosen) {
-    SendToPdf(job, QFileInfo(Device().outputFileName()).absoluteFilePath());
+    SendToPdf(job, QFileInfo(Device().outputFileName()).absoluteFilePath(), progress);
   } else {
     MakeDocumentsFolder();
     const QString path = NewPdfName();
-    SendToPdf(job, path);
+    SendToPdf(job, path, progress);
     m_dialogs.ShowMessage(u"The page was saved as a PDF file:\n"_s + path);
   }
 }
@@ -90,8 +90,8 @@ QString PaperPrinter::NewPdfName() const {
   return path;
 }
 
-void PaperPrinter::SendToPdf(const PaperJob& job, const QString& path) {
-  const QByteArray content = PdfOf(job, Orientation == 1, Fonts());
+void PaperPrinter::SendToPdf(const PaperJob& job, const QString& path, const Progress& progress) {
+  const QByteArray content = PdfOf(job, Orientation == 1, Fonts(), progress);
   try {
     m_store.ReplaceWhole(path, content);
   } catch (const RuntimeError& error) {

@@ -19,11 +19,12 @@ class PaperPrinter final : public PaperSurface {
   ~PaperPrinter() override;
 
   void ShowPrinter() override;
-  void EndDoc() override;
+  using PaperSurface::EndDoc;
+  void EndDoc(const Progress& progress) override;
   void KillDoc() override;
 
  protected:
-  void SendJob(const PaperJob& job) override;
+  void SendJob(const PaperJob& job, const Progress& progress) override;
 
  private:
   QPrinter& Device();
@@ -31,7 +32,7 @@ class PaperPrinter final : public PaperSurface {
   void MakeDocumentsFolder();
   /// A file of the documents folder that isn't there yet.
   QString NewPdfName() const;
-  void SendToPdf(const PaperJob& job, const QString& path);
+  void SendToPdf(const PaperJob& job, const QString& path, const Progress& progress);
   void SendToPrinter(const PaperJob& job);
 
   FileStore& m_store;

@@ -38,10 +38,10 @@ void PaperSurface::NewPage() {
   CurrentY = 0;
 }
 
-void PaperSurface::EndDoc() {
+void PaperSurface::EndDoc(const Progress& progress) {
   const PaperJob job = std::exchange(m_job, {});
   StartAfresh();
-  if (!job.Pages.empty()) SendJob(job);
+  if (!job.Pages.empty()) SendJob(job, progress);
 }
 
 void PaperSurface::KillDoc() {

@@ -27,12 +27,13 @@ class PaperSurface : public Printer {
   void Box(int x1, int y1, int x2, int y2) override { DrawRule({x1, y1, x2, y2, true, DrawWidth, m_foreColor}); }
   void PaintPicture(const QByteArray& picture, int x, int y, int width, int height) override;
   void NewPage() override;
-  void EndDoc() override;
+  using Printer::EndDoc;
+  void EndDoc(const Progress& progress) override;
   void KillDoc() override;
 
  protected:
-  /// Sends the finished job, which has at least one page. Throws RuntimeError 482 if that fails.
-  virtual void SendJob(const PaperJob& job) = 0;
+  /// Sends the finished job, which has at least one page. Throws as `EndDoc`.
+  virtual void SendJob(const PaperJob& job, const Progress& progress) = 0;
   PaperFonts& Fonts() const { return m_fonts; }
 
  private:

@@ -13,8 +13,8 @@ constexpr int Pause = 40;
 
 }  // namespace
 
-ProgressBox::ProgressBox(QString text, int patience) : m_text(std::move(text)), m_patience(patience) {
-  m_sinceStart.start();
+ProgressBox::ProgressBox(QString text, int patience, Since since) : m_text(std::move(text)), m_patience(patience) {
+  if (since == Since::Now) m_sinceStart.start();
 }
 
 ProgressBox::~ProgressBox() = default;
@@ -24,6 +24,7 @@ Progress ProgressBox::Teller() {
 }
 
 bool ProgressBox::Tell(qint64 done, qint64 total) {
+  if (!m_sinceStart.isValid()) m_sinceStart.start();
   if (!m_dialog) {
     if (m_sinceStart.elapsed() < m_patience) return true;
     ComeUp();

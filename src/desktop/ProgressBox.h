@@ -16,8 +16,11 @@ class ProgressBox {
  public:
   static constexpr int Patience = 500;  ///< Milliseconds.
 
+  /// From when the work counts: from here on, or from its first step, where a dialog comes before it.
+  enum class Since { Now, FirstStep };
+
   /// Comes up once the work has taken `patience` milliseconds.
-  explicit ProgressBox(QString text, int patience = Patience);
+  explicit ProgressBox(QString text, int patience = Patience, Since since = Since::Now);
   ~ProgressBox();
   ProgressBox(const ProgressBox&) = delete;
   ProgressBox& operator=(const ProgressBox&) = delete;

@@ -122,6 +122,10 @@ bool PrinterRoutines::RunPrintJob(Dialogs& dialogs, const std::function<void()>&
   return false;
 }
 
+void PrinterRoutines::TellStep(const Progress& progress, qint64 done, qint64 total) {
+  if (!GoesOn(progress, done, total)) throw RuntimeError(ErrorNumber::DialogCancelled, {});
+}
+
 void PrinterRoutines::DrawJob(const std::function<void()>& draw) {
   try {
     draw();

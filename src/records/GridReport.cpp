@@ -22,12 +22,16 @@ constexpr int AmountColumn = 4;
 GridReport::GridReport(PrinterRoutines& routines, KVPrint& pages, const Clock& clock)
     : m_routines(routines), m_pages(pages), m_clock(clock) {}
 
-void GridReport::PrintGridReport(const QString& title, const TextMatrix& grid, const QString& /*tag*/) {
+void GridReport::PrintGridReport(const QString& title, const TextMatrix& grid, const QString& /*tag*/,
+                                 const Progress& progress) {
   m_routines.DrawJob([&] {
     m_routines.BeginPrintJob();
+    // The rows are put on their pages, then the pages are drawn. The first step stands behind the dialog.
+    const Progress rows = PartOf(progress, 0, 2);
+    PrinterRoutines::TellStep(rows, 0, grid.Rows());
     PrintReportHeading(title);
-    PrintReportRows(title, grid);
-    m_routines.Surface().EndDoc();
+    PrintReportRows(title, grid, rows);
+    m_routines.Surface().EndDoc(PartOf(progress, 1, 2));
   });
 }
 
@@ -55,10 +59,11 @@ void GridReport::PrintReportColumns(const QString& title) {
   printer.SetFontBold(false);
 }
 
-void GridReport::PrintReportRows(const QString& title, const TextMatrix& grid) {
+void GridReport::PrintReportRows(const QString& title, const TextMatrix& grid, const Progress& progress) {
   Printer& printer = m_routines.Surface();
   m_routines.PrintAt(1.0F, 2.5F);
   for (int row = 1; row < grid.Rows(); ++row) {
+    PrinterRoutines::TellStep(progress, row, grid.Rows());
     // Down to the edge of the sheet: there is no bottom margin, which is meant.
     if (printer.TextHeight(grid.Text(row, 1)) + printer.CurrentY >= static_cast<float>(printer.Height)) {
       PrintReportNewPage(title);

@@ -8,7 +8,6 @@
 #include "records/SalesRange.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
-#include "runtime/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,9 +25,12 @@ SalesReport::SalesReport(PrinterRoutines& routines, KVPrint& pages, const Clock&
 
 void SalesReport::PrintItemSales(const ItemSales& sales, const SalesRange& range, const Progress& progress) {
   m_routines.BeginPrintJob();
+  // The rows are put on their pages, then the pages are drawn. The first step stands behind the dialog.
+  const Progress rows = PartOf(progress, 0, 2);
+  PrinterRoutines::TellStep(rows, 0, sales.fgSalesItems.Rows());
   PrintSalesHeading(range);
-  PrintSalesBody(sales, progress);
-  m_routines.Surface().EndDoc();
+  PrintSalesBody(sales, rows);
+  m_routines.Surface().EndDoc(PartOf(progress, 1, 2));
 }
 
 void SalesReport::PrintSalesHeading(const SalesRange& range) {
@@ -72,7 +74,7 @@ void SalesReport::PrintSalesBody(const ItemSales& sales, const Progress& progres
   const TextMatrix& grid = sales.fgSalesItems;
   // The empty last row takes a line as well.
   for (int row = 1; row < grid.Rows(); ++row) {
-    if (!GoesOn(progress, row, grid.Rows())) throw RuntimeError(ErrorNumber::DialogCancelled, {});
+    PrinterRoutines::TellStep(progress, row, grid.Rows());
     PrintSalesRow(grid, row);
   }
   printer.PrintLine({});

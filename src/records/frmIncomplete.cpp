@@ -1,5 +1,6 @@
 #include "records/frmIncomplete.h"
 
+#include "desktop/ProgressBox.h"
 #include "invoice/RecallInvoice.h"
 #include "records/GridReport.h"
 #include "records/PartialList.h"
@@ -91,9 +92,12 @@ void frmIncomplete::PurgeSelected() {
 
 void frmIncomplete::cmdReport() {
   try {
-    m_desk.Reports.PrintGridReport(u"Incomplete Invoices Report"_s, m_desk.Partials.fgIncomplete, u"Incomplete"_s);
+    ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
+    m_desk.Reports.PrintGridReport(u"Incomplete Invoices Report"_s, m_desk.Partials.fgIncomplete, u"Incomplete"_s,
+                                   progress.Teller());
   } catch (const RuntimeError& error) {
-    // Alone among the print buttons this one has no message of its own; only a cancelled dialog is nothing to tell.
+    // Alone among the print buttons this one has no message of its own; only a cancelled dialog, or a stop, is nothing
+    // to tell.
     if (error.Number() != ErrorNumber::DialogCancelled) throw;
   }
 }

@@ -25,6 +25,7 @@ struct PartialDesk {
   const Clock& Today;
   Screens& Others;
   GridReport& Reports;
+  int Patience;  ///< Before work shows its progress, in milliseconds.
 };
 
 class frmIncomplete final : public Screen {

@@ -188,7 +188,9 @@ void frmReprint::cmdPrint() {
 
 void frmReprint::cmdReport() {
   m_desk.Routines.RunPrintJob(m_desk.Boxes, [this] {
-    m_desk.Reports.PrintGridReport(u"Invoices Report"_s, m_desk.Completed.fgReceivables, u"Complete"_s);
+    ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
+    m_desk.Reports.PrintGridReport(u"Invoices Report"_s, m_desk.Completed.fgReceivables, u"Complete"_s,
+                                   progress.Teller());
   });
 }
 

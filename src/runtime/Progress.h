@@ -12,3 +12,9 @@ using Progress = std::function<bool(qint64 done, qint64 total)>;
 inline bool GoesOn(const Progress& progress, qint64 done, qint64 total) {
   return !progress || done % 1024 != 0 || progress(done, total);
 }
+
+/// One of `parts` equal parts of the work, from 0: its steps are told as steps of the whole.
+inline Progress PartOf(const Progress& progress, qint64 part, qint64 parts) {
+  if (!progress) return {};
+  return [=](qint64 done, qint64 total) { return progress(part * total + done, parts * total); };
+}

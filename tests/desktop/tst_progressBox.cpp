@@ -43,6 +43,33 @@ class ProgressBoxTest : public QObject {
     QVERIFY(screen.isActiveWindow());
   }
 
+  void itsTimeCanCountFromTheFirstStep() {
+    constexpr int patience = 100;
+    const auto wait = [] {
+      QElapsedTimer time;
+      time.start();
+      while (!time.hasExpired(patience)) {
+      }
+    };
+    QueuedAnswers answers;
+    {
+      ProgressBox box(u"Printing ..."_s, patience, ProgressBox::Since::FirstStep);
+      wait();
+      const Progress tell = box.Teller();
+      QVERIFY(tell(0, 4));
+      QVERIFY(QApplication::activeModalWidget() == nullptr);
+      wait();
+      answers.Dialog([](QDialog&) {});
+      QVERIFY(tell(1, 4));
+      QVERIFY(QApplication::activeModalWidget() != nullptr);
+    }
+    ProgressBox box(u"Counting ..."_s, patience);
+    wait();
+    answers.Dialog([](QDialog&) {});
+    QVERIFY(box.Teller()(0, 4));
+    QVERIFY(QApplication::activeModalWidget() != nullptr);
+  }
+
   void itsButtonStopsTheWork() {
     QueuedAnswers answers;
     ProgressBox box(u"Counting ..."_s, 0);

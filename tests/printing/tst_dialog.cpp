@@ -27,6 +27,9 @@ class TestDialog : public QObject {
   void aJobWithoutMarksSendsNothing();
   void aDroppedJobSendsNothing();
   void aDroppedJobForgetsTheDialogToo();
+  void eachPageThatIsDrawnIsTold();
+  void aStoppedJobLeavesNoFile_data();
+  void aStoppedJobLeavesNoFile();
 };
 
 namespace {
@@ -208,6 +211,57 @@ void TestDialog::aDroppedJobForgetsTheDialogToo() {
   desk.Print(u"draft"_s);
   QVERIFY(!desk.Folder.Exists(u"/mine.pdf"_s));
   QVERIFY(desk.Folder.Exists(FirstName));
+}
+
+namespace {
+void PutThreePages(PaperPrinter& paper) {
+  paper.PrintLine(u"first"_s);
+  paper.NewPage();
+  paper.PrintLine(u"second"_s);
+  paper.NewPage();
+  paper.PrintLine(u"third"_s);
+}
+}  // namespace
+
+void TestDialog::eachPageThatIsDrawnIsTold() {
+  Desk desk;
+  PutThreePages(desk.Paper);
+  QList<qint64> told;
+  desk.Paper.EndDoc([&](qint64 done, qint64 total) {
+    told << done << total;
+    return true;
+  });
+  QCOMPARE(told, (QList<qint64>{1, 3, 2, 3, 3, 3}));
+  QVERIFY(desk.Folder.Bytes(FirstName).startsWith("%PDF-"));
+}
+
+void TestDialog::aStoppedJobLeavesNoFile_data() {
+  QTest::addColumn<qint64>("page");
+  QTest::newRow("at the first page") << qint64{1};
+  QTest::newRow("at the second page") << qint64{2};
+  QTest::newRow("at the last page") << qint64{3};
+}
+
+void TestDialog::aStoppedJobLeavesNoFile() {
+  QFETCH(const qint64, page);
+  Desk desk;
+  desk.Folder.Write(u"/mine.pdf"_s, "an earlier report");
+  const auto stop = [page](qint64 done, qint64) { return done < page; };
+  PutThreePages(desk.Paper);
+  QCOMPARE(ErrorOf([&] { desk.Paper.EndDoc(stop); }), 32755);
+  QCOMPARE(desk.Folder.List(u"/Documents"_s), QStringList());
+  QCOMPARE(desk.Messages.Messages, QStringList());
+  // One that was to take a file's place leaves it whole.
+  desk.AcceptAs(desk.Folder.Path(u"/mine.pdf"_s));
+  desk.Answers.Yes();  // The dialog's own question whether to overwrite.
+  desk.Paper.ShowPrinter();
+  PutThreePages(desk.Paper);
+  QCOMPARE(ErrorOf([&] { desk.Paper.EndDoc(stop); }), 32755);
+  QCOMPARE(desk.Folder.Bytes(u"/mine.pdf"_s), "an earlier report");
+  // The next job is its own, in a file of its own.
+  desk.Print(u"next"_s);
+  QCOMPARE(desk.Folder.Bytes(u"/mine.pdf"_s), "an earlier report");
+  QVERIFY(desk.Folder.Bytes(FirstName).startsWith("%PDF-"));
 }
 
 QTEST_MAIN(TestDialog)

@@ -252,6 +252,48 @@ class GridReportTest : public QObject {
     QCOMPARE(desk.Page.Paper.Find(u"Invoice No."_s).size(), std::size_t{4});
   }
 
+  void aStoppedReportLeavesNothing() {
+    Desk desk;
+    desk.Fill(3000);
+    QStringList told;
+    desk.Page.Paper.OnDialog = [&] { told << u"dialog"_s; };
+    const auto print = [&](qint64 last) {
+      desk.Reports.PrintGridReport(Complete, desk.Grid, {}, [&](qint64 done, qint64 total) {
+        told << u"%1 of %2"_s.arg(done).arg(total);
+        return done < last;
+      });
+    };
+    QCOMPARE(ErrorOf([&] { print(2000); }), 32755);
+    // The first step is behind the dialog; the rows are the first half of the work.
+    QCOMPARE(told, (QStringList{u"dialog"_s, u"0 of 6002"_s, u"1024 of 6002"_s, u"2048 of 6002"_s}));
+    QVERIFY(desk.Page.Paper.Jobs.empty());
+    // Nothing of it stands on the next job.
+    desk.Fill(1);
+    desk.Print(Complete);
+    QCOMPARE(desk.Pages(), std::size_t{1});
+    QVERIFY(!desk.Has(1, u"N2"_s));
+  }
+
+  void theDrawingOfThePagesIsToldAndStopped() {
+    Desk desk;
+    desk.Fill(60);
+    desk.Page.Paper.TellsPages = true;
+    QStringList told;
+    const auto print = [&](qint64 last) {
+      told.clear();
+      desk.Reports.PrintGridReport(Incomplete, desk.Grid, {}, [&](qint64 done, qint64 total) {
+        told << u"%1 of %2"_s.arg(done).arg(total);
+        return done < last;
+      });
+    };
+    QCOMPARE(ErrorOf([&] { print(3); }), 32755);
+    QCOMPARE(told, (QStringList{u"0 of 122"_s, u"3 of 4"_s}));
+    QVERIFY(desk.Page.Paper.Jobs.empty());
+    print(5);
+    QCOMPARE(told, (QStringList{u"0 of 122"_s, u"3 of 4"_s, u"4 of 4"_s}));
+    QCOMPARE(desk.Pages(), std::size_t{2});
+  }
+
   void whatGoesWrongIsThrownAndNothingStaysOnTheSurface() {
     Desk desk;
     desk.Fill(1);

@@ -57,6 +57,7 @@ class PartialReport : public QObject {
   void theRowsRunDownToTheEdgeOfTheSheet();
   void theSecondSheetStartsHigherAndOverprintsItsHeadings();
   void manySheetsHoldEveryRowOnce();
+  void aStopEndsItSilently();
 };
 
 void PartialReport::oneSheetHasTitleSenderDateHeadingsAndRows() {
@@ -114,6 +115,21 @@ void PartialReport::manySheetsHoldEveryRowOnce() {
   QCOMPARE(desk.Pages(), 3U);
   for (int row = 1; row <= 120; ++row) QVERIFY(desk.Row(row <= 54 ? 1 : row <= 113 ? 2 : 3, row) > 0);
   QCOMPARE(At(desk.Row(3, 114)), 2520);
+}
+
+void PartialReport::aStopEndsItSilently() {
+  InvoicingDesk desk;
+  desk.Program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/1.txt"_s, "1\r\n1001\r\nBay\r\n3/5/2026\r\n");
+  desk.Program.Patience = 0;
+  QVERIFY(desk.Program.StartAtMenu());
+  const ScreenDriver partials = desk.OpenPartials();
+  desk.Program.Answers.Dialog([](QDialog& dialog) { dialog.findChild<QPushButton*>()->click(); });
+  partials.Click(u"cmdReport"_s);
+  QVERIFY(desk.Program.Paper.Jobs.empty());
+  QVERIFY(desk.Program.Answers.Boxes().isEmpty());
+  desk.Program.Answers.Dialog([](QDialog&) {});
+  partials.Click(u"cmdReport"_s);
+  QCOMPARE(desk.Program.Paper.Jobs.size(), 1U);
 }
 
 QTEST_MAIN(PartialReport)

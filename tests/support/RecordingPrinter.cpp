@@ -21,8 +21,12 @@ void RecordingPrinter::ShowPrinter() {
   if (const int error = std::exchange(DialogError, 0)) throw RuntimeError(error, {});
 }
 
-void RecordingPrinter::SendJob(const PaperJob& job) {
+void RecordingPrinter::SendJob(const PaperJob& job, const Progress& progress) {
   if (const int error = std::exchange(SendError, 0)) throw RuntimeError(error, {});
+  const auto pages = static_cast<qint64>(job.Pages.size());
+  for (qint64 page = 1; TellsPages && progress && page <= pages; ++page) {
+    if (!progress(page, pages)) throw RuntimeError(ErrorNumber::DialogCancelled, {});
+  }
   Jobs.push_back(job);
 }
 

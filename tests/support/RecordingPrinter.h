@@ -17,6 +17,7 @@ class RecordingPrinter final : public PaperSurface {
   int DialogError = 0;             ///< Thrown by the next `ShowPrinter`, once: 32755 is the user's Cancel.
   std::function<void()> OnDialog;  ///< Runs as the dialog comes up.
   int SendError = 0;               ///< Thrown by the next `EndDoc`, once.
+  bool TellsPages = false;         ///< Tells the progress of each job that is sent page by page.
   std::vector<PaperJob> Jobs;
 
   /// A page of the last job, from 1. Fails the test by an exception where there is none.
@@ -32,5 +33,5 @@ class RecordingPrinter final : public PaperSurface {
   QStringList SoldToBlock() const;
 
  protected:
-  void SendJob(const PaperJob& job) override;
+  void SendJob(const PaperJob& job, const Progress& progress) override;
 };
