@@ -4,6 +4,7 @@
 
 #include "catalogue/SalesItemsList.h"
 #include "desktop/DateBox.h"
+#include "desktop/ProgressBox.h"
 #include "printing/PrinterRoutines.h"
 #include "records/ItemSales.h"
 #include "records/SalesPurge.h"
@@ -75,8 +76,9 @@ void frmSalesReport::Activate() {
   ShowItems();
   m_desk.Dates.Activate();
   ShowDates();
-  LoadGrid();
   SetFocusTo(m_ui->lstSalesItems);
+  // An error mustn't keep the screen from coming up: here the dates and the ticks that led to it can be changed.
+  Run([this] { LoadGrid(); });
 }
 
 /// The list is loaded again at each save of the catalogue.
@@ -107,32 +109,32 @@ void frmSalesReport::ReturnToMenu() {
   m_desk.Others.Show(ScreenName::frmStartup);
 }
 
-void frmSalesReport::RunPreset(void (SalesDates::*preset)()) {
+bool frmSalesReport::RunPreset(void (SalesDates::*preset)()) {
   (m_desk.Dates.*preset)();
   ShowDates();
-  LoadGrid();
+  return LoadGrid();
 }
 
 void frmSalesReport::LastMonth() {
   // The month to date with all that it does comes first.
-  RunPreset(&SalesDates::MonthToDate);
-  RunPreset(&SalesDates::LastMonth);
+  if (RunPreset(&SalesDates::MonthToDate)) RunPreset(&SalesDates::LastMonth);
 }
 
-void frmSalesReport::LoadGrid() {
-  if (!AnyTicked(m_desk.Items)) return;
+bool frmSalesReport::LoadGrid() {
+  if (!AnyTicked(m_desk.Items)) return true;
   ProgressBox progress(u"Looking through what was sold ..."_s, m_desk.Patience);
   const SalesFound found =
       LoadSalesGrid(m_desk.Sales, m_desk.Range, m_desk.Items, m_desk.Disk, m_desk.Boxes, progress.Teller());
-  if (found == SalesFound::Stopped) return;
   if (found == SalesFound::Some) m_cmdSales[4]->setEnabled(true);
   m_ui->fgSalesItems->SetTopRow(1);
-  BuildSalesTotals(m_desk.Sales, m_desk.Items, progress.Teller());
+  const bool whole = found != SalesFound::Stopped && BuildSalesTotals(m_desk.Sales, m_desk.Items, progress.Teller());
+  if (!whole) m_cmdSales[4]->setEnabled(false);
+  return whole;
 }
 
 void frmSalesReport::PrintReport() {
   const bool printed = m_desk.Routines.RunPrintJob(m_desk.Boxes, [this] {
-    ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience);
+    ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
     m_desk.Report.PrintItemSales(m_desk.Sales, m_desk.Range, progress.Teller());
   });
   if (printed) m_cmdSales[4]->setEnabled(false);

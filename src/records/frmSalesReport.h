@@ -3,7 +3,6 @@
 #pragma once
 
 #include "desktop/ControlArray.h"
-#include "desktop/ProgressBox.h"
 #include "desktop/Screen.h"
 
 class Clock;
@@ -36,7 +35,7 @@ struct SalesDesk {
   const Clock& Today;
   const BusinessProfile& Business;
   Screens& Others;
-  int Patience = ProgressBox::Patience;  ///< Before work shows its progress, in milliseconds.
+  int Patience;  ///< Before work shows its progress, in milliseconds.
 };
 
 class frmSalesReport final : public Screen {
@@ -44,7 +43,7 @@ class frmSalesReport final : public Screen {
   frmSalesReport(ScreenHost& host, const SalesDesk& desk);
   ~frmSalesReport() override;
 
-  /// The last 30 days; loads the grid if a product is ticked.
+  /// The last 30 days; loads the grid if a product is ticked. What goes wrong there is told, and the screen comes up.
   void Activate() override;
 
  private:
@@ -54,9 +53,11 @@ class frmSalesReport final : public Screen {
   void ShowDates();
   void TickAll(bool ticked);
   void ReturnToMenu();
-  void RunPreset(void (SalesDates::*preset)());
+  /// False where its load was stopped.
+  bool RunPreset(void (SalesDates::*preset)());
   void LastMonth();
-  void LoadGrid();
+  /// Answers false where it was stopped; the grids are empty then, and there is nothing to print.
+  bool LoadGrid();
   void PrintReport();
   void mnuDelete();
 

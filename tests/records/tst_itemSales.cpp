@@ -217,6 +217,20 @@ class ItemSalesTest : public QObject {
     QCOMPARE(desk.Totals(), QStringList{});
   }
 
+  void aBlankNameBeforeAnotherLeavesNoRowForIt() {
+    Desk desk;
+    desk.Tick({u""_s, u"Saw"_s});
+    desk.Write(Sold("", Day::Mar7, "1", 2) + Sold("Saw", Day::Mar7, "2", 3));
+    desk.Load();
+    const RuntimeError error = CaughtFrom([&] { BuildSalesTotals(desk.Sales, desk.List); });
+    QCOMPARE(error.Number(), 9);
+    QVERIFY(error.From() == RuntimeError::Origin::Event);
+    // Behind all others it costs nothing but its own row.
+    desk.List.Items = {{u"Saw"_s, true}, {u""_s, true}};
+    QVERIFY(BuildSalesTotals(desk.Sales, desk.List));
+    QCOMPARE(desk.Totals(), QStringList{u"Saw|3"_s});
+  }
+
   void aStoppedLoadLeavesEmptyGrids() {
     Desk desk;
     desk.Tick({u"Saw"_s});

@@ -82,7 +82,7 @@ struct Desk {
   }
 };
 
-/// The screen alone, whose work shows its progress at once.
+/// The screen alone, whose work shows its progress after that many milliseconds.
 struct ImpatientDesk {
   PageFixture Page;
   RecordingHost Host;
@@ -93,12 +93,13 @@ struct ImpatientDesk {
   SalesDates Dates{Range, Page.Messages, Page.Now};
   SalesItemsList Items{{{u"Saw"_s, true}}};
   SalesReport Report{Page.Routines, Page.Pages, Page.Now};
-  frmSalesReport Screen{Host, SalesDesk{Sales, Range, Dates, Items, Report, Page.Routines, Page.Disk, Page.Messages,
-                                        Page.Now, Page.Business, Others, 0}};
+  frmSalesReport Screen;
 
-  ImpatientDesk() {
+  explicit ImpatientDesk(int patience = 0, int records = 5000)
+      : Screen(Host, SalesDesk{Sales, Range, Dates, Items, Report, Page.Routines, Page.Disk, Page.Messages, Page.Now,
+                               Page.Business, Others, patience}) {
     ApplyStyle(*qApp);
-    Page.Write(u"/SoldItems.txt"_s, Sold("Saw", Day::Mar7, "1", 1).repeated(5000));
+    Page.Write(u"/SoldItems.txt"_s, Sold("Saw", Day::Mar7, "1", 1).repeated(records));
     Dates.Activate();
     Screen.show();
     ScreenDriver::ProcessEvents();
@@ -111,6 +112,12 @@ struct ImpatientDesk {
     Answers.Dialog([](QDialog& dialog) { QVERIFY(qobject_cast<QProgressDialog*>(&dialog) != nullptr); });
   }
 };
+
+/// Stops the work whose progress is shown.
+void StopWork(QDialog& progress) {
+  QVERIFY(qobject_cast<QProgressDialog*>(&progress) != nullptr);
+  progress.findChild<QPushButton*>()->click();
+}
 
 const QStringList EmptySales{u"|||"_s};
 const QStringList EmptyTotals{u"|"_s};
@@ -148,14 +155,23 @@ class ScreenSales : public QObject {
   void equalNamesMatchTwice();
   void theListEndsTheProgramWith256OfAKind();
   void aTotalBeyondSixteenBitsIsAnOverflow();
+  void anErrorAtTheShowingIsToldAndTheScreenComesUp_data();
+  void anErrorAtTheShowingIsToldAndTheScreenComesUp();
+  void aBlankNameBeforeAnotherIsAnErrorOfTheTotals();
   void withoutTheFileItSaysSo();
+  void withoutTheFileTheTotalsAreMadeAnewOfTheOldRows();
   void theFileComesBackFromItsCopy();
   void aFileOfMoreRecordsThanACountHoldsIsReported();
   void theReportIsPrintedOnce();
   void cancelInThePrinterDialogKeepsTheButton();
   void aPrintErrorIsToldAndKeepsTheButton();
   void aLoadThatIsStoppedLeavesTheGridsEmpty();
+  void aStopInTheTotalsLeavesNothingToPrint();
+  void aStopWhileTheScreenComesUpLeavesItEmpty();
+  void aStopBehindThePurgeLeavesTheGridsEmpty();
+  void aStopInLastMonthEndsItWhole();
   void aReportThatIsStoppedPrintsNothing();
+  void theTimeInThePrinterDialogIsNoWork();
   void theInstructionsComeAndGo();
   void menuAndEscapeLeadBack();
 };
@@ -561,6 +577,76 @@ void ScreenSales::aTotalBeyondSixteenBitsIsAnOverflow() {
   QCOMPARE(Desk::Totals(), EmptyTotals);
 }
 
+void ScreenSales::anErrorAtTheShowingIsToldAndTheScreenComesUp_data() {
+  QTest::addColumn<QByteArray>("records");
+  QTest::addColumn<int>("failure");
+  QTest::addColumn<QString>("error");
+  QTest::newRow("a total too high") << Sold("Hammer", Day::Mar7, "1", 32767) + Sold("Hammer", Day::Mar7, "2", 1) << 0
+                                    << u"(error 6)"_s;
+  QTest::newRow("a file that can't be read") << Sold("Hammer", Day::Mar7, "1", 1) << EACCES << u"(error 70)"_s;
+}
+
+void ScreenSales::anErrorAtTheShowingIsToldAndTheScreenComesUp() {
+  QFETCH(const QByteArray, records);
+  QFETCH(const int, failure);
+  QFETCH(const QString, error);
+  Desk desk;
+  QVERIFY(desk.Open());
+  Desk::Tick(0);
+  Desk::Click(u"cmdSales_0"_s);
+  desk.Program.Tree.Write(u"/SoldItems.txt"_s, records);
+  if (failure != 0) desk.Program.Files.FailAlways(FailingDevice::Call::Read, failure);
+  // The box first, then the screen.
+  desk.Program.Answers.With(QMessageBox::Ok, [] { QVERIFY(!ScreenDriver::IsShown(ThisScreen)); });
+  QVERIFY(Desk::Reopen());
+  desk.Program.Files.Reset();
+  const QString text = desk.Program.Answers.Last().Text;
+  QVERIFY2(text.contains(error), qPrintable(text));
+  QVERIFY(!desk.Program.Running().HasEnded());
+  QCOMPARE(Desk::Driver().FocusName(), u"lstSalesItems"_s);
+  QCOMPARE(Desk::Listed(), (QStringList{u"Hammer+"_s, u"Saw-"_s, u"Basket-"_s}));
+  // Here the way out is found: with a product less the screen works.
+  Desk::Tick(0);
+  Desk::Tick(1);
+  Desk::Click(u"cmdSales_3"_s);
+  QCOMPARE(Desk::Totals(), QStringList{});
+}
+
+void ScreenSales::aBlankNameBeforeAnotherIsAnErrorOfTheTotals() {
+  Desk desk;
+  desk.Program.Tree.Write(u"/KVInventoriedItems.txt"_s, ItemNamed("") + ItemNamed("Saw"));
+  desk.Program.Tree.Write(u"/CustomItems.txt"_s, CustomItemNamed("Basket"));
+  desk.Program.Tree.Write(u"/SoldItems.txt"_s, Sold("", Day::Mar7, "1", 2) + Sold("Saw", Day::Mar7, "2", 3));
+  QVERIFY(desk.Open());
+  const auto before = desk.Program.Tree.Everything();
+  Desk::Tick(0);
+  Desk::Tick(1);
+  desk.Program.Answers.Ok();
+  Desk::Click(u"cmdSales_3"_s);
+  const QString text = desk.Program.Answers.Last().Text;
+  QVERIFY2(text.contains(u"(error 9)"_s) && text.endsWith(u"Nothing was lost."_s), qPrintable(text));
+  QCOMPARE(Desk::Sales(), (QStringList{u"|3/7/2026|1|2"_s, u"Saw|3/7/2026|2|3"_s, u"|||"_s}));
+  QCOMPARE(desk.Program.Tree.Everything(), before);
+  // Without the blank one the totals come.
+  Desk::Tick(0);
+  Desk::Click(u"cmdSales_3"_s);
+  QCOMPARE(Desk::Totals(), QStringList{u"Saw|3"_s});
+}
+
+void ScreenSales::withoutTheFileTheTotalsAreMadeAnewOfTheOldRows() {
+  Desk desk;
+  QVERIFY(desk.Open());
+  Desk::Tick(0);
+  Desk::Tick(1);
+  Desk::Click(u"cmdSales_3"_s);
+  desk.Program.Tree.Remove(u"/SoldItems.txt"_s);
+  Desk::Tick(0);
+  desk.Program.Answers.Ok(u"No Items Found"_s);
+  Desk::Click(u"cmdSales_3"_s);
+  QCOMPARE(Desk::Sales(), (QStringList{u"Hammer|3/7/2026|20260003|2"_s, u"Saw|3/1/2026|20260002|5"_s, u"|||"_s}));
+  QCOMPARE(Desk::Totals(), QStringList{u"Saw|5"_s});
+}
+
 void ScreenSales::withoutTheFileItSaysSo() {
   Desk desk;
   QVERIFY(desk.Open());
@@ -662,6 +748,97 @@ void ScreenSales::aLoadThatIsStoppedLeavesTheGridsEmpty() {
   desk.Driver().Click(u"cmdSales_3"_s);
   QCOMPARE(Desk::Totals(), QStringList{u"Saw|5000"_s});
   QVERIFY(Desk::CanPrint());
+}
+
+void ScreenSales::aStopInTheTotalsLeavesNothingToPrint() {
+  // Too few records to be told of while they are looked through, and rows enough for the totals: the name sells twice.
+  ImpatientDesk desk(0, 1000);
+  desk.Items.Items.push_back({u"Saw"_s, true});
+  desk.Stop();
+  desk.Driver().Click(u"cmdSales_3"_s);
+  QCOMPARE(Desk::Sales(), EmptySales);
+  QCOMPARE(Desk::Totals(), EmptyTotals);
+  QVERIFY(!Desk::CanPrint());
+  desk.GoOn();
+  desk.Driver().Click(u"cmdSales_3"_s);
+  QCOMPARE(Desk::Totals(), (QStringList{u"Saw|2000"_s, u"Saw|2000"_s}));
+  QVERIFY(Desk::CanPrint());
+  // Also where there was something to print before.
+  desk.Stop();
+  desk.Driver().Click(u"cmdSales_3"_s);
+  QVERIFY(!Desk::CanPrint());
+}
+
+void ScreenSales::aStopWhileTheScreenComesUpLeavesItEmpty() {
+  Desk desk;
+  desk.Program.Patience = 0;
+  QVERIFY(desk.Open());
+  Desk::Tick(1);
+  Desk::Click(u"cmdSales_3"_s);
+  QCOMPARE(Desk::Totals(), QStringList{u"Saw|5"_s});
+  Desk::Click(u"cmdSales_0"_s);
+  desk.Program.Tree.Write(u"/SoldItems.txt"_s, Sold("Saw", Day::Mar7, "1", 1).repeated(3000));
+  desk.Program.Answers.Dialog(&StopWork);
+  QVERIFY(Desk::Reopen());
+  QCOMPARE(Desk::Driver().FocusName(), u"lstSalesItems"_s);
+  QCOMPARE(Desk::Sales(), EmptySales);
+  QCOMPARE(Desk::Totals(), EmptyTotals);
+  QVERIFY(!Desk::CanPrint());
+}
+
+void ScreenSales::aStopBehindThePurgeLeavesTheGridsEmpty() {
+  Desk desk;
+  desk.Program.Patience = 0;
+  QVERIFY(desk.Open());
+  Desk::Tick(1);
+  Desk::Click(u"cmdSales_3"_s);
+  const QByteArray kept = Sold("Saw", Day::FirstOf2000, "1", 1).repeated(3000);
+  desk.Program.Tree.Write(u"/SoldItems.txt"_s, Sold("Saw", Day::Mar7, "2", 2) + kept);
+  desk.Program.Answers.Yes({}, u"Delete Sales Records"_s);
+  desk.Program.Answers.Yes({}, u"Delete Verification"_s);
+  desk.Program.Answers.Dialog(&StopWork);
+  Desk::Driver().Trigger(u"mnuDelete"_s);
+  QCOMPARE(desk.Program.Tree.Bytes(u"/SoldItems.txt"_s), kept);
+  QVERIFY(ScreenDriver::IsShown(ThisScreen));
+  QCOMPARE(Desk::Sales(), EmptySales);
+  QCOMPARE(Desk::Totals(), EmptyTotals);
+  QVERIFY(!Desk::CanPrint());
+}
+
+void ScreenSales::aStopInLastMonthEndsItWhole() {
+  Desk desk;
+  desk.Program.Patience = 0;
+  QVERIFY(desk.Open());
+  Desk::Tick(1);
+  desk.Program.Tree.Write(u"/SoldItems.txt"_s, Sold("Saw", Day::Feb28, "1", 1).repeated(3000));
+  // Of the two loads the second isn't begun: it would show a progress of its own.
+  desk.Program.Answers.Dialog(&StopWork);
+  Desk::Click(u"cmdIncome_0"_s);
+  QCOMPARE(Desk::Range(), (QList<QDate>{QDate(2026, 3, 1), QDate(2026, 3, 7)}));
+  QCOMPARE(Desk::Sales(), EmptySales);
+  QVERIFY(!Desk::CanPrint());
+  const auto goOn = [](QDialog& dialog) { QVERIFY(qobject_cast<QProgressDialog*>(&dialog) != nullptr); };
+  desk.Program.Answers.Dialog(goOn);
+  desk.Program.Answers.Dialog(goOn);
+  Desk::Click(u"cmdIncome_0"_s);
+  QCOMPARE(Desk::Range(), (QList<QDate>{QDate(2026, 2, 1), QDate(2026, 2, 28)}));
+  QCOMPARE(Desk::Totals(), QStringList{u"Saw|3000"_s});
+}
+
+void ScreenSales::theTimeInThePrinterDialogIsNoWork() {
+  constexpr int patience = 300;
+  ImpatientDesk desk(patience, 10);
+  desk.Driver().Click(u"cmdSales_3"_s);
+  QVERIFY(Desk::CanPrint());
+  // The user takes that time in the dialog. A progress that came up behind it would be a dialog that nobody expected.
+  desk.Page.Paper.OnDialog = [] {
+    QElapsedTimer time;
+    time.start();
+    while (!time.hasExpired(patience)) {
+    }
+  };
+  desk.Driver().Click(u"cmdSales_4"_s);
+  QCOMPARE(desk.Page.Paper.Jobs.size(), std::size_t{1});
 }
 
 void ScreenSales::aReportThatIsStoppedPrintsNothing() {
