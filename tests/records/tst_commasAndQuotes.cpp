@@ -2,12 +2,13 @@
 // else is lost by it.
 
 #include "records/InvoicingDesk.h"
+#include "support/CompletedImages.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Image = u"/KarvexInvoicer/IncompleteInvoices/20260017.txt"_s;
+const QString PartialImage = u"/KarvexInvoicer/IncompleteInvoices/20260017.txt"_s;
 const QStringList Hammers{u"2"_s, u"Hammer"_s, u"3/7/2026"_s, u"$12.00"_s, u"$24.00"_s, u"True"_s};
 
 /// Saves two hammers with that reference and attention line.
@@ -16,7 +17,7 @@ bool SaveHammers(InvoicingDesk& desk, const QString& reference, const QString& a
   desk.BeginInvoice(reference, attention);
   desk.PostHammers(u"2"_s);
   desk.Save();
-  return desk.Program.Tree.Exists(Image);
+  return desk.Program.Tree.Exists(PartialImage);
 }
 
 void Finish(InvoicingDesk& desk) {
@@ -37,6 +38,8 @@ class CommasAndQuotes : public QObject {
   void quotesInsideAReferenceStay();
   void aCommaInTheAttentionLineKeepsTheInvoiceFromBeingRead();
   void aCountBehindTheCommaIsTakenForTheLines();
+  void aCommaKeepsACompletedInvoiceFromBeingShown_data();
+  void aCommaKeepsACompletedInvoiceFromBeingShown();
   void aMemoIsSavedAsTypedAndReadInParts();
   void aNarrativeIsPrintedAsTyped();
 };
@@ -44,7 +47,7 @@ class CommasAndQuotes : public QObject {
 void CommasAndQuotes::aReferenceThatBeginsWithAQuoteEndsAtTheNext() {
   InvoicingDesk desk;
   QVERIFY(SaveHammers(desk, u"\"rush\" PO 5"_s, u"Ann"_s));
-  QVERIFY(desk.Program.Tree.Bytes(Image).contains("\r\n20260017\r\n1001\r\n\"rush\" PO 5\r\nAnn\r\n1\r\n"));
+  QVERIFY(desk.Program.Tree.Bytes(PartialImage).contains("\r\n20260017\r\n1001\r\n\"rush\" PO 5\r\nAnn\r\n1\r\n"));
   desk.Recall();
   QCOMPARE(InvoicingDesk::Text(u"txtReference"_s), u"rush"_s);
   QCOMPARE(InvoicingDesk::Text(u"txtShipto_6"_s), u"Ann"_s);
@@ -68,7 +71,7 @@ void CommasAndQuotes::quotesInsideAReferenceStay() {
 void CommasAndQuotes::aCommaInTheAttentionLineKeepsTheInvoiceFromBeingRead() {
   InvoicingDesk desk;
   QVERIFY(SaveHammers(desk, u"PO 5"_s, u"Ann, at the gate"_s));
-  const QByteArray saved = desk.Program.Tree.Bytes(Image);
+  const QByteArray saved = desk.Program.Tree.Bytes(PartialImage);
   QVERIFY(saved.contains("\r\nPO 5\r\nAnn, at the gate\r\n1\r\n"));
   const ScreenDriver partials = desk.OpenPartials();
   const auto before = desk.Program.Tree.Everything();
@@ -81,7 +84,7 @@ void CommasAndQuotes::aCommaInTheAttentionLineKeepsTheInvoiceFromBeingRead() {
   // As the box says: mended by hand, it comes whole.
   QByteArray mended = saved;
   mended.replace("Ann, at", "Ann at");
-  desk.Program.Tree.Write(Image, mended);
+  desk.Program.Tree.Write(PartialImage, mended);
   desk.Program.Answers.Ok({}, u"Partial Invoice Loaded"_s);
   partials.Click(u"Command1_1"_s);
   QCOMPARE(InvoicingDesk::Text(u"txtShipto_6"_s), u"Ann at the gate"_s);
@@ -91,14 +94,57 @@ void CommasAndQuotes::aCommaInTheAttentionLineKeepsTheInvoiceFromBeingRead() {
 void CommasAndQuotes::aCountBehindTheCommaIsTakenForTheLines() {
   InvoicingDesk desk;
   QVERIFY(SaveHammers(desk, u"PO 5"_s, u"Dock, 1"_s));
-  const QByteArray saved = desk.Program.Tree.Bytes(Image);
+  const QByteArray saved = desk.Program.Tree.Bytes(PartialImage);
   desk.Recall();
   QCOMPARE(InvoicingDesk::Text(u"txtReference"_s), u"PO 5"_s);
   QCOMPARE(InvoicingDesk::Text(u"txtShipto_6"_s), u"Dock"_s);
   // The count's own row is the first cell, and the last cell isn't reached.
   QCOMPARE(InvoicingDesk::Line(1), (QStringList{u"1"_s, u"2"_s, u"Hammer"_s, u"3/7/2026"_s, u"$12.00"_s, u"$24.00"_s}));
   QCOMPARE(InvoicingDesk::Line(2), QStringList(6, QString()));
-  QCOMPARE(desk.Program.Tree.Bytes(Image), saved);
+  QCOMPARE(desk.Program.Tree.Bytes(PartialImage), saved);
+}
+
+void CommasAndQuotes::aCommaKeepsACompletedInvoiceFromBeingShown_data() {
+  QTest::addColumn<QByteArray>("carrier");
+  QTest::addColumn<QString>("reference");
+  QTest::addColumn<QByteArray>("rows");
+  QTest::newRow("in the carrier") << QByteArray("Acme, overnight") << u"PO 5"_s
+                                  << QByteArray(
+                                         "\r\nAcme, overnight\r\n3/7/2026\r\n20260017\r\n1001\r\nPO 5\r\nAnn\r\n1\r\n");
+  QTest::newRow("in the reference") << QByteArray("Acme") << u"PO 5, rush"_s
+                                    << QByteArray(
+                                           "\r\nAcme\r\n3/7/2026\r\n20260017\r\n1001\r\nPO 5, rush\r\nAnn\r\n1\r\n");
+}
+
+void CommasAndQuotes::aCommaKeepsACompletedInvoiceFromBeingShown() {
+  QFETCH(const QByteArray, carrier);
+  QFETCH(const QString, reference);
+  QFETCH(const QByteArray, rows);
+  const QString name = u"/CompletedInvoices/20260017.txt"_s;
+  InvoicingDesk desk;
+  desk.Program.Tree.Write(u"/ShipVia.txt"_s, carrier + "\r\n");
+  QVERIFY(desk.Program.StartAtMenu());
+  desk.BeginInvoice(reference, u"Ann"_s);
+  desk.PostHammers(u"2"_s);
+  Finish(desk);
+  const QByteArray image = desk.Program.Tree.Bytes(name);
+  QVERIFY2(image.contains(rows), image.constData());
+  OpenReprint();
+  const ScreenDriver completed(u"frmReprint"_s);
+  // What stands behind the comma takes the next place, and a text that of the count.
+  desk.Program.Answers.Ok();
+  completed.SelectRow(u"fgReceivables"_s, 1);
+  const QString box = desk.Program.Answers.Last().Text;
+  QVERIFY2(box.contains(name) && box.contains(u"(error 13)"_s), qPrintable(box));
+  QVERIFY(completed.IsVisible(u"fgReceivables"_s));
+  QCOMPARE(desk.Program.Tree.Bytes(name), image);
+  // As the box says: mended by hand, it comes whole.
+  desk.Program.Tree.Write(name, QByteArray(image).replace("Acme, ", "Acme ").replace("PO 5, ", "PO 5 "));
+  completed.SelectRow(u"fgReceivables"_s, 1);
+  QVERIFY(completed.IsVisible(u"fraInvoice"_s));
+  QCOMPARE(completed.Text(u"Label1_32"_s), QString::fromLatin1(carrier).remove(u','));
+  QCOMPARE(completed.Text(u"Label1_9"_s), QString(reference).remove(u','));
+  QCOMPARE(completed.Text(u"txtAttn"_s), u"Ann"_s);
 }
 
 void CommasAndQuotes::aMemoIsSavedAsTypedAndReadInParts() {

@@ -39,11 +39,11 @@ QStringList Beyond(const PaperJob& job, const PaperJob& other) {
   return rest;
 }
 
-QByteArray Customer() {
+QByteArray Customer(const QByteArray& address1 = "1 Main Street") {
   RecordText record;
   record.AcctNo = "1001";
   record.AcctName = "Acme Tools";
-  record.Address1 = "1 Main Street";
+  record.Address1 = address1;
   record.Address2 = "Floor 2";
   record.CityLine = record.CityShort = "Springfield";
   record.State = "IL";
@@ -57,6 +57,8 @@ struct Desk {
   /// What the invoice has beside its lines.
   bool ShipTo = true;
   int Lines = 2;
+  /// Shipping and additional charge are entered and left as they are, which blanks them.
+  bool BlankCharges = false;
 
   Desk() {
     const TemporaryTree& tree = Program.Tree;
@@ -88,7 +90,11 @@ struct Desk {
       invoice.Click(u"cmdPost_1"_s);
     }
     invoice.Click(u"cmdPrint"_s);
-    invoice.Fill(u"txtShip"_s, u"12.5"_s);
+    if (BlankCharges) {
+      for (const QString& box : {u"txtShip"_s, u"txtMisc"_s}) invoice.Control(box)->setFocus(Qt::TabFocusReason);
+    } else {
+      invoice.Fill(u"txtShip"_s, u"12.5"_s);
+    }
     invoice.Click(u"cmdInvoice_9"_s);
     Program.Answers.Yes(u"Was the Invoice Printed Correctly"_s);
     invoice.Click(u"cmdInvoiceContinue"_s);
@@ -148,6 +154,8 @@ class ReprintPage : public QObject {
   void theAmountEnclosedLineFollowsTodaysPaper();
   void theShipToBlockPrintsThoughItWasNotTicked();
   void withoutAShipToAddressNothingOfItPrints();
+  void aBlankedChargePrintsAsZero();
+  void aQuoteInTheAddressEndsItsLine();
   void theHeadingKeepsTheDateOfTheInvoice();
   void theShipRowFollowsTheCalendar();
   void theNarrativePrintsAsItDid();
@@ -158,6 +166,8 @@ class ReprintPage : public QObject {
   void theReportPrintsTheListWithItsAmounts();
   void theReportFollowsTheOrderOnTheScreen();
   void theReportsErrorsAreToldAndItsCancelIsSilent();
+  void aReportThatIsStoppedPrintsNothing();
+  void theTimeInThePrinterDialogIsNoWork();
 };
 
 void ReprintPage::aReprintOnTheSameDayIsItsFirstPrintMarkByMark() {
@@ -262,6 +272,23 @@ void ReprintPage::withoutAShipToAddressNothingOfItPrints() {
   QVERIFY(!words.contains(u"UPS Ground"_s));
   QVERIFY(words.contains(u"Hammer, \"big\""_s));
   QVERIFY(words.contains(u"$1,024.00"_s));
+}
+
+void ReprintPage::aBlankedChargePrintsAsZero() {
+  Desk desk;
+  desk.BlankCharges = true;
+  QVERIFY(desk.MakeAndReprint());
+  QVERIFY(desk.Gone().isEmpty());
+  QCOMPARE(desk.Added(), (QStringList{u"$0.00"_s, u"$0.00"_s}));
+}
+
+void ReprintPage::aQuoteInTheAddressEndsItsLine() {
+  Desk desk;
+  desk.Program.Tree.Write(u"/CustomerData.txt"_s, Customer("12\" Pipe Row"));
+  QVERIFY(desk.MakeAndReprint());
+  QVERIFY(desk.Program.Tree.Bytes(u"/CompletedInvoices/20260017.txt"_s).contains("\r\n\"12\" Pipe Row\"\r\n"));
+  QCOMPARE(desk.Gone(), (QStringList{u"12\" Pipe Row"_s, u"12\" Pipe Row"_s}));
+  QCOMPARE(desk.Added(), (QStringList{u"12"_s, u"12"_s}));
 }
 
 void ReprintPage::theHeadingKeepsTheDateOfTheInvoice() {
@@ -410,6 +437,38 @@ void ReprintPage::theReportsErrorsAreToldAndItsCancelIsSilent() {
   screen.Click(u"cmdReport"_s);
   QCOMPARE(program.Paper.Jobs.size(), std::size_t{0});
   QVERIFY(ScreenDriver::IsShown(u"frmReprint"_s));
+}
+
+void ReprintPage::aReportThatIsStoppedPrintsNothing() {
+  ProgramFixture program;
+  program.Patience = 0;
+  const auto goOn = [](QDialog& dialog) { QVERIFY(qobject_cast<QProgressDialog*>(&dialog) != nullptr); };
+  program.Answers.Dialog(goOn);  // The list.
+  const ScreenDriver screen = OpenList(program);
+  program.Answers.Dialog([](QDialog& dialog) { dialog.findChild<QPushButton*>()->click(); });
+  screen.Click(u"cmdReport"_s);
+  QVERIFY(program.Paper.Jobs.empty());
+  QCOMPARE(program.Answers.Boxes().size(), 0);
+  QVERIFY(screen.IsVisible(u"fgReceivables"_s));
+  program.Answers.Dialog(goOn);
+  screen.Click(u"cmdReport"_s);
+  QCOMPARE(ReportOrder(program.Paper), (QStringList{u"1"_s, u"2"_s, u"3"_s}));
+}
+
+void ReprintPage::theTimeInThePrinterDialogIsNoWork() {
+  constexpr int patience = 1000;
+  ProgramFixture program;
+  program.Patience = patience;
+  const ScreenDriver screen = OpenList(program);
+  // The user takes that time in the dialog. A progress that came up behind it would be a dialog that nobody expected.
+  program.Paper.OnDialog = [] {
+    QElapsedTimer time;
+    time.start();
+    while (!time.hasExpired(patience)) {
+    }
+  };
+  screen.Click(u"cmdReport"_s);
+  QCOMPARE(program.Paper.Jobs.size(), std::size_t{1});
 }
 
 QTEST_MAIN(ReprintPage)

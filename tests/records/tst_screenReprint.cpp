@@ -102,6 +102,7 @@ class ScreenReprint : public QObject {
   void aDoubleClickOnARowClearsNoMemoUnderIt();
   void eachKeySortsBothWays_data();
   void eachKeySortsBothWays();
+  void withinADateTheOrderOfTheFormerSortIsKept();
   void theYearLeadsTheOrderOfDates();
   void theTwoKindsOfOptionsAreChosenApart();
   void aDateLaterThanTodayIsSetBack();
@@ -544,6 +545,14 @@ void ScreenReprint::eachKeySortsBothWays() {
   // A click opens the row that stands there now.
   desk.On().SelectRow(u"fgReceivables"_s, 1);
   QCOMPARE(Title(desk.On()), u"Details for Invoice "_s + numbers.first());
+}
+
+void ScreenReprint::withinADateTheOrderOfTheFormerSortIsKept() {
+  Desk desk;
+  QVERIFY(desk.Open());
+  desk.Sort(0, 1);
+  desk.Sort(1, 0);
+  QCOMPARE(desk.Column(0), (QStringList{u"900"_s, u"20260010"_s, u"20260009"_s, u"20260011"_s}));
 }
 
 void ScreenReprint::theYearLeadsTheOrderOfDates() {
