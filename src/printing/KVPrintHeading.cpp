@@ -49,7 +49,7 @@ void KVPrint::PrintMemo() {
     while (!memo.AtEnd()) {
       // What doesn't fit is dropped, and the colour stays blue until the next is chosen: meant.
       if (m_printer.CurrentY > LastMemoY) return;
-      m_routines.PrintWrapped(1872, m_routines.WholeY(), 5904, 720, memo.ReadString());
+      m_routines.PrintWrapped(1872, m_routines.WholeY(), 5904, memo.ReadString());
     }
     m_disk.CloseAllFiles();
   }
@@ -98,7 +98,7 @@ void KVPrint::PrintShipTo(const PageAddress& address, bool usaAddress, const Pag
 
 void KVPrint::PrintAddressBlock(float x, const PageAddress& address, bool usaAddress, const QString& afterCity) {
   m_routines.PrintAt(x, 0);
-  m_routines.PrintWrappedHere(2520, 360, address.Name);
+  m_routines.PrintWrappedHere(2520, address.Name);
   PrintLineAt(x, address.Address1);
   PrintIfAny(x, address.Address2);
   if (usaAddress) {

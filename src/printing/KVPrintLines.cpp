@@ -61,7 +61,7 @@ void KVPrint::PrintRow(const InvoicePage& page) {
   m_routines.PrintJoinedRight(9360, cell(Cell::Price));
   m_routines.PrintJoinedRight(11520, cell(Cell::Total));
   m_routines.PrintAt(2.3F, 0);
-  m_routines.PrintWrappedHere(4248, 360, description);
+  m_routines.PrintWrappedHere(4248, description);
   breakIfFull();
 }
 
@@ -81,7 +81,7 @@ void KVPrint::PrintNarrative(const QString& invoiceNo) {
       m_routines.SetPrintFont(10, false, false);
       return;
     }
-    m_routines.PrintWrapped(360, m_routines.WholeY(), 10800, 720, narrative.ReadLine());
+    m_routines.PrintWrapped(360, m_routines.WholeY(), 10800, narrative.ReadLine());
   }
   m_disk.CloseAllFiles();
 }

@@ -57,7 +57,7 @@ void PrinterRoutines::SetPrintColor(bool dataColor) {
   m_printer.SetForeColor(m_inkColor);
 }
 
-void PrinterRoutines::PrintWrapped(qint16 x, qint16 y, qint16 width, qint16 /*unused*/, QString text) {
+void PrinterRoutines::PrintWrapped(qint16 x, qint16 y, qint16 width, QString text) {
   const float limit = static_cast<float>(width - 20);
   m_printer.CurrentY = y;
   do {
@@ -83,8 +83,8 @@ void PrinterRoutines::PrintWrapped(qint16 x, qint16 y, qint16 width, qint16 /*un
   } while (!text.isEmpty());
 }
 
-void PrinterRoutines::PrintWrappedHere(qint16 width, qint16 unused, const QString& text) {
-  PrintWrapped(ToInt16(static_cast<double>(m_printer.CurrentX)), WholeY(), width, unused, text);
+void PrinterRoutines::PrintWrappedHere(qint16 width, const QString& text) {
+  PrintWrapped(ToInt16(static_cast<double>(m_printer.CurrentX)), WholeY(), width, text);
 }
 
 qint16 PrinterRoutines::WholeY() const {

@@ -49,10 +49,10 @@ class PrinterRoutines {
   void SetPrintColor(bool dataColor);
   /// Prints `text` from (x, y) twips downward, wrapped between blanks to `width` less an allowance of 20 twips. The
   /// last word never moves to a line of its own, a first word that is too wide stands alone, and empty text is one
-  /// blank line. `unused` changes nothing.
-  void PrintWrapped(qint16 x, qint16 y, qint16 width, qint16 unused, QString text);
+  /// blank line.
+  void PrintWrapped(qint16 x, qint16 y, qint16 width, QString text);
   /// `PrintWrapped` from the cursor, which is rounded to whole twips by that.
-  void PrintWrappedHere(qint16 width, qint16 unused, const QString& text);
+  void PrintWrappedHere(qint16 width, const QString& text);
 
   /// The cursor's height in whole twips, as `PrintWrapped` takes it.
   qint16 WholeY() const;

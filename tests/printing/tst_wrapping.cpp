@@ -19,14 +19,13 @@ class TestWrapping : public QObject {
   void aWideWordInTheMiddleIsPrintedAlone();
   void emptyTextPrintsOneBlankLine();
   void linesAddUpUnrounded();
-  void theUnusedNumberChangesNothing();
   void theCursorIsRoundedToWholeTwips();
   void aCursorBeyond16BitsIsAnOverflow();
 };
 
 namespace {
 QStringList Wrapped(PageFixture& f, qint16 width, const QString& text) {
-  f.Routines.PrintWrapped(500, 1000, width, 360, text);
+  f.Routines.PrintWrapped(500, 1000, width, text);
   f.Paper.EndDoc();
   return f.Paper.Words(1);
 }
@@ -34,7 +33,7 @@ QStringList Wrapped(PageFixture& f, qint16 width, const QString& text) {
 
 void TestWrapping::aTextBreaksWhereTheNextWordIsTooWide() {
   PageFixture f;
-  f.Routines.PrintWrapped(500, 1000, 700, 360, u"00 11 22 33 44 55"_s);
+  f.Routines.PrintWrapped(500, 1000, 700, u"00 11 22 33 44 55"_s);
   f.Paper.EndDoc();
   // Two words with their blanks are 556 wide, three are 834, of 680. The rest of the third line has one blank only.
   QCOMPARE(Described(f.Paper.Texts(1)), QStringList({u"500 1000.0 10 000000 00 11 "_s, u"500 1223.5 10 000000 22 33 "_s,
@@ -82,7 +81,7 @@ void TestWrapping::aWideWordInTheMiddleIsPrintedAlone() {
 
 void TestWrapping::emptyTextPrintsOneBlankLine() {
   PageFixture f;
-  f.Routines.PrintWrapped(500, 1000, 576, 360, {});
+  f.Routines.PrintWrapped(500, 1000, 576, {});
   QCOMPARE(static_cast<double>(f.Paper.CurrentY), 1223.453125);
   f.Paper.EndDoc();
   QCOMPARE(f.Paper.Words(1), QStringList());
@@ -90,25 +89,15 @@ void TestWrapping::emptyTextPrintsOneBlankLine() {
 
 void TestWrapping::linesAddUpUnrounded() {
   PageFixture f;
-  f.Routines.PrintWrapped(500, 1000, 300, 360, u"00 11 22 33 44"_s);
+  f.Routines.PrintWrapped(500, 1000, 300, u"00 11 22 33 44"_s);
   QCOMPARE(static_cast<double>(f.Paper.CurrentY), 1893.8125);  // Four lines of 223.453125.
-}
-
-void TestWrapping::theUnusedNumberChangesNothing() {
-  PageFixture f;
-  f.Routines.PrintWrapped(500, 1000, 576, 360, u"00 11 22 33 44"_s);
-  f.Paper.EndDoc();
-  const QStringList first = Described(f.Paper.Texts(1));
-  f.Routines.PrintWrapped(500, 1000, 576, 32000, u"00 11 22 33 44"_s);
-  f.Paper.EndDoc();
-  QCOMPARE(Described(f.Paper.Texts(1)), first);
 }
 
 void TestWrapping::theCursorIsRoundedToWholeTwips() {
   PageFixture f;
   f.Paper.CurrentX = 100.5F;  // Ties go to the even side.
   f.Paper.CurrentY = 301.5F;
-  f.Routines.PrintWrappedHere(576, 360, u"00"_s);
+  f.Routines.PrintWrappedHere(576, u"00"_s);
   f.Paper.EndDoc();
   QCOMPARE(f.Paper.Texts(1).at(0).X, 100.0F);
   QCOMPARE(f.Paper.Texts(1).at(0).Y, 302.0F);
@@ -118,7 +107,7 @@ void TestWrapping::aCursorBeyond16BitsIsAnOverflow() {
   PageFixture f;
   f.Paper.CurrentY = 32768.0F;
   try {
-    f.Routines.PrintWrappedHere(576, 360, u"00"_s);
+    f.Routines.PrintWrappedHere(576, u"00"_s);
     QFAIL("no error");
   } catch (const RuntimeError& error) {
     QCOMPARE(error.Number(), 6);
