@@ -36,6 +36,8 @@ class RuntimeError : public std::exception {
 
   int Number() const { return m_number; }
   const QString& Subject() const { return m_subject; }
+  /// Whether the subject is a file: its name or path begins with a separator, which no box's name does.
+  bool IsAboutFile() const { return m_subject.startsWith(u'/') || m_subject.startsWith(u'\\'); }
   /// One sentence for the user, without the subject.
   const QString& Text() const { return m_text; }
   Origin From() const { return m_origin; }

@@ -4,11 +4,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What couldn't be read as what it must be: the content of a file that the user asked for, which a path names.
+/// What couldn't be read as what it must be: the content of a file that the user asked for.
 bool IsUnreadableFile(const RuntimeError& error) {
   const bool read = error.Number() == ErrorNumber::InputPastEnd || error.Number() == ErrorNumber::TypeMismatch ||
                     error.Number() == ErrorNumber::Overflow || error.Number() == ErrorNumber::OutOfRange;
-  return read && error.Subject().startsWith(u'/');
+  return read && error.IsAboutFile();
 }
 
 QString WhatToDo(const RuntimeError& error) {

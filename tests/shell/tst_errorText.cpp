@@ -63,6 +63,13 @@ class ErrorTextTest : public QObject {
     }
   }
 
+  void theAdviceIsThatOfAFileHoweverItIsNamed() {
+    for (const QString& subject : {u"/Labor.txt"_s, u"\\Labor.txt"_s}) {
+      QVERIFY(ErrorBoxText(RuntimeError(13, subject), false).contains(u"Mend the file or remove it"_s));
+    }
+    QVERIFY(ErrorBoxText(RuntimeError(13, u"txtUnits"_s), false).contains(u"Correct what was typed"_s));
+  }
+
   void anErrorAtTheStartTellsThatNothingWasChanged() {
     const QString text = ErrorBoxText(RuntimeError(70, u"/data/AuxFiles"_s), true);
     QVERIFY(text.contains(u"can't start"_s));
