@@ -5,6 +5,7 @@
 #include "benchmarks/Measure.h"
 #include "benchmarks/Operations.h"
 #include "benchmarks/Trees.h"
+#include "customers/CustomerFolders.h"
 #include "runtime/Clock.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/DataTree.h"
@@ -16,7 +17,11 @@ void MeasureDataTree(const QString& fullTree) {
   FileStore store(device);
   CommonDiskRoutines disk(store, fullTree, u"KarvexInvoicer"_s);
   SystemClock clock;
-  MakeDataTree(disk, clock);
+  const auto makeAll = [&] {
+    MakeDataTree(disk, clock);
+    MakeCustomerFolders(disk);
+  };
+  makeAll();
 
   std::vector<QByteArray> folders;
   for (int i = 0; i < Limit::Customers; ++i) {
@@ -24,11 +29,9 @@ void MeasureDataTree(const QString& fullTree) {
     folders.push_back(folder);
     for (int n = 0; n < 6; ++n) folders.push_back(folder + "/AuxFile" + QByteArray::number(n));
   }
-  const Pair times = MediansOf(
-      5, [&] { MakeDataTree(disk, clock); },
-      [&] {
-        for (const QByteArray& folder : folders) mkdir(folder.constData(), 0777);
-      });
+  const Pair times = MediansOf(5, makeAll, [&] {
+    for (const QByteArray& folder : folders) mkdir(folder.constData(), 0777);
+  });
   MustHold(std::all_of(folders.begin(), folders.end(),
                        [](const QByteArray& folder) {
                          struct stat found;

@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "catalogue/frmServices.h"
+#include "customers/CustomerFolders.h"
 #include "customers/frmCustomerSelection.h"
 #include "customers/frmNewCustomer.h"
 #include "invoice/frmInvoice.h"
@@ -48,6 +49,8 @@ Program::~Program() {
   // Before the first one goes: what a window's hiding sets off may look at the others.
   HideAll();
   m_screens.clear();
+  // Their own end was left to the event loop, which may have ended before: it must not come after this host's.
+  for (const QPointer<Screen>& screen : m_unloaded) delete screen.data();
 }
 
 CommonDiskRoutines& Program::Disk() {
@@ -62,6 +65,7 @@ bool Program::Start() {
       return false;
     }
     MakeDataTree(m_objects->Disk, *m_platform.Calendar);
+    MakeCustomerFolders(m_objects->Disk);
     m_objects->LoadSettings();
     Show(ScreenName::frmSplash);
     Built(ScreenName::frmSplash)->repaint();
@@ -75,63 +79,48 @@ bool Program::Start() {
   return !m_ended;
 }
 
-Screen* Program::Build(ScreenName screen) {
-  if (Screen* built = Built(screen)) return built;
-  const Builder builder = BuilderOf(screen);
-  if (!builder) return nullptr;
-  return (m_screens[screen] = builder()).get();
+Screen& Program::Build(ScreenName screen) {
+  if (Screen* built = Built(screen)) return *built;
+  return *(m_screens[screen] = Make(screen));
 }
 
-Program::Builder Program::BuilderOf(ScreenName screen) {
+std::unique_ptr<Screen> Program::Make(ScreenName screen) {
   switch (screen) {
     case ScreenName::frmSplash:
-      return [this] { return std::make_unique<frmSplash>(*this, *this, m_objects->Disk, m_platform.Version); };
+      return std::make_unique<frmSplash>(*this, *this, m_objects->Disk, m_platform.Version);
     case ScreenName::frmStartup:
-      return [this] { return std::make_unique<frmStartup>(*this, *this, MenuContext()); };
+      return std::make_unique<frmStartup>(*this, *this, MenuContext());
     case ScreenName::frmSetup:
-      return [this] {
-        return std::make_unique<frmSetup>(*this, *this,
-                                          SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live,
-                                                       m_objects->Dialog, m_platform.ProgramFolder});
-      };
+      return std::make_unique<frmSetup>(*this, *this,
+                                        SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live,
+                                                     m_objects->Dialog, m_platform.ProgramFolder});
     case ScreenName::frmServices:
-      return [this] { return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes); };
+      return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
     case ScreenName::frmInvoice:
-      return [this] { return BuildInvoice(); };
+      return BuildInvoice();
     case ScreenName::frmNewCustomer:
-      return [this] {
-        return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
-                                                m_objects->Live.Business, m_objects->Customer);
-      };
+      return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
+                                              m_objects->Live.Business, m_objects->Customer);
     case ScreenName::frmCustomerSelection:
-      return [this] {
-        return std::make_unique<frmCustomerSelection>(*this, *this, m_objects->Proposals, m_objects->Disk,
-                                                      *m_platform.Boxes);
-      };
+      return std::make_unique<frmCustomerSelection>(*this, *this, m_objects->Proposals, m_objects->Disk,
+                                                    *m_platform.Boxes);
     case ScreenName::frmBlanks:
-      return [this] {
-        return std::make_unique<frmBlanks>(*this, *this,
-                                           BlanksDesk{m_objects->Routines, m_objects->Pages, m_objects->Live.Print,
-                                                      *m_platform.Boxes, *m_platform.Calendar});
-      };
+      return std::make_unique<frmBlanks>(*this, *this,
+                                         BlanksDesk{m_objects->Routines, m_objects->Pages, m_objects->Live.Print,
+                                                    *m_platform.Boxes, *m_platform.Calendar});
     case ScreenName::frmIncomplete:
-      return [this] {
-        return std::make_unique<frmIncomplete>(
-            *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
-                               *m_platform.Calendar, *this, m_objects->Reports, m_platform.Patience});
-      };
+      return std::make_unique<frmIncomplete>(
+          *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
+                             *m_platform.Calendar, *this, m_objects->Reports, m_platform.Patience});
     case ScreenName::frmSalesReport:
-      return [this] { return BuildSalesReport(); };
+      return BuildSalesReport();
     case ScreenName::frmReprint:
-      return [this] { return BuildReprint(); };
+      return BuildReprint();
     case ScreenName::frmDialer:
-      return [this] {
-        return std::make_unique<frmDialer>(
-            *this, *this, DialerDesk{*m_platform.Modem, m_objects->Disk, *m_platform.Boxes, m_objects->Live.Phone});
-      };
-    default:
-      return nullptr;
+      return std::make_unique<frmDialer>(
+          *this, *this, DialerDesk{*m_platform.Modem, m_objects->Disk, *m_platform.Boxes, m_objects->Live.Phone});
   }
+  throw std::logic_error("no such screen");
 }
 
 std::unique_ptr<Screen> Program::BuildInvoice() {
@@ -173,13 +162,11 @@ Screen* Program::Built(ScreenName screen) const {
 }
 
 void Program::Show(ScreenName screen) {
-  Screen* built = Build(screen);
-  if (built == nullptr || built->isVisible() || m_ended) return;
-  // Without a partial invoice their screen hides at once: no window is left then, and the program lives on. Meant.
-  if (screen == ScreenName::frmIncomplete && !LoadPartialList(m_objects->Partials, m_objects->Disk)) return;
-  built->Activate();
+  Screen& built = Build(screen);
+  if (built.isVisible() || m_ended || !built.MayShow()) return;
+  built.Activate();
   // The activation may have ended the program, or left for another screen.
-  if (!m_ended && Built(screen) == built) Open(*built);
+  if (!m_ended && Built(screen) == &built) Open(built);
 }
 
 void Program::Open(Screen& screen) {
@@ -199,7 +186,8 @@ void Program::Unload(ScreenName screen) {
   if (found == m_screens.end() || !found->second) return;
   found->second->hide();
   // The screen may be in the middle of its own handler.
-  found->second.release()->deleteLater();
+  found->second->deleteLater();
+  m_unloaded.emplace_back(found->second.release());
   m_screens.erase(found);
   // What it stood over has the keyboard again.
   for (const auto& [name, behind] : m_screens) {
@@ -208,7 +196,7 @@ void Program::Unload(ScreenName screen) {
 }
 
 void Program::ShowSetupAtFirstTab() {
-  static_cast<frmSetup&>(*Build(ScreenName::frmSetup)).ShowFirstTab();
+  static_cast<frmSetup&>(Build(ScreenName::frmSetup)).ShowFirstTab();
   Show(ScreenName::frmSetup);
 }
 
@@ -218,7 +206,7 @@ void Program::StartInvoiceFor(const SoldTo& customer) {
 }
 
 void Program::StartCall(const QString& name, const QString& number) {
-  static_cast<frmDialer&>(*Build(ScreenName::frmDialer)).SetRecipient(name, number);
+  static_cast<frmDialer&>(Build(ScreenName::frmDialer)).SetRecipient(name, number);
   Show(ScreenName::frmDialer);
 }
 

@@ -6,7 +6,9 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <QPointer>
 #include <QString>
+#include <vector>
 
 #include "desktop/Screen.h"
 #include "shell/Screens.h"
@@ -73,13 +75,10 @@ class Program final : public Screens, public ScreenHost {
  private:
   struct Objects;  ///< Every rules object, by folder.
 
-  using Builder = std::function<std::unique_ptr<Screen>()>;
-
   MainMenuContext MenuContext();
-  /// How a screen is made; empty for one that the program doesn't have yet.
-  Builder BuilderOf(ScreenName screen);
-  /// Makes the screen if it isn't there; nullptr where it can't.
-  Screen* Build(ScreenName screen);
+  std::unique_ptr<Screen> Make(ScreenName screen);
+  /// Makes the screen if it isn't there.
+  Screen& Build(ScreenName screen);
   std::unique_ptr<Screen> BuildInvoice();
   std::unique_ptr<Screen> BuildSalesReport();
   std::unique_ptr<Screen> BuildReprint();
@@ -91,6 +90,7 @@ class Program final : public Screens, public ScreenHost {
   Platform m_platform;
   std::unique_ptr<Objects> m_objects;
   std::map<ScreenName, std::unique_ptr<Screen>> m_screens;
+  std::vector<QPointer<Screen>> m_unloaded;  ///< Null once they are gone.
   ScreenName m_lastHidden = ScreenName::frmSplash;
   bool m_starting = false;
   bool m_ended = false;

@@ -16,11 +16,11 @@ QString HeadingsFile() {
 }
 
 QString AccountFolder(const QString& account) {
-  return u"/AuxFiles/"_s + account;
+  return AuxFolder() + u'/' + account;
 }
 
 QString BoxFolder(const QString& account, int box) {
-  return AccountFolder(account) + u"/AuxFile"_s + QString::number(box);
+  return AccountFolder(account) + u'/' + AuxBoxFolderName(box);
 }
 
 QString BoxFile(const QString& account, int box) {
@@ -101,7 +101,7 @@ void AuxiliaryData::SaveAuxData() {
                        "hold / or \\ or characters outside the Western alphabets."_s)
         .WithAdvice(u"Enter another Account No and save again. Nothing was lost."_s);
   }
-  m_disk.MakeDataFolder(u"/AuxFiles"_s);
+  m_disk.MakeDataFolder(AuxFolder());
   m_disk.MakeDataFolder(AccountFolder(account));
   for (int box = 0; box < AuxBoxCount; ++box) {
     m_disk.MakeDataFolder(BoxFolder(account, box));

@@ -4,9 +4,9 @@
 
 #include <QString>
 
-class CommonDiskRoutines;
+#include "customers/CustomerFolders.h"
 
-inline constexpr int AuxBoxCount = 6;
+class CommonDiskRoutines;
 
 /// What the auxiliary data see of the screen. Lines of a box end with LF or CR LF.
 class AuxiliaryView {

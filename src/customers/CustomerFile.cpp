@@ -102,19 +102,27 @@ int CustomerFile::Count() {
   return m_disk.RecordCount(FileName(), CustomerRecord::Length);
 }
 
+RandomFile CustomerFile::Open() {
+  return m_disk.OpenRandomFile(FileName(), CustomerRecord::Length);
+}
+
+RecordBuffer CustomerFile::ReadAll() {
+  return Open().ReadAll();
+}
+
 void CustomerFile::Read(int number) {
-  Buffer.Assign(m_disk.OpenCustomerFile().Get(number));
+  Buffer.Assign(Open().Get(number));
 }
 
 void CustomerFile::Write(int number) {
-  m_disk.OpenCustomerFile().Put(number, Buffer.Bytes());
+  Open().Put(number, Buffer.Bytes());
 }
 
 bool CustomerFile::HasAccount(const QString& number, int count, int skip) {
   if (!Exists()) {
     return false;
   }
-  const RecordBuffer records = m_disk.OpenCustomerFile().ReadAll();
+  const RecordBuffer records = ReadAll();
   const QByteArray wanted = ToCodePage(number);
   // A text that no record can hold as it stands equals none: one with blanks around, or with a foreign character.
   const bool storable = FromCodePage(wanted) == number && TrimBlanks(number) == number;
@@ -134,7 +142,7 @@ bool CustomerFile::HasAccount(const QString& number, int count, int skip) {
 }
 
 CustomerLists CustomerFile::ReadLists(int count) {
-  const RecordBuffer records = m_disk.OpenCustomerFile().ReadAll();
+  const RecordBuffer records = ReadAll();
   CustomerLists lists;
   QSet<QByteArrayView> cities;
   NameSorter names(count);
@@ -155,7 +163,7 @@ CustomerLists CustomerFile::ReadLists(int count) {
 }
 
 std::vector<FoundCustomer> CustomerFile::Find(const CustomerQuery& query, int count) {
-  const RecordBuffer records = m_disk.OpenCustomerFile().ReadAll();
+  const RecordBuffer records = ReadAll();
   if (count > 0) {
     Buffer.Assign(records.Bytes(count));
   }
@@ -167,7 +175,7 @@ std::optional<RuntimeError> CustomerFile::Remove(int number, int count, const QS
   m_disk.KillDataFile(temporary);
   QByteArray kept;
   {
-    const RecordBuffer records = m_disk.OpenCustomerFile().ReadAll();
+    const RecordBuffer records = ReadAll();
     kept.reserve(records.Content().size());
     for (int i = 1; i <= count; ++i) {
       if (i != number) {

@@ -8,9 +8,11 @@
 
 #include "customers/CustomerRecord.h"
 #include "customers/FindInRecords.h"
+#include "runtime/RecordFile.h"
 #include "runtime/RuntimeError.h"
 
 class CommonDiskRoutines;
+class RandomFile;
 
 /// What the pull-down lists of the customer screen hold.
 struct CustomerLists {
@@ -29,6 +31,8 @@ class CustomerFile {
   bool Exists();  ///< After the restore from /Backup.
   /// Throws RuntimeError 6 above 32,767 records.
   int Count();
+  /// The whole file for a scan. It is made where there is none.
+  RecordBuffer ReadAll();
   /// Blank past the end of the file.
   void Read(int number);
   /// Extends the file where needed. Throws RuntimeError 61, 70 or 75.
@@ -45,5 +49,7 @@ class CustomerFile {
   std::optional<RuntimeError> Remove(int number, int count, const QString& account);
 
  private:
+  RandomFile Open();
+
   CommonDiskRoutines& m_disk;
 };

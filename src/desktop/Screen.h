@@ -34,6 +34,8 @@ class Screen : public QMainWindow {
   Screen(const QString& name, ScreenHost& host);
   ~Screen() override;
 
+  /// Asked when the screen is to be shown; where it says no, it isn't, and no activation runs.
+  virtual bool MayShow() { return true; }
   /// Runs each time the screen is shown, before its window appears.
   virtual void Activate() {}
 

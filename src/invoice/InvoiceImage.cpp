@@ -16,13 +16,21 @@ constexpr size_t Attention = 6;     ///< Element of `txtShipto`.
 
 }  // namespace
 
+QString PartialInvoicesFolder() {
+  return u"/KarvexInvoicer/IncompleteInvoices"_s;
+}
+
+QString CompletedInvoicesFolder() {
+  return u"/CompletedInvoices"_s;
+}
+
 QString InvoiceImageName(const QString& invoiceNo, bool complete) {
   if (!CanNameAFile(invoiceNo)) {
     throw RuntimeError(
         ErrorNumber::BadFileName, u"txtInvoiceNo"_s,
         u"The invoice number \"%1\" can't name a file. Give the invoice another number."_s.arg(invoiceNo));
   }
-  return (complete ? u"/CompletedInvoices/"_s : u"/KarvexInvoicer/IncompleteInvoices/"_s) + invoiceNo + u".txt"_s;
+  return (complete ? CompletedInvoicesFolder() : PartialInvoicesFolder()) + u'/' + invoiceNo + u".txt"_s;
 }
 
 void WriteImageHeader(ListWriter& file, const WorkingInvoice& invoice, bool complete, QDate today) {

@@ -9,6 +9,9 @@ class CommonDiskRoutines;
 class ListWriter;
 struct WorkingInvoice;
 
+QString PartialInvoicesFolder();    ///< Root-relative, without a trailing separator.
+QString CompletedInvoicesFolder();  ///< The same.
+
 /// Root-relative name of an image. Throws RuntimeError 64 on `txtInvoiceNo` for a number that can't name a file.
 QString InvoiceImageName(const QString& invoiceNo, bool complete);
 

@@ -2,6 +2,7 @@
 
 #include "invoice/InvoiceNumber.h"
 #include "invoice/WorkingInvoice.h"
+#include "printing/KVPrint.h"
 #include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
@@ -21,8 +22,7 @@ bool SaveNarrative(WorkingInvoice& invoice, CommonDiskRoutines& disk, Dialogs& d
                    const std::function<void()>& toCreationView) {
   if (invoice.txtNarrative.isEmpty()) return true;
   if (!CheckInvoiceNo(invoice, dialogs, toCreationView)) return false;
-  disk.SaveFile(u"/KarvexInvoicer/Narratives/"_s + invoice.txtInvoiceNo + u".txt"_s, Printed(invoice),
-                BackupCopy::Kept);
+  disk.SaveFile(KVPrint::NarrativeName(invoice.txtInvoiceNo), Printed(invoice), BackupCopy::Kept);
   return true;
 }
 

@@ -60,6 +60,9 @@ class KVPrint {
   /// Whether the page in hand has a narrative; set afresh by each `PrintPageFrame`.
   bool HasNarrative() const { return m_hasNarrative; }
 
+  /// Root-relative name of the file of an invoice's narrative.
+  static QString NarrativeName(const QString& invoiceNo);
+
  private:
   void DrawHeaderBox();
   void DrawBandRules();
@@ -80,7 +83,6 @@ class KVPrint {
   void PrintTerms();
   void PrintLineAt(float x, const QString& text);  ///< On the next line, `x` inches from the left.
   void PrintIfAny(float x, const QString& text);
-  static QString NarrativeName(const QString& invoiceNo);
   /// A height in inches above the first item, lowered by a narrative.
   float BodyY(double inches) const;
 

@@ -1,6 +1,7 @@
 #include "records/CompletedInvoices.h"
 
 #include "invoice/InvoiceImage.h"
+#include "printing/KVPrint.h"
 #include "runtime/Dates.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
@@ -10,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Folder = u"/CompletedInvoices"_s;
 constexpr int ListedLines = 5;
 
 /// The five lines of an image and the key of its date.
@@ -44,12 +44,13 @@ QString SortKeyOf(QDate date) {
 }
 
 CompletedLoad LoadCompletedInvoices(CompletedInvoices& list, CommonDiskRoutines& disk, const Progress& progress) {
-  const QStringList files = disk.ListFiles(Folder, u"*.txt"_s);
+  const QString folder = CompletedInvoicesFolder();
+  const QStringList files = disk.ListFiles(folder, u"*.txt"_s);
   if (files.isEmpty()) return CompletedLoad::NoInvoices;
   std::vector<QStringList> rows;
   rows.reserve(static_cast<size_t>(files.size()));
   for (const QString& file : files) {
-    rows.push_back(RowOf(disk, Folder + u'/' + file));
+    rows.push_back(RowOf(disk, folder + u'/' + file));
     if (progress && !progress(static_cast<qint64>(rows.size()), files.size())) return CompletedLoad::Stopped;
   }
   disk.CloseAllFiles();
@@ -74,11 +75,12 @@ bool PurgeCompletedInvoices(const CompletedInvoices& list, CommonDiskRoutines& d
   const TextMatrix& grid = list.fgReceivables;
   for (int row = 1; row < grid.Rows(); ++row) {
     const QString number = list.InvoiceNoOf(row);
-    const bool isBefore = ParseShortDate(grid.Text(row, CompletedColumn::Date), Folder + u'/' + number) < date;
+    const bool isBefore =
+        ParseShortDate(grid.Text(row, CompletedColumn::Date), CompletedInvoicesFolder() + u'/' + number) < date;
     // A number that can't name a file has none to delete.
     if (isBefore && CanNameAFile(number)) {
       disk.KillWithBackup(InvoiceImageName(number, true));
-      disk.KillWithBackup(u"/KarvexInvoicer/Narratives/"_s + number + u".txt"_s);
+      disk.KillWithBackup(KVPrint::NarrativeName(number));
     }
     if (progress && !progress(row, grid.Rows() - 1)) return false;
   }

@@ -22,32 +22,31 @@ constexpr int AmountColumn = 4;
 GridReport::GridReport(PrinterRoutines& routines, KVPrint& pages, const Clock& clock)
     : m_routines(routines), m_pages(pages), m_clock(clock) {}
 
-void GridReport::PrintGridReport(const QString& title, const TextMatrix& grid, const QString& /*tag*/,
-                                 const Progress& progress) {
+void GridReport::PrintGridReport(const ReportKind& kind, const TextMatrix& grid, const Progress& progress) {
   m_routines.DrawJob([&] {
     m_routines.BeginPrintJob();
     // The rows are put on their pages, then the pages are drawn. The first step stands behind the dialog.
     const Progress rows = PartOf(progress, 0, 2);
     PrinterRoutines::TellStep(rows, 0, grid.Rows());
-    PrintReportHeading(title);
-    PrintReportRows(title, grid, rows);
+    PrintReportHeading(kind);
+    PrintReportRows(kind, grid, rows);
     m_routines.Surface().EndDoc(PartOf(progress, 1, 2));
   });
 }
 
-void GridReport::PrintReportHeading(const QString& title) {
+void GridReport::PrintReportHeading(const ReportKind& kind) {
   Printer& printer = m_routines.Surface();
   m_routines.SetPrintFont(14, true, false);
   printer.PrintLine({});
-  m_routines.PrintLineCentred(static_cast<float>(printer.Width) / 2, title);
+  m_routines.PrintLineCentred(static_cast<float>(printer.Width) / 2, kind.Title);
   m_routines.SetPrintFont(10, true, false);
   m_pages.PrintBusinessBlock(0.75F, 0.4F, 12);
   m_routines.PrintAt(6.5F, 0.75F);
   printer.PrintLine(ShortDateText(m_clock.Today()));
-  PrintReportColumns(title);
+  PrintReportColumns(kind);
 }
 
-void GridReport::PrintReportColumns(const QString& title) {
+void GridReport::PrintReportColumns(const ReportKind& kind) {
   Printer& printer = m_routines.Surface();
   const std::array<QString, ColumnX.size()> headings{u"Invoice No."_s, u"Account No"_s, u"Account"_s, u"Date"_s};
   printer.SetFontBold(true);
@@ -55,36 +54,36 @@ void GridReport::PrintReportColumns(const QString& title) {
     m_routines.PrintAt(ColumnX[i], 2.2F);
     printer.PrintJoined(headings[i]);
   }
-  EndReportLine(title, u"Amount"_s);
+  EndReportLine(kind, u"Amount"_s);
   printer.SetFontBold(false);
 }
 
-void GridReport::PrintReportRows(const QString& title, const TextMatrix& grid, const Progress& progress) {
+void GridReport::PrintReportRows(const ReportKind& kind, const TextMatrix& grid, const Progress& progress) {
   Printer& printer = m_routines.Surface();
   m_routines.PrintAt(1.0F, 2.5F);
   for (int row = 1; row < grid.Rows(); ++row) {
     PrinterRoutines::TellStep(progress, row, grid.Rows());
     // Down to the edge of the sheet: there is no bottom margin, which is meant.
     if (printer.TextHeight(grid.Text(row, 1)) + printer.CurrentY >= static_cast<float>(printer.Height)) {
-      PrintReportNewPage(title);
+      PrintReportNewPage(kind);
     }
     for (std::size_t i = 0; i < ColumnX.size(); ++i) {
       m_routines.PrintAt(ColumnX[i], 0);
       printer.PrintJoined(grid.Text(row, static_cast<int>(i)));
     }
-    EndReportLine(title, grid.Cols() > AmountColumn ? grid.Text(row, AmountColumn) : QString());
+    EndReportLine(kind, grid.Cols() > AmountColumn ? grid.Text(row, AmountColumn) : QString());
   }
 }
 
-void GridReport::PrintReportNewPage(const QString& title) {
+void GridReport::PrintReportNewPage(const ReportKind& kind) {
   m_routines.Surface().NewPage();
-  PrintReportHeading(title);
+  PrintReportHeading(kind);
   // Above the column headings, which the rows then overprint: that is how the page is.
   m_routines.PrintAt(1.0F, 1.75F);
 }
 
-void GridReport::EndReportLine(const QString& title, const QString& amount) {
-  if (title == u"Invoices Report") {
+void GridReport::EndReportLine(const ReportKind& kind, const QString& amount) {
+  if (kind.Amounts == ReportAmounts::Printed) {
     m_routines.PrintLineRight(AmountEdge, amount);
   } else {
     m_routines.Surface().PrintLine({});

@@ -11,21 +11,27 @@ class KVPrint;
 class PrinterRoutines;
 class TextMatrix;
 
+enum class ReportAmounts { None, Printed };
+
+struct ReportKind {
+  QString Title;
+  ReportAmounts Amounts = ReportAmounts::None;  ///< Of column 4.
+};
+
 class GridReport {
  public:
   GridReport(PrinterRoutines& routines, KVPrint& pages, const Clock& clock);
 
   /// The whole job, from the printer dialog on; what goes wrong is thrown, 32755 for a cancelled dialog and for a job
-  /// that was stopped. The title "Invoices Report", and no other, has the amounts of column 4 printed. `tag` changes
-  /// nothing.
-  void PrintGridReport(const QString& title, const TextMatrix& grid, const QString& tag, const Progress& progress = {});
+  /// that was stopped.
+  void PrintGridReport(const ReportKind& kind, const TextMatrix& grid, const Progress& progress = {});
 
  private:
-  void PrintReportHeading(const QString& title);
-  void PrintReportColumns(const QString& title);
-  void PrintReportRows(const QString& title, const TextMatrix& grid, const Progress& progress);
-  void PrintReportNewPage(const QString& title);
-  void EndReportLine(const QString& title, const QString& amount);
+  void PrintReportHeading(const ReportKind& kind);
+  void PrintReportColumns(const ReportKind& kind);
+  void PrintReportRows(const ReportKind& kind, const TextMatrix& grid, const Progress& progress);
+  void PrintReportNewPage(const ReportKind& kind);
+  void EndReportLine(const ReportKind& kind, const QString& amount);
 
   PrinterRoutines& m_routines;
   KVPrint& m_pages;

@@ -1,15 +1,10 @@
 #include "records/PartialList.h"
 
+#include "invoice/InvoiceImage.h"
 #include "runtime/Numbers.h"
 #include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const QString Folder = u"/KarvexInvoicer/IncompleteInvoices"_s;
-
-}  // namespace
 
 PartialList::PartialList()
     : fgIncomplete(
@@ -23,7 +18,8 @@ QString PartialList::SelectedInvoiceNo() const {
 bool LoadPartialList(PartialList& list, CommonDiskRoutines& disk) {
   TextMatrix& grid = list.fgIncomplete;
   grid.Clear();
-  list.FileNames = disk.ListFiles(Folder, u"*.txt"_s);
+  const QString folder = PartialInvoicesFolder();
+  list.FileNames = disk.ListFiles(folder, u"*.txt"_s);
   if (list.FileNames.isEmpty()) {
     grid.SetRows(2);
     grid.SetRow(0);
@@ -32,7 +28,7 @@ bool LoadPartialList(PartialList& list, CommonDiskRoutines& disk) {
   grid.SetRows(list.Count() + 1);
   grid.SetRow(1);
   for (int row = 1; row <= list.Count(); ++row) {
-    ListReader file = disk.OpenInputFile(Folder + u'/' + list.FileNames.at(row - 1));
+    ListReader file = disk.OpenInputFile(folder + u'/' + list.FileNames.at(row - 1));
     for (int column = 0; column < grid.Cols(); ++column) grid.SetText(row, column, file.ReadLine());
   }
   return true;

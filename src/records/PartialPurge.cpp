@@ -7,7 +7,7 @@
 using namespace Qt::StringLiterals;
 
 void PurgeAllPartials(PartialList& list, CommonDiskRoutines& disk) {
-  disk.KillEveryFile(u"/KarvexInvoicer/IncompleteInvoices"_s);
+  disk.KillEveryFile(PartialInvoicesFolder());
   LoadPartialList(list, disk);
 }
 

@@ -35,6 +35,10 @@ frmIncomplete::frmIncomplete(ScreenHost& host, const PartialDesk& desk)
 
 frmIncomplete::~frmIncomplete() = default;
 
+bool frmIncomplete::MayShow() {
+  return LoadPartialList(m_desk.Partials, m_desk.Disk);
+}
+
 void frmIncomplete::Activate() {
   m_Command1[1]->setEnabled(false);
   m_Command1[3]->setEnabled(false);
@@ -93,8 +97,7 @@ void frmIncomplete::PurgeSelected() {
 void frmIncomplete::cmdReport() {
   try {
     ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
-    m_desk.Reports.PrintGridReport(u"Incomplete Invoices Report"_s, m_desk.Partials.fgIncomplete, u"Incomplete"_s,
-                                   progress.Teller());
+    m_desk.Reports.PrintGridReport({u"Incomplete Invoices Report"_s}, m_desk.Partials.fgIncomplete, progress.Teller());
   } catch (const RuntimeError& error) {
     // Alone among the print buttons this one has no message of its own; only a cancelled dialog, or a stop, is nothing
     // to tell.

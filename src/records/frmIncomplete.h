@@ -33,7 +33,10 @@ class frmIncomplete final : public Screen {
   frmIncomplete(ScreenHost& host, const PartialDesk& desk);
   ~frmIncomplete() override;
 
-  /// No invoice is chosen until a row is clicked. The list was loaded before.
+  /// Loads the list. Without a partial invoice the screen hides at once: no window is left then, and the program lives
+  /// on. That is meant.
+  bool MayShow() override;
+  /// No invoice is chosen until a row is clicked.
   void Activate() override;
 
  private:

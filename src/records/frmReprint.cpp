@@ -35,14 +35,15 @@ int Chosen(const auto& options) {
 }  // namespace
 
 frmReprint::frmReprint(ScreenHost& host, const ReprintDesk& desk)
-    : Screen(u"frmReprint"_s, host), m_desk(desk), m_ui(std::make_unique<Ui::frmReprint>()) {
-  m_ui->setupUi(this);
-  m_Label1 = std::make_unique<ControlArray<QLabel, 34>>(this, u"Label1"_s);
-  m_lblBillTo = std::make_unique<ControlArray<QLabel, 6>>(this, u"lblBillTo"_s);
-  m_lblShipTo = std::make_unique<ControlArray<QLabel, 6>>(this, u"lblShipTo"_s);
-  m_lblInvoice = std::make_unique<ControlArray<QLabel, 10>>(this, u"lblInvoice"_s);
-  m_optCol = std::make_unique<ControlArray<QRadioButton, 3>>(this, u"optCol"_s);
-  m_optSort = std::make_unique<ControlArray<QRadioButton, 2>>(this, u"optSort"_s);
+    : Screen(u"frmReprint"_s, host),
+      m_desk(desk),
+      m_ui(std::make_unique<Ui::frmReprint>()),
+      m_Label1(BuildForm(*m_ui), u"Label1"_s),
+      m_lblBillTo(this, u"lblBillTo"_s),
+      m_lblShipTo(this, u"lblShipTo"_s),
+      m_lblInvoice(this, u"lblInvoice"_s),
+      m_optCol(this, u"optCol"_s),
+      m_optSort(this, u"optSort"_s) {
   GridView* grid = m_ui->fgReceivables;
   grid->SetMatrix(&m_desk.Completed.fgReceivables);
   grid->setColumnHidden(CompletedColumn::Sort, true);
@@ -71,8 +72,8 @@ frmReprint::~frmReprint() = default;
 
 void frmReprint::Activate() {
   m_ui->DTPicker1->ShowDate(m_desk.Today.Today().addDays(1));
-  ShowOnLabel((*m_Label1)[1], m_desk.Tax.cboTaxHeading1);
-  ShowOnLabel((*m_Label1)[22], m_desk.Tax.cboTaxHeading2);
+  ShowOnLabel(m_Label1[1], m_desk.Tax.cboTaxHeading1);
+  ShowOnLabel(m_Label1[22], m_desk.Tax.cboTaxHeading2);
   UseAddressStyle();
   switch (LoadList()) {
     case CompletedLoad::Loaded:
@@ -101,7 +102,7 @@ bool frmReprint::eventFilter(QObject* watched, QEvent* event) {
 
 void frmReprint::UseAddressStyle() {
   const bool usa = m_desk.Customer.UsaAddress;
-  for (const auto* lines : {m_lblBillTo.get(), m_lblShipTo.get()}) {
+  for (const auto* lines : {&m_lblBillTo, &m_lblShipTo}) {
     (*lines)[4]->setFixedWidth(usa ? StateWidth : WideStateWidth);
     (*lines)[5]->setVisible(usa);
   }
@@ -129,20 +130,20 @@ void frmReprint::ClickRow() {
 void frmReprint::ShowInvoice() {
   const CompletedInvoice& shown = m_desk.Shown;
   for (int i = 0; i < 6; ++i) {
-    ShowOnLabel((*m_lblBillTo)[i], shown.lblBillTo[static_cast<std::size_t>(i)]);
-    ShowOnLabel((*m_lblShipTo)[i], shown.lblShipTo[static_cast<std::size_t>(i)]);
+    ShowOnLabel(m_lblBillTo[i], shown.lblBillTo[static_cast<std::size_t>(i)]);
+    ShowOnLabel(m_lblShipTo[i], shown.lblShipTo[static_cast<std::size_t>(i)]);
   }
-  ShowOnLabel((*m_Label1)[19], shown.CreationDate);
-  ShowOnLabel((*m_Label1)[32], shown.ShipVia);
-  ShowOnLabel((*m_Label1)[33], shown.ShipDate);
-  ShowOnLabel((*m_Label1)[27], shown.InvoiceNo);
-  ShowOnLabel((*m_Label1)[17], shown.AcctNo);
-  ShowOnLabel((*m_Label1)[9], shown.Reference);
+  ShowOnLabel(m_Label1[19], shown.CreationDate);
+  ShowOnLabel(m_Label1[32], shown.ShipVia);
+  ShowOnLabel(m_Label1[33], shown.ShipDate);
+  ShowOnLabel(m_Label1[27], shown.InvoiceNo);
+  ShowOnLabel(m_Label1[17], shown.AcctNo);
+  ShowOnLabel(m_Label1[9], shown.Reference);
   m_ui->txtAttn->setText(shown.txtAttn);
   m_ui->txtMemo->setPlainText(LoadedMemo(m_desk.Disk));
   // In the image's order.
   constexpr std::array<int, 7> elements{0, 1, 9, 2, 4, 5, 6};
-  for (std::size_t i = 0; i < elements.size(); ++i) ShowOnLabel((*m_lblInvoice)[elements[i]], shown.Amounts[i]);
+  for (std::size_t i = 0; i < elements.size(); ++i) ShowOnLabel(m_lblInvoice[elements[i]], shown.Amounts[i]);
 }
 
 void frmReprint::ShowList(bool list) {
@@ -164,11 +165,11 @@ void frmReprint::cmdHide() {
 
 void frmReprint::mnuSort() {
   m_ui->fraSort->show();
-  SetFocusTo((*m_optCol)[Chosen(*m_optCol)]);
+  SetFocusTo(m_optCol[Chosen(m_optCol)]);
 }
 
 void frmReprint::cmdMode() {
-  SortCompletedInvoices(m_desk.Completed, Chosen(*m_optCol), Chosen(*m_optSort));
+  SortCompletedInvoices(m_desk.Completed, Chosen(m_optCol), Chosen(m_optSort));
   m_ui->fraSort->hide();
   SetFocusTo(m_ui->fgReceivables);
 }
@@ -189,7 +190,7 @@ void frmReprint::cmdPrint() {
 void frmReprint::cmdReport() {
   m_desk.Routines.RunPrintJob(m_desk.Boxes, [this] {
     ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
-    m_desk.Reports.PrintGridReport(u"Invoices Report"_s, m_desk.Completed.fgReceivables, u"Complete"_s,
+    m_desk.Reports.PrintGridReport({u"Invoices Report"_s, ReportAmounts::Printed}, m_desk.Completed.fgReceivables,
                                    progress.Teller());
   });
 }

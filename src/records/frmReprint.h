@@ -70,10 +70,10 @@ class frmReprint final : public Screen {
 
   ReprintDesk m_desk;
   std::unique_ptr<Ui::frmReprint> m_ui;
-  std::unique_ptr<ControlArray<QLabel, 34>> m_Label1;
-  std::unique_ptr<ControlArray<QLabel, 6>> m_lblBillTo;
-  std::unique_ptr<ControlArray<QLabel, 6>> m_lblShipTo;
-  std::unique_ptr<ControlArray<QLabel, 10>> m_lblInvoice;
-  std::unique_ptr<ControlArray<QRadioButton, 3>> m_optCol;
-  std::unique_ptr<ControlArray<QRadioButton, 2>> m_optSort;
+  ControlArray<QLabel, 34> m_Label1;
+  ControlArray<QLabel, 6> m_lblBillTo;
+  ControlArray<QLabel, 6> m_lblShipTo;
+  ControlArray<QLabel, 10> m_lblInvoice;
+  ControlArray<QRadioButton, 3> m_optCol;
+  ControlArray<QRadioButton, 2> m_optSort;
 };

@@ -63,7 +63,6 @@ class CommonDiskRoutines {
   /// Writes the record behind the last one, into a new file if there is none, after the restore. Error 6 on a full
   /// file.
   void AppendRecord(const QString& name, const QByteArray& record);
-  RandomFile OpenCustomerFile() { return OpenRandomFile(QStringLiteral("/CustomerData.txt"), 328); }
   /// What is open can't be read or written any more (error 52).
   void CloseAllFiles();
 

@@ -1,31 +1,9 @@
 #include "shell/DataTree.h"
 
 #include "runtime/Clock.h"
-#include "runtime/FolderMaker.h"
-#include "runtime/RecordFile.h"
 #include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void MakeCustomerFolders(CommonDiskRoutines& disk) {
-  constexpr int CustomerLength = 328;
-  const int count = disk.RecordCount(u"/CustomerData.txt"_s, CustomerLength);
-  if (count == 0) return;
-  const RecordBuffer customers = disk.OpenCustomerFile().ReadAll();
-  FolderMaker folders(disk.Store().Device(), disk.PathOf(u"/AuxFiles"_s));
-  for (int number = 1; number <= count; ++number) {
-    const QString account = customers.Record(number).Text(0, 20);
-    if (!CanNameAFile(account)) continue;
-    const QByteArray folder = FolderMaker::Encoded(account);
-    folders.Make(folder);
-    for (char digit = '0'; digit <= '5'; ++digit) folders.Make(folder + "/AuxFile" + digit);
-  }
-  disk.CloseAllFiles();
-}
-
-}  // namespace
 
 void MakeDataTree(CommonDiskRoutines& disk, const Clock& clock) {
   const QString own = u"/"_s + disk.EXEName();
@@ -57,7 +35,6 @@ void MakeDataTree(CommonDiskRoutines& disk, const Clock& clock) {
       u"/AuxFiles"_s,
   };
   for (const QString& folder : folders) disk.MakeDataFolder(folder);
-  MakeCustomerFolders(disk);
 }
 
 bool RequiredFilesPresent(CommonDiskRoutines& disk) {

@@ -4,9 +4,8 @@
 class Clock;
 class CommonDiskRoutines;
 
-/// Makes the 25 folders in their order, each only if it isn't there; then, for each customer of /CustomerData.txt,
-/// /AuxFiles/<account> with its six subfolders. An account number that is blank or would name a place outside its
-/// folder is passed over. Throws RuntimeError 70 or 75 for a folder that can't be made.
+/// Makes the 25 folders in their order, each only if it isn't there. Throws RuntimeError 70 or 75 for a folder that
+/// can't be made.
 void MakeDataTree(CommonDiskRoutines& disk, const Clock& clock);
 
 /// Whether Setup was ever saved here: its three files exist. Each is asked for, so each gets its restore.

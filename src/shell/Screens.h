@@ -31,7 +31,7 @@ class Screens {
  public:
   virtual ~Screens() = default;
   /// Runs the screen's activation in a plain call, then shows its window. Nothing happens for a screen that is shown
-  /// already.
+  /// already, or that says no.
   virtual void Show(ScreenName screen) = 0;
   virtual void Hide(ScreenName screen) = 0;
   virtual void Unload(ScreenName screen) = 0;

@@ -15,11 +15,10 @@ frmDialer::frmDialer(ScreenHost& host, Screens& screens, const DialerDesk& desk)
       m_screens(screens),
       m_boxes(desk.Boxes),
       m_ui(std::make_unique<Ui::frmDialer>()),
+      m_cmdDialer(BuildForm(*m_ui), u"cmdDialer"_s),
+      m_cmdSpeedDialer(this, u"cmdSpeedDialer"_s),
       m_dialer(desk, *this) {
-  m_ui->setupUi(this);
   setWindowModality(Qt::ApplicationModal);
-  m_cmdDialer = std::make_unique<ControlArray<QPushButton, SpeedNumbers::Slots>>(this, u"cmdDialer"_s);
-  m_cmdSpeedDialer = std::make_unique<ControlArray<QPushButton, 5>>(this, u"cmdSpeedDialer"_s);
   m_ui->fraHelp->hide();
   m_ui->Text1->setText(desk.Phone.Text1);
   m_ui->Label2->setText(desk.Phone.Label2);
@@ -43,11 +42,11 @@ void frmDialer::ConnectCall() {
 }
 
 void frmDialer::ConnectSpeedDial() {
-  for (int slot = 0; slot < m_cmdDialer->Size(); ++slot) {
-    OnClick((*m_cmdDialer)[slot], [this, slot] { m_dialer.ChooseSlot(slot); });
+  for (int slot = 0; slot < m_cmdDialer.Size(); ++slot) {
+    OnClick(m_cmdDialer[slot], [this, slot] { m_dialer.ChooseSlot(slot); });
   }
-  for (int i = 0; i < m_cmdSpeedDialer->Size(); ++i) {
-    OnClick((*m_cmdSpeedDialer)[i], [this, i] { m_dialer.RunSpeedDialer(i); });
+  for (int i = 0; i < m_cmdSpeedDialer.Size(); ++i) {
+    OnClick(m_cmdSpeedDialer[i], [this, i] { m_dialer.RunSpeedDialer(i); });
   }
   // The file that they go to has no way to write a double quote.
   for (QLineEdit* box : {m_ui->txtDialer_0, m_ui->txtDialer_1}) {
@@ -122,7 +121,7 @@ void frmDialer::SetText(DialerText place, const QString& text) {
 }
 
 void frmDialer::SetSlotCaption(int slot, const QString& caption) {
-  QPushButton* button = (*m_cmdDialer)[slot];
+  QPushButton* button = m_cmdDialer[slot];
   // An ampersand of a name is no access key.
   button->setText(QString(caption).replace(u'&', "&&"_L1));
   button->setAccessibleName(caption.isEmpty() ? u"Speed dial %1, empty"_s.arg(slot + 1)
@@ -140,8 +139,8 @@ void frmDialer::FocusOn(DialerControl control) {
 
 void frmDialer::ShowSpeedDial(bool visible) {
   m_ui->fraSpeedDial->setVisible(visible);
-  SetEnterButton(visible ? (*m_cmdSpeedDialer)[0] : m_ui->cmdNewDial);
-  SetEscapeButton(visible ? (*m_cmdSpeedDialer)[1] : m_ui->cmdHangup);
+  SetEnterButton(visible ? m_cmdSpeedDialer[0] : m_ui->cmdNewDial);
+  SetEscapeButton(visible ? m_cmdSpeedDialer[1] : m_ui->cmdHangup);
 }
 
 void frmDialer::SetIndicator(bool lit) {

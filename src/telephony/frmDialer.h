@@ -45,7 +45,7 @@ class frmDialer final : public Screen, private DialerView {
   Screens& m_screens;
   Dialogs& m_boxes;
   std::unique_ptr<Ui::frmDialer> m_ui;
-  std::unique_ptr<ControlArray<QPushButton, SpeedNumbers::Slots>> m_cmdDialer;
-  std::unique_ptr<ControlArray<QPushButton, 5>> m_cmdSpeedDialer;
+  ControlArray<QPushButton, SpeedNumbers::Slots> m_cmdDialer;
+  ControlArray<QPushButton, 5> m_cmdSpeedDialer;
   Dialer m_dialer;
 };

@@ -46,10 +46,6 @@ const QStringList folderTable{u"/2026"_s,
                               u"/ConstructionProjects"_s,
                               u"/AuxFiles"_s};
 
-QByteArray Customer(const QByteArray& account) {
-  return account.leftJustified(328, ' ', true);
-}
-
 }  // namespace
 
 class DataTreeTest : public QObject {
@@ -105,62 +101,6 @@ class DataTreeTest : public QObject {
     QCOMPARE(Made(), QStringList{u"/2027"_s});
   }
 
-  void eachCustomerHasAFolderWithSixInIt() {
-    m_tree->Write(u"/CustomerData.txt"_s, Customer("1001") + Customer("M\xfcller & Co"));
-    MakeDataTree(*m_disk, m_clock);
-    QCOMPARE(m_tree->List(u"/AuxFiles"_s), (QStringList{u"1001/"_s, u"M\u00fcller & Co/"_s}));
-    for (const QString& account : {u"1001"_s, u"M\u00fcller & Co"_s}) {
-      QCOMPARE(m_tree->List(u"/AuxFiles/"_s + account), (QStringList{u"AuxFile0/"_s, u"AuxFile1/"_s, u"AuxFile2/"_s,
-                                                                     u"AuxFile3/"_s, u"AuxFile4/"_s, u"AuxFile5/"_s}));
-    }
-  }
-
-  void foldersThatAreThereStayAsTheyAre() {
-    m_tree->Write(u"/CustomerData.txt"_s, Customer("1001"));
-    m_tree->Write(u"/AuxFiles/1001/AuxFile2/Data.txt"_s, "kept");
-    MakeDataTree(*m_disk, m_clock);
-    QCOMPARE(m_tree->Bytes(u"/AuxFiles/1001/AuxFile2/Data.txt"_s), "kept");
-    QCOMPARE(m_tree->List(u"/AuxFiles/1001"_s).size(), 6);
-    m_device->Reset();
-    MakeDataTree(*m_disk, m_clock);
-    QCOMPARE(m_device->Count(FailingDevice::Call::MakeFolder), 0);
-  }
-
-  void blankAndStrayingAccountNumbersArePassedOver() {
-    m_tree->Write(u"/CustomerData.txt"_s, Customer("") + Customer("../1002") + Customer("..") + Customer("10/03") +
-                                              Customer("10\\04") + Customer(".") + Customer(QByteArray(20, '\0')) +
-                                              Customer("1005"));
-    MakeDataTree(*m_disk, m_clock);
-    QCOMPARE(m_tree->List(u"/AuxFiles"_s), QStringList{u"1005/"_s});
-    QVERIFY(!m_tree->Exists(u"/1002"_s));
-    QVERIFY(!m_tree->Exists(u"/AuxFile0"_s));
-  }
-
-  void theAccountIsTheFirstTwentyBytes() {
-    m_tree->Write(u"/CustomerData.txt"_s, Customer("ABCDEFGHIJKLMNOPQRSTUVWXYZ"));
-    MakeDataTree(*m_disk, m_clock);
-    QCOMPARE(m_tree->List(u"/AuxFiles"_s), QStringList{u"ABCDEFGHIJKLMNOPQRST/"_s});
-  }
-
-  void aLastRecordCutShortIsReadAsFarAsItGoes() {
-    m_tree->Write(u"/CustomerData.txt"_s, Customer("1001") + Customer("1002").first(200));
-    MakeDataTree(*m_disk, m_clock);
-    QCOMPARE(m_tree->List(u"/AuxFiles"_s), (QStringList{u"1001/"_s, u"1002/"_s}));
-  }
-
-  void lessThanHalfARecordIsNone() {
-    m_tree->Write(u"/CustomerData.txt"_s, Customer("1001").first(100));
-    MakeDataTree(*m_disk, m_clock);
-    QCOMPARE(m_tree->List(u"/AuxFiles"_s), QStringList{});
-  }
-
-  void aCustomerFileThatOnlyTheBackupHasComesBackFirst() {
-    m_tree->Write(u"/Backup/CustomerData.txt"_s, Customer("1001"));
-    MakeDataTree(*m_disk, m_clock);
-    QVERIFY(m_tree->Exists(u"/CustomerData.txt"_s));
-    QVERIFY(m_tree->Exists(u"/AuxFiles/1001/AuxFile5"_s));
-  }
-
   void aFolderThatCannotBeMadeIsAnErrorThatNamesIt() {
     m_device->FailAt(FailingDevice::Call::MakeFolder, 11, EACCES);
     const RuntimeError denied = CaughtFrom([&] { MakeDataTree(*m_disk, m_clock); });
@@ -174,14 +114,6 @@ class DataTreeTest : public QObject {
     m_tree->Write(u"/Templates"_s, "a file");
     QCOMPARE(ErrorOf([&] { MakeDataTree(*m_disk, m_clock); }), 75);
     QCOMPARE(m_tree->Bytes(u"/Templates"_s), "a file");
-  }
-
-  void aFileInACustomerFoldersPlaceIsAnErrorThatNamesIt() {
-    m_tree->Write(u"/CustomerData.txt"_s, Customer("1001"));
-    m_tree->Write(u"/AuxFiles/1001/AuxFile3"_s, "a file");
-    const RuntimeError error = CaughtFrom([&] { MakeDataTree(*m_disk, m_clock); });
-    QCOMPARE(error.Number(), 75);
-    QVERIFY2(error.Subject().startsWith(m_tree->Path(u"/AuxFiles/1001/AuxFile3"_s)), qPrintable(error.Subject()));
   }
 
   void theFirstRunTestAsksForThreeFiles_data() {

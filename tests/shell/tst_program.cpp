@@ -65,8 +65,24 @@ class ProgramTest : public QObject {
   void aScreenWhoseActivationEndsTheProgramDoesNotComeUp();
   void allScreensAreHiddenBeforeTheFirstOneGoes();
   void theStartUpScreenIsAlwaysShownAnew();
+  void aScreenThatWasUnloadedGoesWithTheProgramAtTheLatest();
   void aReturnFromSetupWithAFileMissingShowsTheStartUpScreenAnew();
 };
+
+void ProgramTest::aScreenThatWasUnloadedGoesWithTheProgramAtTheLatest() {
+  QPointer<Screen> splash;
+  {
+    Bench bench;
+    QVERIFY(bench.Running.Start());
+    splash = bench.Running.Built(ScreenName::frmSplash);
+    QVERIFY(splash != nullptr);
+    // No event runs behind this one.
+    bench.Running.Unload(ScreenName::frmSplash);
+    QVERIFY(splash != nullptr);
+    QVERIFY(bench.Running.Built(ScreenName::frmSplash) == nullptr);
+  }
+  QVERIFY(splash == nullptr);
+}
 
 void ProgramTest::anEndInTheMiddleOfAnEndIsTheSameEnd() {
   Bench bench;
