@@ -66,6 +66,7 @@ void AuxiliaryData::LoadAuxData() {
   if (m_view.IsAuxRetained()) {
     return;
   }
+  m_unread.fill(false);
   for (int box = 0; box < AuxBoxCount; ++box) {
     m_view.SetAuxText(box, {});
   }
@@ -82,6 +83,7 @@ void AuxiliaryData::LoadAuxData() {
         m_view.SetAuxText(box, ContentOf(m_disk, file));
       }
     } catch (const RuntimeError& error) {
+      m_unread[static_cast<size_t>(box)] = true;
       if (!failed) {
         failed = error;
       }
@@ -106,6 +108,9 @@ void AuxiliaryData::SaveAuxData() {
   for (int box = 0; box < AuxBoxCount; ++box) {
     m_disk.MakeDataFolder(BoxFolder(account, box));
     QString text = m_view.AuxText(box);
+    if (m_unread[static_cast<size_t>(box)] && text.isEmpty()) {
+      continue;  // What its file holds has never been in the box.
+    }
     text.replace(u"\r\n"_s, u"\n"_s).replace(u"\n"_s, u"\r\n"_s);
     m_disk.SaveFile(BoxFile(account, box), ListWriter().Print(text).Content(), BackupCopy::Kept);
   }

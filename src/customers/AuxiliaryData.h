@@ -2,6 +2,7 @@
 /// account: a small text file per box.
 #pragma once
 
+#include <array>
 #include <QString>
 
 #include "customers/CustomerFolders.h"
@@ -33,10 +34,12 @@ class AuxiliaryData {
   /// boxes are filled.
   void LoadAuxData();
   /// Makes the folders that are missing. Throws RuntimeError 64 for an account that can't name any; 61, 70 or 75 with
-  /// each file as it was or as it is to be.
+  /// each file as it was or as it is to be. A box whose file couldn't be read, and into which nothing was typed,
+  /// isn't saved.
   void SaveAuxData();
 
  private:
   CommonDiskRoutines& m_disk;
   AuxiliaryView& m_view;
+  std::array<bool, AuxBoxCount> m_unread{};  ///< By the last load.
 };

@@ -57,16 +57,29 @@ void frmNewCustomer::Activate() {
   m_editor.DecideAddressStyle();
   SetNameListVisible(false);
   m_editor.ApplyAccountType(u"Business"_s);
-  m_aux.LoadAuxHeadings();
+  const std::optional<RuntimeError> headings = ReadHeadings();
   m_editor.BlankBoxes();
   m_ui->mnuCust->menuAction()->setVisible(false);
   m_cmdCustomer[13]->hide();
   setWindowTitle(u"Managing Account Data"_s);
   m_ui->mnuCust->menuAction()->setVisible(true);
   setWindowTitle(u"Select Customer for "_s + windowTitle());
-  if (const std::optional<RuntimeError> unread = m_editor.Open()) {
-    Run([&unread] { throw *unread; });  // Told, and the screen comes up.
+  // What can't be read of the boxes is told, and the screen comes up.
+  const std::optional<RuntimeError> boxes = m_editor.Open();
+  for (const std::optional<RuntimeError>& unread : {headings, boxes}) {
+    if (unread) Run([&unread] { throw *unread; });
   }
+}
+
+/// The error of the disk, if any; a damaged file goes on up.
+std::optional<RuntimeError> frmNewCustomer::ReadHeadings() {
+  try {
+    m_aux.LoadAuxHeadings();
+  } catch (const RuntimeError& error) {
+    if (error.From() == RuntimeError::Origin::FileContent) throw;
+    return error;
+  }
+  return std::nullopt;
 }
 
 void frmNewCustomer::ConnectButtons() {
@@ -108,7 +121,6 @@ void frmNewCustomer::LeaveScreen(bool forInvoice) {
 }
 
 void frmNewCustomer::AddNew() {
-  m_editor.RequireRoom();
   const bool adding = !m_cmdCustomer[13]->isHidden();
   bool started = false;
   // Cancel takes one customer off the count: where none was started, it would be a stored one.

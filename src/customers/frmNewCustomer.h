@@ -38,6 +38,7 @@ class frmNewCustomer final : public Screen, private CustomerView, private Custom
   void ConnectMenu();
   void DrawTelephone();
   void LeaveScreen(bool forInvoice);
+  std::optional<RuntimeError> ReadHeadings();
   void AddNew();
   void CancelAddNew();
   void StepBack();

@@ -112,6 +112,33 @@ class AuxiliaryDataTest : public QObject {
     QCOMPARE(desk.Program.Tree.Bytes(u"/AuxHeadings.txt"_s), "1\r\n2\r\n");
   }
 
+  void headingsThatMayNotBeReadLetTheScreenComeUp() {
+    const QString headings = u"/AuxHeadings.txt"_s;
+    const auto open = [&](CustomerDesk& desk) {
+      desk.Program.Tree.Write(headings, "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
+      desk.Program.StartAtMenu();
+      desk.Program.Files.Reset();
+    };
+    int opening = 0;
+    {
+      CustomerDesk probe(Many(1));
+      open(probe);
+      probe.GoFromMenu();
+      const QStringList opened = probe.Program.Files.PathsOf(FailingDevice::Call::Open);
+      opening = static_cast<int>(opened.indexOf(probe.Program.Tree.Path(headings))) + 1;
+    }
+    QVERIFY(opening > 0);
+    CustomerDesk desk(Many(1));
+    open(desk);
+    desk.Program.Files.FailAt(FailingDevice::Call::Open, opening, EACCES);
+    desk.Program.Answers.Ok();
+    desk.GoFromMenu();
+    QVERIFY(desk.Program.Answers.Last().Text.contains(u"AuxHeadings.txt"_s));
+    QVERIFY(desk.Shown());
+    QVERIFY(!desk.Program.Running().HasEnded());
+    QCOMPARE(desk.Box(0), u"1"_s);
+  }
+
   void aDoubleClickEmptiesAHeading() {
     CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/AuxHeadings.txt"_s, "One word\r\n2\r\n3\r\n4\r\n5\r\n6\r\n");
@@ -200,8 +227,14 @@ class AuxiliaryDataTest : public QObject {
     QCOMPARE(desk.Focus(), u"cmdCustomer_1"_s);
     QCOMPARE(Aux(desk, 0), QString());
     QVERIFY2(Aux(desk, 1) == u"other\n"_s, "the boxes behind it are filled: a save would empty their files");
+    desk.Click(u"cmdSaveAux_1"_s);
+    QCOMPARE(desk.Program.Tree.Bytes(File(u"2"_s, 0)), "unreadable\r\n");
+    QCOMPARE(desk.Program.Tree.Bytes(File(u"2"_s, 1)), "other\r\n\r\n");
     desk.Click(u"cmdSaveAux_3"_s);
     QCOMPARE(Aux(desk, 0), u"unreadable\n"_s);
+    Type(desk, 0, QString());
+    desk.Click(u"cmdSaveAux_1"_s);
+    QCOMPARE(desk.Program.Tree.Bytes(File(u"2"_s, 0)), "\r\n");
   }
 
   void aBoxThatCannotBeReadLetsTheScreenComeUp() {

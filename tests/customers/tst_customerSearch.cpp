@@ -108,6 +108,33 @@ class CustomerSearchTest : public QObject {
     QVERIFY(!desk.Sees(u"fraCustomersFound"_s));
   }
 
+  void theNameListTakesThePlaceOfTheCustomersFound() {
+    CustomerDesk desk(Town());
+    desk.Open();
+    desk.Driver().Trigger(u"mnuPrint"_s);
+    QVERIFY(desk.Sees(u"fraCustomersFound"_s));
+    desk.Click(u"Command1_1"_s);
+    QVERIFY(!desk.Sees(u"fraCustomersFound"_s));
+  }
+
+  void aNewCustomerIsAddedWithoutTheListOfThoseFound() {
+    CustomerDesk desk(Town());
+    desk.Open();
+    desk.Driver().Trigger(u"mnuPrint"_s);
+    QVERIFY(desk.Sees(u"fraCustomersFound"_s));
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QVERIFY(!desk.Sees(u"fraCustomersFound"_s));
+  }
+
+  void aNewCustomerIsAddedWithoutTheSearch() {
+    CustomerDesk desk(Town());
+    desk.Open();
+    desk.Click(u"Command1_0"_s);
+    QVERIFY(desk.Sees(u"fraSearch"_s));
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    QVERIFY(!desk.Sees(u"fraSearch"_s));
+  }
+
   void withoutATextTheSearchAsksForOne() {
     CustomerDesk desk(Town());
     desk.Open();
