@@ -56,13 +56,22 @@ QByteArray Records(const TextMatrix& grid) {
   return records;
 }
 
+/// What the line costs, as it reads. Errors name the template.
+QString ProductText(const QString& quantity, const QString& price, const QString& subject) {
+  try {
+    return CurrencyText(ParseLeadingNumber(quantity) * ToNumber(price));
+  } catch (const RuntimeError& error) {
+    throw RuntimeError(error.Number(), subject, error.Text());
+  }
+}
+
 void ShowRecord(TextMatrix& grid, int row, const RecordView& record, const QString& subject) {
   const QString quantity = record.Text(0, 10);
   const QString price = record.Text(55, 10);
   grid.SetText(row, LineColumn::UnitPrice, price);
   grid.SetText(row, LineColumn::Quantity, quantity);
   grid.SetText(row, LineColumn::Description, record.Text(10, 45));
-  grid.SetText(row, LineColumn::Extension, CurrencyText(ParseLeadingNumber(quantity) * ToNumber(price, subject)));
+  grid.SetText(row, LineColumn::Extension, ProductText(quantity, price, subject));
   grid.SetText(row, LineColumn::ApplyTax, record.Text(65, 5));
 }
 

@@ -57,30 +57,31 @@ void PrinterRoutines::SetPrintColor(bool dataColor) {
   m_printer.SetForeColor(m_inkColor);
 }
 
-void PrinterRoutines::PrintWrapped(qint16 x, qint16 y, qint16 width, QString text) {
+void PrinterRoutines::PrintWrapped(qint16 x, qint16 y, qint16 width, const QString& text) {
   const float limit = static_cast<float>(width - 20);
   m_printer.CurrentY = y;
+  QStringView rest = text;
   do {
     qsizetype start = 0;  // Of the word being tried, which ends with `end`, behind its blank; 0 is no further blank.
     qsizetype end = 0;
     do {
       start = end;
-      end = text.indexOf(u' ', start) + 1;
-    } while (end > 0 && m_printer.TextWidth(text.left(end)) <= limit);
+      end = rest.indexOf(u' ', start) + 1;
+    } while (end > 0 && m_printer.TextWidth(rest.first(end).toString()) <= limit);
 
-    QString line = text;
+    QStringView line = rest;
     if (end > 0) {
       // Without this way out a first word that is too wide would print empty lines without end.
-      qsizetype rest = start > 0 ? start : end;
-      line = text.left(rest);
-      while (rest < text.size() && text.at(rest) == u' ') ++rest;
-      text.remove(0, rest);
+      qsizetype next = start > 0 ? start : end;
+      line = rest.first(next);
+      while (next < rest.size() && rest.at(next) == u' ') ++next;
+      rest = rest.sliced(next);
     } else {
-      text.clear();
+      rest = {};
     }
     m_printer.CurrentX = x;
-    m_printer.PrintLine(line);
-  } while (!text.isEmpty());
+    m_printer.PrintLine(line.toString());
+  } while (!rest.isEmpty());
 }
 
 void PrinterRoutines::PrintWrappedHere(qint16 width, const QString& text) {

@@ -50,7 +50,7 @@ class PrinterRoutines {
   /// Prints `text` from (x, y) twips downward, wrapped between blanks to `width` less an allowance of 20 twips. The
   /// last word never moves to a line of its own, a first word that is too wide stands alone, and empty text is one
   /// blank line.
-  void PrintWrapped(qint16 x, qint16 y, qint16 width, QString text);
+  void PrintWrapped(qint16 x, qint16 y, qint16 width, const QString& text);
   /// `PrintWrapped` from the cursor, which is rounded to whole twips by that.
   void PrintWrappedHere(qint16 width, const QString& text);
 

@@ -161,7 +161,12 @@ bool FileStore::AnyMatch(const QString& folder, const QString& wildcard) const {
 }
 
 QByteArray FileStore::ReadWhole(const QString& path) const {
-  return ReadPart(path, 0, Size(path));
+  const qint64 size = Size(path);
+  // Refused by its name, and not by memory that runs out while it is read.
+  if (size > LargestWholeFile) {
+    throw RuntimeError(ErrorNumber::Overflow, path, u"The file is larger than any that the program can read."_s);
+  }
+  return ReadPart(path, 0, size);
 }
 
 QByteArray FileStore::ReadPart(const QString& path, qint64 offset, qint64 size) const {

@@ -15,6 +15,9 @@
 
 #include "runtime/FileDevice.h"
 
+/// Far above the largest file of a data tree, 11 million bytes of customers, and any picture that prints.
+inline constexpr qint64 LargestWholeFile = 256LL * 1024 * 1024;
+
 class FileStore {
  public:
   /// `tree` is absolute, without a trailing separator; without one no folder is refused.
@@ -33,6 +36,7 @@ class FileStore {
   /// Whether any file matches, without reading the rest of the folder.
   bool AnyMatch(const QString& folder, const QString& wildcard) const;
 
+  /// Error 6 above `LargestWholeFile`.
   QByteArray ReadWhole(const QString& path) const;
   /// The first `lines` lines with their ends, without reading the rest; fewer where the file has fewer.
   QByteArray ReadLines(const QString& path, int lines) const;

@@ -1,5 +1,6 @@
 #include "runtime/ListFile.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <QLocale>
@@ -22,10 +23,16 @@ void ListReader::RequireMore() const {
   if (AtEnd()) throw RuntimeError(ErrorNumber::InputPastEnd, m_fileName, RuntimeError::Origin::FileContent);
 }
 
-qsizetype ListReader::LineEnd(qsizetype from) const {
-  const qsizetype feed = m_content.indexOf('\n', from);
-  const qsizetype end = feed < 0 ? m_content.size() : feed;
-  return end > from && m_content[end - 1] == '\r' ? end - 1 : end;
+qsizetype ListReader::LineEnd(qsizetype from, qsizetype feed) const {
+  return feed > from && m_content[feed - 1] == '\r' ? feed - 1 : feed;
+}
+
+qsizetype ListReader::FieldEnd(qsizetype from) const {
+  // No further than the comma: a line of a million fields would be searched to its end for each of them.
+  const auto begin = m_content.cbegin() + from;
+  const auto stop = std::find_if(begin, m_content.cend(), [](char c) { return c == ',' || c == '\n'; });
+  return stop != m_content.cend() && *stop == ',' ? stop - m_content.cbegin()
+                                                  : LineEnd(from, stop - m_content.cbegin());
 }
 
 qsizetype ListReader::PastLineEnd(qsizetype end) const {
@@ -36,7 +43,8 @@ qsizetype ListReader::PastLineEnd(qsizetype end) const {
 
 QString ListReader::ReadLine() {
   RequireMore();
-  const qsizetype end = LineEnd(m_position);
+  const qsizetype feed = m_content.indexOf('\n', m_position);
+  const qsizetype end = LineEnd(m_position, feed < 0 ? m_content.size() : feed);
   const QByteArrayView line = QByteArrayView(m_content).sliced(m_position, end - m_position);
   m_position = PastLineEnd(end);
   return FromCodePage(line);
@@ -53,12 +61,10 @@ QString ListReader::ReadString() {
     if (end < 0) end = m_content.size();
     m_position = std::min(end + 1, m_content.size());
   }
-  const qsizetype lineEnd = LineEnd(m_position);
-  const qsizetype comma = QByteArrayView(m_content).sliced(m_position, lineEnd - m_position).indexOf(',');
-  const bool endsAtComma = comma >= 0;
-  const qsizetype fieldEnd = endsAtComma ? m_position + comma : lineEnd;
+  const qsizetype fieldEnd = FieldEnd(m_position);
+  const bool endsAtComma = fieldEnd < m_content.size() && m_content[fieldEnd] == ',';
   if (!quoted) end = fieldEnd;
-  m_position = endsAtComma ? fieldEnd + 1 : PastLineEnd(lineEnd);
+  m_position = endsAtComma ? fieldEnd + 1 : PastLineEnd(fieldEnd);
   return FromCodePage(QByteArrayView(m_content).sliced(begin, end - begin));
 }
 

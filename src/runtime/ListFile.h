@@ -29,7 +29,9 @@ class ListReader {
 
  private:
   void RequireMore() const;
-  qsizetype LineEnd(qsizetype from) const;
+  /// The end of the line's text, in front of its CR: `feed` is where its LF stands, or the content's end.
+  qsizetype LineEnd(qsizetype from, qsizetype feed) const;
+  qsizetype FieldEnd(qsizetype from) const;  ///< The next comma, or the end of the line's text.
   qsizetype PastLineEnd(qsizetype end) const;
   QString m_fileName;
   QByteArray m_content;

@@ -92,6 +92,7 @@ class ScreenTemplates : public QObject {
   void savingALoadedTemplateCutsThePricesFirstDigit();
   void aTemplateOfNoRecordsLoadsAnEmptyInvoice();
   void aPriceThatIsNoNumberIsError13AndLeavesNoLines();
+  void aProductThatIsTooLargeIsError6AndLeavesNoLines();
   void moreLinesThanTheGridHoldsAreError9AndLeaveNoLines();
   void deleteAsksAndDeletesTheListedFile();
   void deletingOneOfTwoKeepsTheButtonsEnabled();
@@ -474,6 +475,17 @@ void ScreenTemplates::aPriceThatIsNoNumberIsError13AndLeavesNoLines() {
   ClickTemplate(bench, 0);
   bench.On().Click(Load);
   QCOMPARE(bench.Around.Errors, QList<int>{13});
+  QCOMPARE(bench.Invoice.LineCount, 0);
+  QCOMPARE(bench.Row(1), Blank);
+}
+
+void ScreenTemplates::aProductThatIsTooLargeIsError6AndLeavesNoLines() {
+  InvoiceBench bench;
+  WriteTemplate(bench, Line("3", "Hammer", "12.00", "True") + Line("1E9", "Crate", "1E300", "True"));
+  bench.Open();
+  ClickTemplate(bench, 0);
+  bench.On().Click(Load);
+  QCOMPARE(bench.Around.Errors, QList<int>{6});
   QCOMPARE(bench.Invoice.LineCount, 0);
   QCOMPARE(bench.Row(1), Blank);
 }

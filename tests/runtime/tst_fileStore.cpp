@@ -40,6 +40,19 @@ class FileStoreTest : public QObject {
     QVERIFY(!m_store.IsFolder(Path(u"/empty.txt"_s)));
   }
 
+  void aFileBeyondAnyThatIsReadIsRefusedByName() {
+    m_tree->Write(u"/huge.txt"_s, "");
+    // Sparse: nothing of it is on the disk.
+    QCOMPARE(::truncate(QFile::encodeName(Path(u"/huge.txt"_s)).constData(), LargestWholeFile + 1), 0);
+    const RuntimeError huge = CaughtFrom([&] { m_store.ReadWhole(Path(u"/huge.txt"_s)); });
+    QCOMPARE(huge.Number(), 6);
+    QCOMPARE(huge.Subject(), Path(u"/huge.txt"_s));
+    QCOMPARE(huge.Text(), u"The file is larger than any that the program can read."_s);
+    QCOMPARE(ErrorOf([&] { m_store.Copy(Path(u"/huge.txt"_s), Path(u"/copy.txt"_s)); }), 6);
+    QVERIFY(!m_tree->Exists(u"/copy.txt"_s));
+    QCOMPARE(m_store.ReadPart(Path(u"/huge.txt"_s), LargestWholeFile, 8), QByteArray(1, '\0'));
+  }
+
   void aFileIsReadWholeOrInPart() {
     m_tree->Write(u"/a.txt"_s, "0123456789");
     QCOMPARE(m_store.Size(Path(u"/a.txt"_s)), qint64{10});

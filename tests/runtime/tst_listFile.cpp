@@ -1,4 +1,5 @@
 // The line text format: what is written, and what odd files read as.
+#include <QElapsedTimer>
 #include <QtTest>
 
 #include "runtime/ListFile.h"
@@ -99,6 +100,14 @@ class ListFileTest : public QObject {
              (QStringList{u"Net 10, 2%"_s, u"\"Due\""_s, u""_s, u"  x  "_s, u"last"_s}));
     QCOMPARE(Lines("").size(), 0);
     QCOMPARE(Lines("\n\n").size(), 2);
+  }
+
+  void aLineOfAMillionFieldsIsReadInOnePass() {
+    QElapsedTimer time;
+    time.start();
+    QCOMPARE(Fields(QByteArray(1'000'000, ',')).size(), 1'000'000);
+    // A search to the line's end for each of them would take minutes.
+    QVERIFY2(time.elapsed() < 5000, qPrintable(u"%1 ms"_s.arg(time.elapsed())));
   }
 
   void aLineReadAfterAFieldTakesTheRestOfTheLine() {
