@@ -43,17 +43,41 @@ bool CanHaveFolders(const QString& account) {
 }  // namespace
 
 void AuxiliaryData::LoadAuxHeadings() {
-  if (!m_disk.FileExists(HeadingsFile())) {
-    return;
+  m_headingsUnread = true;
+  for (int box = 0; const QString& heading : ReadHeadings()) {
+    m_view.SetHeading(box++, heading);
   }
-  ListReader reader = m_disk.OpenInputFile(HeadingsFile());
-  for (int box = 0; box < AuxBoxCount; ++box) {
-    m_view.SetHeading(box, reader.ReadLine());
+  m_headingsUnread = false;
+}
+
+/// Empty where the file is absent.
+QStringList AuxiliaryData::ReadHeadings() {
+  QStringList headings;
+  if (m_disk.FileExists(HeadingsFile())) {
+    ListReader reader = m_disk.OpenInputFile(HeadingsFile());
+    for (int box = 0; box < AuxBoxCount; ++box) {
+      headings += reader.ReadLine();
+    }
+    m_disk.CloseAllFiles();
   }
-  m_disk.CloseAllFiles();
+  return headings;
+}
+
+/// Headings that couldn't be read are read now: an empty box mustn't empty what the file holds.
+void AuxiliaryData::FillUnreadHeadings() {
+  for (int box = 0; const QString& heading : ReadHeadings()) {
+    if (m_view.Heading(box).isEmpty()) {
+      m_view.SetHeading(box, heading);
+    }
+    ++box;
+  }
+  m_headingsUnread = false;
 }
 
 void AuxiliaryData::SaveAuxHeadings() {
+  if (m_headingsUnread) {
+    FillUnreadHeadings();
+  }
   ListWriter writer;
   for (int box = 0; box < AuxBoxCount; ++box) {
     writer.Print(m_view.Heading(box));
@@ -67,6 +91,7 @@ void AuxiliaryData::LoadAuxData() {
     return;
   }
   m_unread.fill(false);
+  m_unreadAccount.clear();
   for (int box = 0; box < AuxBoxCount; ++box) {
     m_view.SetAuxText(box, {});
   }
@@ -74,6 +99,7 @@ void AuxiliaryData::LoadAuxData() {
   if (!CanHaveFolders(account)) {
     return;
   }
+  m_unreadAccount = account;
   // A file that can't be read doesn't leave the boxes behind it empty: a save would then empty their files.
   std::optional<RuntimeError> failed;
   for (int box = 0; box < AuxBoxCount; ++box) {
@@ -108,11 +134,13 @@ void AuxiliaryData::SaveAuxData() {
   for (int box = 0; box < AuxBoxCount; ++box) {
     m_disk.MakeDataFolder(BoxFolder(account, box));
     QString text = m_view.AuxText(box);
-    if (m_unread[static_cast<size_t>(box)] && text.isEmpty()) {
+    bool& unread = m_unread[static_cast<size_t>(box)];
+    if (unread && account == m_unreadAccount && text.isEmpty()) {
       continue;  // What its file holds has never been in the box.
     }
     text.replace(u"\r\n"_s, u"\n"_s).replace(u"\n"_s, u"\r\n"_s);
     m_disk.SaveFile(BoxFile(account, box), ListWriter().Print(text).Content(), BackupCopy::Kept);
+    unread = unread && account != m_unreadAccount;
   }
   m_disk.CloseAllFiles();
 }

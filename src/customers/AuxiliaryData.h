@@ -3,7 +3,7 @@
 #pragma once
 
 #include <array>
-#include <QString>
+#include <QStringList>
 
 #include "customers/CustomerFolders.h"
 
@@ -27,6 +27,8 @@ class AuxiliaryData {
 
   /// Nothing where the file is absent. One with fewer than six lines is damaged: RuntimeError 62.
   void LoadAuxHeadings();
+  /// Headings that couldn't be read at the last load are read first, into the boxes that are empty; where they still
+  /// can't, that error is thrown and nothing is saved.
   void SaveAuxHeadings();
   /// Fills the boxes from the account's files; what it has none of is empty. Nothing where the boxes are retained: they
   /// keep what they hold of the account before. A comma breaks the line there, quotes around a field are lost, and each
@@ -41,5 +43,10 @@ class AuxiliaryData {
  private:
   CommonDiskRoutines& m_disk;
   AuxiliaryView& m_view;
-  std::array<bool, AuxBoxCount> m_unread{};  ///< By the last load.
+  QStringList ReadHeadings();
+  void FillUnreadHeadings();
+
+  bool m_headingsUnread = false;
+  QString m_unreadAccount;  ///< Whose boxes the last load filled, or was to fill.
+  std::array<bool, AuxBoxCount> m_unread{};
 };

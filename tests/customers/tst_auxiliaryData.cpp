@@ -137,6 +137,12 @@ class AuxiliaryDataTest : public QObject {
     QVERIFY(desk.Shown());
     QVERIFY(!desk.Program.Running().HasEnded());
     QCOMPARE(desk.Box(0), u"1"_s);
+    desk.Driver().Trigger(u"mnuAux"_s);
+    QCOMPARE(desk.Text(u"txtHeading_0"_s), QString());
+    desk.Fill(u"txtHeading_2"_s, u"third"_s);
+    desk.Click(u"cmdSaveAux_0"_s);
+    QCOMPARE(desk.Program.Tree.Bytes(headings), "1\r\n2\r\nthird\r\n4\r\n5\r\n6\r\n");
+    QCOMPARE(desk.Text(u"txtHeading_0"_s), u"1"_s);
   }
 
   void aDoubleClickEmptiesAHeading() {
@@ -230,6 +236,17 @@ class AuxiliaryDataTest : public QObject {
     desk.Click(u"cmdSaveAux_1"_s);
     QCOMPARE(desk.Program.Tree.Bytes(File(u"2"_s, 0)), "unreadable\r\n");
     QCOMPARE(desk.Program.Tree.Bytes(File(u"2"_s, 1)), "other\r\n\r\n");
+    desk.Fill(u"txtCustomer_0"_s, u"22"_s);
+    desk.Click(u"cmdSaveAux_1"_s);
+    QVERIFY2(desk.Program.Tree.Bytes(File(u"22"_s, 0)) == "\r\n", "another account gets what the boxes show");
+    desk.Fill(u"txtCustomer_0"_s, u"2"_s);
+    Type(desk, 0, u"x"_s);
+    desk.Click(u"cmdSaveAux_1"_s);
+    QCOMPARE(desk.Program.Tree.Bytes(File(u"2"_s, 0)), "x\r\n");
+    Type(desk, 0, QString());
+    desk.Click(u"cmdSaveAux_1"_s);
+    QVERIFY2(desk.Program.Tree.Bytes(File(u"2"_s, 0)) == "\r\n", "a box that was typed into is the user's to empty");
+    desk.Program.Tree.Write(File(u"2"_s, 0), "unreadable\r\n");
     desk.Click(u"cmdSaveAux_3"_s);
     QCOMPARE(Aux(desk, 0), u"unreadable\n"_s);
     Type(desk, 0, QString());
