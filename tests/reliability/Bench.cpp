@@ -9,6 +9,7 @@
 
 #include "reliability/Desk.h"
 #include "reliability/Report.h"
+#include "reliability/SmallDisk.h"
 
 using namespace Qt::StringLiterals;
 
@@ -164,6 +165,19 @@ void Bench::Serve(int requests, int answers) {
 
 Outcome Bench::Try(const FileCalls::Plan& plan, bool again) {
   WriteTree(Root(), m_before);
+  return Run(plan, again);
+}
+
+Outcome Bench::TryOn(const SmallDisk& disk, int blocks) {
+  disk.MakeRoom();
+  WriteTree(Root(), m_before);
+  disk.LeaveBlocks(blocks);
+  const Outcome outcome = Run({}, false);
+  disk.MakeRoom();
+  return outcome;
+}
+
+Outcome Bench::Run(const FileCalls::Plan& plan, bool again) {
   QFile::remove(ReportFile());
   int status = 0;
   if (!Send(m_requests, Request{plan, again}) || !Receive(m_answers, status)) qFatal("the prepared process is gone");

@@ -28,6 +28,8 @@ struct Outcome {
   QStringList AgainBoxes;
 };
 
+class SmallDisk;
+
 /// Whether the box tells that something failed.
 bool TellsFailure(const QString& box);
 QStringList FailuresOf(const QStringList& boxes);
@@ -50,12 +52,15 @@ class Bench {
   /// What in the tree is torn: neither as before nor as after the save.
   QString TornIn(const DataTree& tree) const { return Torn(m_before, After(), tree, m_inPlace); }
   Outcome Try(const FileCalls::Plan& plan, bool again = false);
+  /// Unharmed, on a disk that `disk` leaves so many blocks on.
+  Outcome TryOn(const SmallDisk& disk, int blocks);
   /// A new start on this tree; where `saves`, the way to the save and the save itself as well.
   Outcome Restart(const DataTree& tree, bool saves);
   /// The folder that holds the tree.
   QString Root() const { return m_folder + QStringLiteral("/root"); }
 
  private:
+  Outcome Run(const FileCalls::Plan& plan, bool again);
   [[noreturn]] void Serve(int requests, int answers);
   Outcome Read(int status);
   QString AfterFile() const { return m_folder + QStringLiteral("/after"); }

@@ -42,13 +42,15 @@ void Desk::OpenRoutine(int option) const {
 }
 
 void Desk::Answer(QDialog& dialog) {
-  QString text;
-  if (const auto* message = qobject_cast<QMessageBox*>(&dialog)) text = message->text();
+  auto* message = qobject_cast<QMessageBox*>(&dialog);
+  auto* input = qobject_cast<QInputDialog*>(&dialog);
+  // The progress of long work asks nothing.
+  if (message == nullptr && input == nullptr) return;
+  const QString text = message != nullptr ? message->text() : QString();
   Boxes.append(dialog.windowTitle() + u": "_s + text);
   std::fprintf(stderr, "%s\n", qPrintable(Boxes.last()));
   FileCalls::Mark("told: " + Boxes.last().toStdString());
-  if (auto* input = qobject_cast<QInputDialog*>(&dialog)) input->setTextValue(InputText);
-  auto* message = qobject_cast<QMessageBox*>(&dialog);
+  if (input != nullptr) input->setTextValue(InputText);
   QAbstractButton* yes = message == nullptr ? nullptr : message->button(QMessageBox::Yes);
   if (yes == nullptr && message != nullptr) yes = message->button(QMessageBox::Ok);
   if (yes != nullptr) {

@@ -167,53 +167,8 @@ void Sweep::Errors() {
     ++m_findings.Counts[u"errors"_s];
     Fail(one.What, one.Name);
   };
-  for (const Case& one : cases) run(one);
+  Effort all = m_effort;
+  all.Every = 1;
+  all.Sample(static_cast<int>(cases.size()), [&](int i) { run(cases[static_cast<std::size_t>(i)]); });
   m_effort.Sample(static_cast<int>(others.size()), [&](int i) { run(others[static_cast<std::size_t>(i)]); });
-}
-
-void Sweep::ShortWrites() {
-  struct Case {
-    Plan What;
-    std::string Path;
-  };
-  std::vector<Case> cases;
-  for (const Note& note : m_bench.Unharmed().Notes) {
-    if (note.What != Kind::Write || note.Size == 0) continue;
-    for (const long size : std::set<long>{0, 1, note.Size / 2, note.Size - 1}) {
-      if (size == note.Size) continue;
-      if (size > 0) cases.push_back({{Harm::ShortOnce, note.Nth, ENOSPC, size}, note.Path});
-      cases.push_back({{Harm::ShortThenFull, note.Nth, ENOSPC, size}, note.Path});
-    }
-  }
-  m_effort.Sample(static_cast<int>(cases.size()), [&](int i) {
-    const auto& [plan, path] = cases[static_cast<std::size_t>(i)];
-    ++m_findings.Counts[u"short writes"_s];
-    const bool goesOn = plan.What == Harm::ShortOnce;
-    const QString what = u"%1 bytes taken by write %2 (%3), the rest %4"_s.arg(plan.Size).arg(plan.Nth).arg(
-        QString::fromStdString(path), goesOn ? u"later"_s : u"never"_s);
-    if (!goesOn) {
-      Fail(plan, what);
-      return;
-    }
-    const Outcome outcome = m_bench.Try(plan);
-    QString lines = outcome.Broken + Differences(m_bench.After(), outcome.Tree);
-    lines += FailuresOf(outcome.Boxes).join(u'\n');
-    m_findings.Add(m_bench, what, lines);
-  });
-}
-
-void Sweep::FullDisk() {
-  for (int blocks = 0;; ++blocks) {
-    ++m_findings.Counts[u"full disks"_s];
-    const Plan plan{Harm::FullDisk, 0, ENOSPC, blocks};
-    const QString what = u"room for %1 blocks"_s.arg(blocks);
-    const Outcome outcome = m_bench.Try(plan, true);
-    if (outcome.Broken.isEmpty() && outcome.Harmed.Nth == 0) {
-      m_findings.Add(m_bench, what, Differences(m_bench.After(), outcome.Tree));
-      return;
-    }
-    m_findings.Add(m_bench, what, JudgeFailure(plan, outcome));
-    GoOn(outcome, what);
-    if (m_effort.IsOver()) return;
-  }
 }

@@ -101,5 +101,10 @@ void Sweep::Kill() {
     }
   }
   // A kill is quick; it is the restarts that a sample spares.
-  for (const Case& one : cases) KillOnce(one.What, one.Name);
+  Effort all = m_effort;
+  all.Every = 1;
+  all.Sample(static_cast<int>(cases.size()), [&](int i) {
+    const Case& one = cases[static_cast<std::size_t>(i)];
+    KillOnce(one.What, one.Name);
+  });
 }

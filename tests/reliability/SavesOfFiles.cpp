@@ -7,6 +7,7 @@
 #include "records/SoldItems.h"
 #include "reliability/Desk.h"
 #include "reliability/Saves.h"
+#include "support/CompletedImages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -112,6 +113,40 @@ Save SpeedNumbers() {
   };
   save.Perform = Clicks(u"frmDialer"_s, u"cmdSpeedDialer_0"_s);
   save.Screen = u"frmDialer"_s;
+  save.IsDone = [](const DataTree& left, const DataTree& after) {
+    return left.value(u"/SpeedNumbers.txt"_s) == after.value(u"/SpeedNumbers.txt"_s);
+  };
+  return save;
+}
+
+Save CompletedPurge() {
+  Save save{.Name = u"completed-purge"_s};
+  save.Stock = [](DataTree& tree) {
+    for (const QByteArray number : {"900", "901"}) {
+      const QString file = QString::fromLatin1(number) + u".txt"_s;
+      const QByteArray image = Image(number, "Acme Tools", "12/31/2025", "$900.00");
+      tree[u"/CompletedInvoices/"_s + file] = image;
+      tree[u"/Backup/CompletedInvoices/"_s + file] = image;
+      tree[u"/KarvexInvoicer/Narratives/"_s + file] = "Said then\r\n";
+    }
+    tree[u"/CompletedInvoices/20260016.txt"_s] = Image("20260016", "Acme Tools", "3/8/2026", "$25.00");
+  };
+  save.Prepare = [](Desk&) { OpenReprint(); };
+  save.Perform = Clicks(u"frmReprint"_s, u"cmdKill"_s);
+  save.Screen = u"frmReprint"_s;
+  // An image that is gone isn't listed any more: the narrative that a kill spared is beyond the next purge.
+  save.Again = [](const DataTree& left, const DataTree&, const DataTree& after) {
+    DataTree tree = after;
+    for (const auto& [name, bytes] : left.asKeyValueRange()) {
+      const bool spared = name.contains(u"/Narratives/") && name.endsWith(u".txt") &&
+                          !left.contains(u"/CompletedInvoices/"_s + name.section(u'/', -1));
+      if (spared) tree[name] = bytes;
+    }
+    return tree;
+  };
+  save.IsDone = [](const DataTree& left, const DataTree&) {
+    return !left.contains(u"/CompletedInvoices/900.txt"_s) && !left.contains(u"/CompletedInvoices/901.txt"_s);
+  };
   return save;
 }
 
@@ -214,6 +249,7 @@ std::vector<Save> SavesOfFiles() {
           Auxiliary(u"auxiliary-data"_s, u"cmdSaveAux_1"_s),
           Labor(),
           SpeedNumbers(),
+          CompletedPurge(),
           SalesPurge(),
           ExitBackup()};
 }

@@ -44,6 +44,8 @@ class Sweep {
   void ShortWrites();
   /// The disk has room for nothing, for one block more each time, at last for all.
   void FullDisk();
+  /// The same on a real file system of so many blocks, where this user may make one.
+  void SmallFileSystem();
   /// From the unharmed trace: what is published was flushed before, and its folder behind it, before the user hears.
   void Order();
 

@@ -17,6 +17,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "reliability/SmallDisk.h"
 #include "reliability/Sweeps.h"
 
 using namespace Qt::StringLiterals;
@@ -36,7 +37,7 @@ QString WorkFolder() {
   return (::access("/dev/shm", W_OK) == 0 ? memory : QDir::tempPath()) + u"/karvex-torture-XXXXXX"_s;
 }
 
-Findings SweepOf(const Save& save, const QString& folder, const Effort& effort) {
+Findings SweepOf(const Save& save, const QString& folder, Effort effort) {
   Findings findings;
   Bench bench(save, folder);
   if (const QString unusable = bench.Unusable(); !unusable.isEmpty()) {
@@ -47,8 +48,13 @@ Findings SweepOf(const Save& save, const QString& folder, const Effort& effort) 
   Sweep sweep(bench, effort, findings);
   sweep.Order();
   sweep.FullDisk();
+  sweep.SmallFileSystem();
   sweep.ShortWrites();
+  // Of a limited time the two long ones take half each.
+  const auto end = effort.Deadline;
+  if (end != steady_clock::time_point::max()) effort.Deadline -= (end - steady_clock::now()) / 2;
   sweep.Kill();
+  effort.Deadline = end;
   sweep.Errors();
   return findings;
 }
@@ -95,8 +101,9 @@ void Work(const Order& order, const QString& folder, std::atomic<std::size_t>& n
 }
 
 int Print(const Order& order, const QString& folder) {
-  const QStringList columns{u"calls"_s,        u"kills"_s,      u"restarts"_s,         u"errors"_s,
-                            u"short writes"_s, u"full disks"_s, u"saves done again"_s, u"renames followed"_s};
+  const QStringList columns{u"calls"_s,           u"kills"_s,      u"restarts"_s,    u"errors"_s,
+                            u"short writes"_s,    u"full disks"_s, u"small disks"_s, u"saves done again"_s,
+                            u"renames followed"_s};
   std::printf("%-22s", "");
   for (const QString& column : columns) std::printf(" %16s", qPrintable(column));
   std::printf("\n");
@@ -174,6 +181,7 @@ int Trace(const Save& save, int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  KeepMountsToOneself();
   const QString what = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
   QStringList names;
   for (int i = 2; i < argc; ++i) names << QString::fromLocal8Bit(argv[i]);
