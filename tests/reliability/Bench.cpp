@@ -53,10 +53,11 @@ int InChild(Work work) {
   return status;
 }
 
-/// After a failure that he was told of the user does the same again, unless he sees that it was done all the same.
+/// After a failure the user does the same again, unless he sees that it was done all the same. He has to be told of it,
+/// but where nothing is told.
 bool DoesAgain(const Desk& desk, const Save& save, const DataTree& found, const QString& after) {
   if (save.Screen.isEmpty() || desk.HasEnded() || !desk.Shows(save.Screen)) return false;
-  if (FailuresOf(desk.Boxes).isEmpty()) return false;
+  if (save.Tells == Save::Telling::Box && FailuresOf(desk.Boxes).isEmpty()) return false;
   Outcome unharmed;
   return ReadReport(after, unharmed) && !save.WasDone(WithoutTemporaries(found), unharmed.Tree);
 }
@@ -76,6 +77,7 @@ void DoSave(Desk& desk, const Save& save, const Request& request, const QString&
   if (request.Plan.What == FileCalls::Harm::None) outcome.Notes = FileCalls::Notes();
   if (request.Again && DoesAgain(desk, save, outcome.Tree, after)) {
     desk.Boxes.clear();
+    if (save.FromMenu) save.Prepare(desk);
     save.Perform(desk);
     outcome.DidAgain = true;
     outcome.AgainBoxes = desk.Boxes;
@@ -87,8 +89,9 @@ void DoSave(Desk& desk, const Save& save, const Request& request, const QString&
 }  // namespace
 
 bool TellsFailure(const QString& box) {
-  // A print job has its own words for whatever happens in it.
-  return box.contains(u"(error ") || box.contains(u"A Print Error has occurred");
+  // A print job has its own words for whatever happens in it, and the printer's dialog for a file that it can't open.
+  return box.contains(u"(error ") || box.contains(u"A Print Error has occurred") ||
+         box.contains(u"Please choose a different file name");
 }
 
 QStringList FailuresOf(const QStringList& boxes) {
@@ -149,7 +152,7 @@ QString Bench::Unusable() const {
 }
 
 void Bench::Serve(int requests, int answers) {
-  Desk desk(Root(), m_folder + u"/lock"_s);
+  Desk desk(Root(), m_folder + u"/lock"_s, m_save.OnPaper);
   if (!m_save.AtStart() && desk.Start() && desk.GoToMenu()) m_save.Prepare(desk);
   const int ready = !IsAlone() || QTest::currentTestFailed() || (!m_save.AtStart() && desk.HasEnded()) ? 1 : 0;
   Send(answers, ready);
@@ -190,7 +193,7 @@ Outcome Bench::Restart(const DataTree& tree, bool saves) {
   static int starts = 0;
   const QString lock = m_folder + u"/lock-%1"_s.arg(++starts);
   return Read(InChild([&] {
-    Desk desk(Root(), lock);
+    Desk desk(Root(), lock, m_save.OnPaper);
     if (m_save.AtStart()) {
       DoSave(desk, m_save, {}, ReportFile(), {});
       return;

@@ -11,11 +11,19 @@ namespace {
 
 constexpr auto FileFilter = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
+/// A PDF bears the second of its making: that alone is set to noughts.
+QByteArray WithoutTime(QByteArray bytes) {
+  const QByteArray date = "/CreationDate (D:";
+  const qsizetype at = bytes.startsWith("%PDF-") ? bytes.indexOf(date) : -1;
+  if (at >= 0 && bytes.size() >= at + date.size() + 14) bytes.replace(at + date.size(), 14, QByteArray(14, '0'));
+  return bytes;
+}
+
 QByteArray BytesOf(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) qFatal("%s can't be read", qPrintable(path));
   const QByteArray bytes = file.readAll();
-  return bytes.isNull() ? QByteArray("") : bytes;
+  return bytes.isNull() ? QByteArray("") : WithoutTime(bytes);
 }
 
 QString Described(const QByteArray& bytes) {

@@ -3,9 +3,12 @@
 #include <cstdio>
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QTimer>
 
 #include "desktop/Style.h"
@@ -13,7 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
-Desk::Desk(const QString& root, const QString& lockFolder) : m_root(root), m_lockFolder(lockFolder) {
+Desk::Desk(const QString& root, const QString& lockFolder, bool onPaper) : m_root(root), m_lockFolder(lockFolder) {
+  if (onPaper) m_printer = std::make_unique<PaperPrinter>(m_store, m_dialogs, m_root + u"/Printed"_s);
   ApplyStyle(*qApp);
   qApp->installEventFilter(this);
 }
@@ -22,8 +26,9 @@ Desk::~Desk() = default;
 
 bool Desk::Start() {
   QDir().mkpath(m_lockFolder);
+  Printer& paper = m_printer ? static_cast<Printer&>(*m_printer) : m_recorder;
   m_program =
-      std::make_unique<Program>(PlatformOn(m_root, m_lockFolder, m_files, m_calendar, m_dialogs, m_paper, m_modem));
+      std::make_unique<Program>(PlatformOn(m_root, m_lockFolder, m_files, m_calendar, m_dialogs, paper, m_modem));
   const bool runs = m_program->Start();
   ScreenDriver::ProcessEvents();
   return runs;
@@ -41,7 +46,18 @@ void Desk::OpenRoutine(int option) const {
   menu.Click(u"cmdGoto"_s);
 }
 
+void Desk::Print(QPrintDialog& dialog) const {
+  if (auto* file = dialog.findChild<QLineEdit*>(u"filename"_s)) file->setText(ChosenFile);
+  dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+  // It says itself why it can't take the file; the user gives up.
+  if (dialog.isVisible()) dialog.reject();
+}
+
 void Desk::Answer(QDialog& dialog) {
+  if (auto* printer = qobject_cast<QPrintDialog*>(&dialog)) {
+    Print(*printer);
+    return;
+  }
   auto* message = qobject_cast<QMessageBox*>(&dialog);
   auto* input = qobject_cast<QInputDialog*>(&dialog);
   // The progress of long work asks nothing.

@@ -116,15 +116,16 @@ QString Sweep::JudgeFailure(const Plan& plan, const Outcome& outcome) const {
   return lines;
 }
 
-/// When the fault is gone the next save works: in the same program where its screen still stands, else in the next.
+/// When the fault is gone the next save works: in the same program where its screen still stands or the user is back at
+/// the menu, and in the next.
 void Sweep::GoOn(const Outcome& outcome, const QString& what) {
   if (!outcome.Broken.isEmpty()) return;
-  if (!outcome.DidAgain) {
-    StartAgain(outcome.Tree, what);
-    return;
-  }
+  const bool fromMenu = m_bench.What().FromMenu;
+  if (!outcome.DidAgain || fromMenu) StartAgain(outcome.Tree, what);
+  if (!outcome.DidAgain) return;
   ++m_findings.Counts[u"saves done again"_s];
-  QString lines = Differences(m_bench.After(), outcome.AgainTree);
+  const DataTree wanted = fromMenu ? Wanted(WithoutTemporaries(outcome.Tree)) : m_bench.After();
+  QString lines = Differences(wanted, outcome.AgainTree);
   for (const QString& error : FailuresOf(outcome.AgainBoxes)) lines += u"  told: "_s + error + u'\n';
   m_findings.Add(m_bench, what + u", then saved again"_s, lines);
 }

@@ -27,6 +27,10 @@ struct Save {
   std::function<void(Desk&)> Prepare{};
   std::function<void(Desk&)> Perform{};
   QString Screen{};  ///< Where it can be done again after a failure; blank: after a new start only.
+  /// That is the main menu: he goes the way to the save once more, and what `Again` tells must come of it.
+  bool FromMenu = false;
+  /// It prints on the real paper: to PDF files in the tree's folder /Printed.
+  bool OnPaper = false;
   Telling Tells = Telling::Box;
   /// Whether the user sees at the next start that it was done. By default the tree is the one after it.
   std::function<bool(const DataTree& left, const DataTree& after)> IsDone{};
@@ -42,6 +46,7 @@ struct Save {
 std::vector<Save> AllSaves();
 std::vector<Save> SavesOfFiles();
 std::vector<Save> SavesOfInvoices();
+std::vector<Save> SavesOnPaper();
 /// A save as a careless program does it, and the words by which a sweep finds it out; none for the careful one.
 struct CarelessSave {
   Save What;

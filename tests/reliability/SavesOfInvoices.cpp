@@ -148,7 +148,8 @@ DataTree CommittedAgain(const DataTree& left, const DataTree& before, const Data
 
 Save Commit(const QString& name, std::function<void(Desk&)> prepare, const QString& button) {
   Save save = OnInvoice(name, std::move(prepare), button);
-  save.Screen.clear();
+  save.Screen = u"frmStartup"_s;
+  save.FromMenu = true;
   save.Tells = Save::Telling::SkipsRest;
   save.Again = CommittedAgain;
   save.IsDone = [](const DataTree& left, const DataTree& after) { return left.value(Number) == after.value(Number); };
@@ -255,5 +256,6 @@ std::vector<Save> SavesOfInvoices() {
 std::vector<Save> AllSaves() {
   std::vector<Save> saves = SavesOfFiles();
   for (Save& save : SavesOfInvoices()) saves.push_back(std::move(save));
+  for (Save& save : SavesOnPaper()) saves.push_back(std::move(save));
   return saves;
 }

@@ -5,7 +5,7 @@
 
 #include "desktop/QtDialogs.h"
 
-class TestDialogs final : public QtDialogs {
+class TestDialogs : public QtDialogs {
  public:
   void Beep() override { ++Beeps; }
   void OpenPage(const QString& address) override { Pages.append(address); }
