@@ -1,72 +1,16 @@
-// The completed invoices' screen in the real program: the list and its order, one invoice in full, its messages, the
-// memo, and the purge.
+// The completed invoices' screen in the real program: the list, its order, and the ways off the screen.
 
-#include "support/CompletedImages.h"
-#include "support/InvoiceBench.h"
-#include "support/ProgramFixture.h"
+#include "records/ReprintScreen.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString Folder = u"/CompletedInvoices/"_s;
-const QString Narratives = u"/KarvexInvoicer/Narratives/"_s;
-
-/// Four images; two of one date, one of an earlier year; and one of the narratives.
-void Stock(const TemporaryTree& tree) {
-  StockCatalogue(tree);
-  tree.Write(Folder + u"20260010.txt"_s, Image("20260010", "Bay Farm", "3/6/2026", "$1,086.50"));
-  tree.Write(Folder + u"20260009.txt"_s, Image("20260009", "acme tools", "3/6/2026", "$7.00"));
-  tree.Write(Folder + u"900.txt"_s, Image("900", "Hill & Sons", "12/31/2025", "$900.00"));
-  tree.Write(Folder + u"20260011.txt"_s, Image("20260011", "Acme Tools", "3/7/2026", "$12.00"));
-  tree.Write(Narratives + u"900.txt"_s, "Said then\r\n");
-}
-
-struct Desk {
-  ProgramFixture Program;
-  Desk() { Stock(Program.Tree); }
-  /// At the screen.
-  bool Open() {
-    if (!Program.StartAtMenu()) return false;
-    OpenReprint();
-    return ScreenDriver::IsShown(u"frmReprint"_s) && !ScreenDriver::IsShown(u"frmStartup"_s);
-  }
-  ScreenDriver On() const { return ScreenDriver(u"frmReprint"_s); }
-  QStringList Column(int col) const {
-    const auto* list = On().Control<QTableView>(u"fgReceivables"_s)->model();
-    QStringList cells;
-    for (int row = 0; row < list->rowCount(); ++row) cells.append(list->index(row, col).data().toString());
-    return cells;
-  }
-  /// Opens the invoice of that number.
-  void Select(const QString& number) const {
-    On().SelectRow(u"fgReceivables"_s, static_cast<int>(Column(0).indexOf(number)) + 1);
-  }
-  bool ShowsList() const {
-    return On().IsVisible(u"fgReceivables"_s) && !On().IsVisible(u"fraInvoice"_s) &&
-           On().Entry(u"mnuSort"_s)->isVisible();
-  }
-  void Sort(int col, int order) const {
-    On().Trigger(u"mnuSort"_s);
-    On().Click(u"optCol_%1"_s.arg(col));
-    On().Click(u"optSort_%1"_s.arg(order));
-    On().Click(u"cmdMode"_s);
-  }
-  QDate Date() const { return On().Control<QDateEdit>(u"DTPicker1"_s)->date(); }
-  void Purge(const QString& date) {
-    Program.Answers.Yes(u"This will Delete All Invoices before "_s + date, u"Delete Invoice Records"_s);
-    On().Click(u"cmdKill"_s);
-  }
-  QStringList Images() const { return Program.Tree.List(u"/CompletedInvoices"_s); }
-};
 
 /// Stops the work whose progress is shown.
 void Stop(QDialog& progress) {
   progress.findChild<QPushButton*>()->click();
-}
-
-QString Title(const ScreenDriver& screen) {
-  return screen.Control<QGroupBox>(u"fraInvoice"_s)->title();
 }
 
 }  // namespace
@@ -83,42 +27,18 @@ class ScreenReprint : public QObject {
   void anImageThatCannotBeListedIsNamedAndTheMenuStays_data();
   void anImageThatCannotBeListedIsNamedAndTheMenuStays();
   void theListNeedsNoMoreThanFiveLinesOfAnImage();
-  void aClickShowsTheInvoiceInFull();
-  void aKeyOpensTheRowToo();
-  void theTaxHeadingsAreSetups();
-  void inUsaStyleTheStateIsNarrowAndThePostalCodeShows();
-  void inInternationalStyleTheStateIsWideAndThePostalCodeIsHidden();
-  void textsAreShownAsTheyStand();
-  void aRowWithoutItsImageSaysSoAndKeepsTheList();
-  void anImageThatOnlyTheBackupHoldsComesBack();
-  void aNumberThatCouldLeaveTheFolderIsRefused();
-  void whatCannotBeReadNamesTheFileAndKeepsTheList_data();
-  void whatCannotBeReadNamesTheFileAndKeepsTheList();
-  void anInvoiceWithoutLinesIsShown();
-  void reSelectLeadsBackToTheList();
-  void escapeLeadsOneStepBack();
-  void theMemoShownIsTheOneLoadedNow();
-  void clearMemoEmptiesTheBoxAndDeletesItsFileAndCopy();
-  void aDoubleClickOnARowClearsNoMemoUnderIt();
   void eachKeySortsBothWays_data();
   void eachKeySortsBothWays();
   void withinADateTheOrderOfTheFormerSortIsKept();
   void theYearLeadsTheOrderOfDates();
   void theTwoKindsOfOptionsAreChosenApart();
-  void aDateLaterThanTodayIsSetBack();
-  void noDeletesNothing();
-  void theDefaultDateDeletesEverythingThroughToday();
-  void thePickedDayItselfIsKept();
-  void thePurgeTakesNarrativesAndBackupCopiesAndNothingElse();
-  void aPurgeThatFailsIsTold();
   void menuUnloadsTheScreen();
   void closingTheWindowEndsTheProgram();
   void aStopWhileTheListIsReadLeadsBackToTheMenu();
-  void aStopWhileInvoicesAreDeletedKeepsTheRest();
 };
 
 void ScreenReprint::itListsTheImagesUnderTheirHeadings() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   auto* view = desk.On().Control<QTableView>(u"fgReceivables"_s);
   const auto* grid = view->model();
@@ -137,7 +57,7 @@ void ScreenReprint::itListsTheImagesUnderTheirHeadings() {
 }
 
 void ScreenReprint::theCaptionsAndTips() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   const ScreenDriver screen = desk.On();
   const std::initializer_list<std::pair<QString, QString>> captions{
@@ -166,7 +86,7 @@ void ScreenReprint::theCaptionsAndTips() {
 }
 
 void ScreenReprint::atFirstTheListIsSortedByNumberAndTheSortPanelIsHidden() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   // As numbers: the 900 comes first.
   QCOMPARE(desk.Column(0), (QStringList{u"900"_s, u"20260009"_s, u"20260010"_s, u"20260011"_s}));
@@ -179,7 +99,7 @@ void ScreenReprint::atFirstTheListIsSortedByNumberAndTheSortPanelIsHidden() {
 }
 
 void ScreenReprint::theListIsReadAnewAtEachShowing() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   desk.Sort(2, 1);
   desk.On().Click(u"cmdExit"_s);
@@ -190,7 +110,7 @@ void ScreenReprint::theListIsReadAnewAtEachShowing() {
 }
 
 void ScreenReprint::withoutAnImageItSaysSoAndTheMenuIsShownAnew() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Program.StartAtMenu());
   for (const QString& file : desk.Images()) desk.Program.Tree.Remove(Folder + file);
   desk.Program.Answers.Ok(u"No Completed Invoices Exist"_s, u"Karvex Invoicer"_s);
@@ -218,7 +138,7 @@ void ScreenReprint::anImageThatCannotBeListedIsNamedAndTheMenuStays_data() {
 void ScreenReprint::anImageThatCannotBeListedIsNamedAndTheMenuStays() {
   QFETCH(const QByteArray, content);
   QFETCH(const QString, error);
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Program.StartAtMenu());
   desk.Program.Tree.Write(Folder + u"20260010.txt"_s, content);
   const auto before = desk.Program.Tree.Everything();
@@ -237,281 +157,12 @@ void ScreenReprint::anImageThatCannotBeListedIsNamedAndTheMenuStays() {
 }
 
 void ScreenReprint::theListNeedsNoMoreThanFiveLinesOfAnImage() {
-  Desk desk;
+  ReprintScreen desk;
   desk.Program.Tree.Write(Folder + u"20260012.txt"_s, "20260012\n1003\nShort\n1/5/2001\n$1.00");
   QVERIFY(desk.Open());
   const auto row = desk.Column(0).indexOf(u"20260012"_s);
   QCOMPARE(desk.Column(4).at(row), u"$1.00"_s);
   QCOMPARE(desk.Column(5).at(row), u"2001105"_s);
-}
-
-void ScreenReprint::aClickShowsTheInvoiceInFull() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.Select(u"20260010"_s);
-  const ScreenDriver screen = desk.On();
-  QVERIFY(screen.IsVisible(u"fraInvoice"_s));
-  QVERIFY(!screen.IsVisible(u"fgReceivables"_s));
-  QVERIFY(!screen.Entry(u"mnuSort"_s)->isVisible());
-  QCOMPARE(Title(screen), u"Details for Invoice 20260010"_s);
-  const QStringList billTo{u"Bay Farm"_s, u"1 Dock Rd"_s, u"Gate 2"_s, u"Salem"_s, u"MA"_s, u"01970"_s};
-  const QStringList shipTo{u"Barn"_s, u"2 Hill Rd"_s, u""_s, u"Lynn"_s, u"NH"_s, u"01901"_s};
-  for (int i = 0; i < 6; ++i) {
-    QCOMPARE(screen.Text(u"lblBillTo_%1"_s.arg(i)), billTo[i]);
-    QCOMPARE(screen.Text(u"lblShipTo_%1"_s.arg(i)), shipTo[i]);
-  }
-  const std::initializer_list<std::pair<int, QString>> facts{{19, u"3/6/2026"_s}, {32, u"UPS Ground"_s},
-                                                             {33, u"3/9/2026"_s}, {27, u"20260010"_s},
-                                                             {17, u"1001"_s},     {9, u"PO 5"_s}};
-  for (const auto& [element, text] : facts) QCOMPARE(screen.Text(u"Label1_%1"_s.arg(element)), text);
-  QCOMPARE(screen.Text(u"txtAttn"_s), u"Ann"_s);
-  const std::initializer_list<std::pair<int, QString>> amounts{{0, u"$1,024.00"_s}, {1, u"$51.20"_s}, {9, u"$1.30"_s},
-                                                               {2, u"$1,086.50"_s}, {4, u"$12.50"_s}, {5, u"$3.00"_s},
-                                                               {6, u"($2.25)"_s}};
-  for (const auto& [element, text] : amounts) QCOMPARE(screen.Text(u"lblInvoice_%1"_s.arg(element)), text);
-
-  const auto* items = screen.Control<QTableView>(u"fgItems"_s)->model();
-  QCOMPARE(items->rowCount(), 2);
-  const QList<QStringList> lines{{u"2"_s, u"Hammer, \"big\""_s, u""_s, u"$12.00"_s, u"$24.00"_s},
-                                 {u""_s, u" Survey "_s, u"3/1/2026"_s, u"$1,000.00"_s, u"$1,000.00"_s}};
-  for (int row = 0; row < 2; ++row) {
-    for (int col = 0; col < 5; ++col) QCOMPARE(items->index(row, col).data().toString(), lines[row][col]);
-  }
-  QCOMPARE(items->index(0, 1).data(Qt::TextAlignmentRole).toInt(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter));
-  QVERIFY(screen.IsVisible(u"cmdPrint"_s) && screen.IsVisible(u"cmdHide"_s) && screen.IsVisible(u"cmdMemo"_s));
-  QVERIFY(screen.IsVisible(u"cmdExit"_s));
-  QCOMPARE(desk.Program.Answers.Boxes().size(), 0);
-}
-
-void ScreenReprint::aKeyOpensTheRowToo() {
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
-    Desk desk;
-    QVERIFY(desk.Open());
-    desk.On().PressKey(Qt::Key_Down);
-    desk.On().PressKey(key);
-    QCOMPARE(Title(desk.On()), u"Details for Invoice 20260009"_s);
-  }
-}
-
-void ScreenReprint::theTaxHeadingsAreSetups() {
-  Desk desk;
-  desk.Program.Tree.Write(u"/TaxSettings.txt"_s, "\"GST\",\"Tax & <b>more</b>\",\"6.0\",\"1.0\",1,1\r\n");
-  QVERIFY(desk.Open());
-  desk.Select(u"900"_s);
-  QCOMPARE(desk.On().Text(u"Label1_1"_s), u"GST"_s);
-  QCOMPARE(desk.On().Text(u"Label1_22"_s), u"Tax & <b>more</b>"_s);
-  QCOMPARE(desk.On().Control<QLabel>(u"Label1_22"_s)->textFormat(), Qt::PlainText);
-}
-
-void ScreenReprint::inUsaStyleTheStateIsNarrowAndThePostalCodeShows() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.Select(u"20260010"_s);
-  for (const auto& block : {u"lblBillTo"_s, u"lblShipTo"_s}) {
-    // 435 twips.
-    QCOMPARE(desk.On().Control(block + u"_4"_s)->width(), 29);
-    QVERIFY(desk.On().IsVisible(block + u"_5"_s));
-  }
-}
-
-void ScreenReprint::inInternationalStyleTheStateIsWideAndThePostalCodeIsHidden() {
-  Desk desk;
-  // A name and no postal code, and the customer screen was never shown.
-  desk.Program.Tree.Write(u"/MyBusinessData.txt"_s,
-                          "\"Grove\",\"12 Grove Road\",\"\",\"Sydney\",\"NSW\",\"\",\"555-0100\",\"\",\"\"\r\n");
-  QVERIFY(desk.Open());
-  desk.Select(u"20260010"_s);
-  for (const auto& block : {u"lblBillTo"_s, u"lblShipTo"_s}) {
-    // 2235 twips.
-    QCOMPARE(desk.On().Control(block + u"_4"_s)->width(), 149);
-    QVERIFY(!desk.On().IsVisible(block + u"_5"_s));
-  }
-  QCOMPARE(desk.On().Text(u"lblBillTo_5"_s), u"01970"_s);
-}
-
-void ScreenReprint::textsAreShownAsTheyStand() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.Select(u"900"_s);
-  QCOMPARE(desk.On().Text(u"lblBillTo_0"_s), u"Hill & Sons"_s);
-  QCOMPARE(desk.On().Control<QLabel>(u"lblBillTo_0"_s)->textFormat(), Qt::PlainText);
-}
-
-void ScreenReprint::aRowWithoutItsImageSaysSoAndKeepsTheList() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.Program.Tree.Remove(Folder + u"20260010.txt"_s);
-  desk.Program.Answers.Ok(
-      u"An Image does not exist for this Transaction\nIt most likely is a result of\n"
-      "a Service Attention Completion Posting\nor an E-Funds Received\nShown for Reference Only"_s,
-      u"Invoice Image Not Found"_s);
-  desk.Select(u"20260010"_s);
-  QCOMPARE(desk.Program.Answers.Last().Buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
-  QVERIFY(desk.ShowsList());
-  QCOMPARE(desk.Column(0).size(), 4);
-  desk.Select(u"20260011"_s);
-  QCOMPARE(Title(desk.On()), u"Details for Invoice 20260011"_s);
-}
-
-void ScreenReprint::anImageThatOnlyTheBackupHoldsComesBack() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  const QByteArray image = desk.Program.Tree.Bytes(Folder + u"20260010.txt"_s);
-  desk.Program.Tree.Write(u"/Backup"_s + Folder + u"20260010.txt"_s, image);
-  desk.Program.Tree.Remove(Folder + u"20260010.txt"_s);
-  desk.Select(u"20260010"_s);
-  QCOMPARE(Title(desk.On()), u"Details for Invoice 20260010"_s);
-  QCOMPARE(desk.Program.Tree.Bytes(Folder + u"20260010.txt"_s), image);
-}
-
-void ScreenReprint::aNumberThatCouldLeaveTheFolderIsRefused() {
-  Desk desk;
-  desk.Program.Tree.Write(Folder + u"x.txt"_s, Image("../Services", "Bay", "3/7/2026", "$1.00"));
-  desk.Program.Tree.Write(Folder + u"y.txt"_s, Image("", "Blank", "3/7/2026", "$1.00"));
-  QVERIFY(desk.Open());
-  desk.Program.Answers.Ok();
-  desk.Select(u"../Services"_s);
-  QVERIFY(desk.Program.Answers.Last().Text.contains(u"../Services"_s));
-  QVERIFY(desk.ShowsList());
-  // One without a number has no image.
-  desk.Program.Answers.Ok({}, u"Invoice Image Not Found"_s);
-  desk.Select(u""_s);
-  desk.Purge(u"3/8/2026"_s);
-  QVERIFY(desk.Program.Tree.Exists(u"/Services.txt"_s));
-  QCOMPARE(desk.Images(), (QStringList{u"x.txt"_s, u"y.txt"_s}));
-}
-
-void ScreenReprint::whatCannotBeReadNamesTheFileAndKeepsTheList_data() {
-  QTest::addColumn<QByteArray>("content");
-  QTest::addColumn<QString>("error");
-  const QByteArray whole = Image("20260010", "Bay Farm", "3/6/2026", "$1,086.50");
-  QTest::newRow("without its amounts") << whole.left(whole.lastIndexOf("\r\n\"$1,024.00\"") + 2) << u"(error 62)"_s;
-  QTest::newRow("shorter than its count")
-      << QByteArray(whole).replace("\r\nAnn\r\n2\r\n", "\r\nAnn\r\n9\r\n") << u"(error 62)"_s;
-  QTest::newRow("five lines only") << QByteArray("20260010\r\n1001\r\nBay\r\n3/6/2026\r\n$1.00\r\n") << u"(error 62)"_s;
-  QTest::newRow("a word for an amount") << QByteArray(whole).replace("\"$3.00\"", "\"three\"") << u"(error 13)"_s;
-  QTest::newRow("an empty amount") << QByteArray(whole).replace("\"$3.00\"", "\"\"") << u"(error 13)"_s;
-  QTest::newRow("an amount beyond any") << QByteArray(whole).replace("\"$3.00\"", "\"1E300\"") << u"(error 6)"_s;
-  QTest::newRow("a word for the count") << QByteArray(whole).replace("\r\nAnn\r\n2\r\n", "\r\nAnn\r\ntwo\r\n")
-                                        << u"(error 13)"_s;
-  QTest::newRow("a count beyond 16 bits")
-      << QByteArray(whole).replace("\r\nAnn\r\n2\r\n", "\r\nAnn\r\n32768\r\n") << u"(error 6)"_s;
-  QTest::newRow("a count below zero") << QByteArray(whole).replace("\r\nAnn\r\n2\r\n", "\r\nAnn\r\n-1\r\n")
-                                      << u"(error 9)"_s;
-  QTest::newRow("a comma in the attention line")
-      << QByteArray(whole).replace("\r\nAnn\r\n", "\r\nAnn, Bob\r\n") << u"(error 13)"_s;
-}
-
-void ScreenReprint::whatCannotBeReadNamesTheFileAndKeepsTheList() {
-  QFETCH(const QByteArray, content);
-  QFETCH(const QString, error);
-  Desk desk;
-  desk.Program.Tree.Write(Folder + u"20260010.txt"_s, content);
-  QVERIFY(desk.Open());
-  const auto before = desk.Program.Tree.Everything();
-  desk.Program.Answers.Ok();
-  desk.Select(u"20260010"_s);
-  const QString text = desk.Program.Answers.Last().Text;
-  QVERIFY2(text.contains(Folder + u"20260010.txt"_s) && text.contains(error), qPrintable(text));
-  QVERIFY(text.endsWith(u"Mend the file or remove it, then try again. Nothing was lost."_s));
-  QVERIFY(!desk.Program.Running().HasEnded());
-  QVERIFY(desk.ShowsList());
-  QCOMPARE(desk.Program.Tree.Everything(), before);
-}
-
-void ScreenReprint::anInvoiceWithoutLinesIsShown() {
-  Desk desk;
-  desk.Program.Tree.Write(Folder + u"20260010.txt"_s,
-                          "20260010\r\n1001\r\nBay\r\n3/6/2026\r\n$0.00\r\n" + QByteArray("\"\"\r\n").repeated(12) +
-                              "None\r\n3/6/2026\r\n20260010\r\n1001\r\n\r\n\r\n0\r\n"
-                              "\"0\",\"$0.00\",\"0\",\"1.005\",\"$0.00\",\"$0.00\",\"$0.00\"\r\n");
-  QVERIFY(desk.Open());
-  desk.Select(u"20260009"_s);
-  desk.On().Click(u"cmdHide"_s);
-  desk.Select(u"20260010"_s);
-  QCOMPARE(desk.On().Control<QTableView>(u"fgItems"_s)->model()->rowCount(), 0);
-  // Amounts come through currency formatting, whatever the file holds.
-  QCOMPARE(desk.On().Text(u"lblInvoice_0"_s), u"$0.00"_s);
-  QCOMPARE(desk.On().Text(u"lblInvoice_2"_s), u"$1.01"_s);
-}
-
-void ScreenReprint::reSelectLeadsBackToTheList() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.Select(u"900"_s);
-  desk.On().Click(u"cmdHide"_s);
-  QVERIFY(desk.ShowsList());
-  QVERIFY(desk.On().IsVisible(u"cmdReport"_s) && desk.On().IsVisible(u"cmdKill"_s));
-  desk.Select(u"20260011"_s);
-  QCOMPARE(Title(desk.On()), u"Details for Invoice 20260011"_s);
-}
-
-void ScreenReprint::escapeLeadsOneStepBack() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.Select(u"900"_s);
-  desk.On().PressKey(Qt::Key_Escape);
-  QVERIFY(desk.ShowsList());
-  desk.On().PressKey(Qt::Key_Escape);
-  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
-}
-
-void ScreenReprint::theMemoShownIsTheOneLoadedNow() {
-  Desk desk;
-  desk.Program.Tree.Write(u"/InvoiceMemo.txt"_s, "Thank you, come again\r\n\"Closed, on Sundays\"\r\n");
-  QVERIFY(desk.Open());
-  desk.Select(u"900"_s);
-  QCOMPARE(desk.On().Text(u"txtMemo"_s), u"Thank you\ncome again\nClosed, on Sundays\n"_s);
-  QVERIFY(desk.On().IsVisible(u"lblMemoNote"_s));
-  desk.On().Fill(u"txtMemo"_s, u"typed"_s);
-  desk.On().Click(u"cmdHide"_s);
-  desk.Program.Tree.Write(u"/InvoiceMemo.txt"_s, "New\r\n");
-  desk.Select(u"20260009"_s);
-  QCOMPARE(desk.On().Text(u"txtMemo"_s), u"New\n"_s);
-  desk.On().Click(u"cmdHide"_s);
-  desk.Program.Tree.Remove(u"/InvoiceMemo.txt"_s);
-  desk.Select(u"900"_s);
-  QCOMPARE(desk.On().Text(u"txtMemo"_s), QString());
-}
-
-void ScreenReprint::clearMemoEmptiesTheBoxAndDeletesItsFileAndCopy() {
-  Desk desk;
-  desk.Program.Tree.Write(u"/InvoiceMemo.txt"_s, "Thanks\r\n");
-  desk.Program.Tree.Write(u"/Backup/InvoiceMemo.txt"_s, "Old thanks\r\n");
-  QVERIFY(desk.Open());
-  desk.Select(u"900"_s);
-  desk.On().PressAccessKey('E');
-  QCOMPARE(desk.On().Text(u"txtMemo"_s), QString());
-  QVERIFY(!desk.Program.Tree.Exists(u"/InvoiceMemo.txt"_s));
-  QVERIFY(!desk.Program.Tree.Exists(u"/Backup/InvoiceMemo.txt"_s));
-  QVERIFY(desk.On().IsVisible(u"fraInvoice"_s));
-  // Without a file nothing more happens.
-  desk.On().Click(u"cmdMemo"_s);
-  QCOMPARE(desk.Program.Answers.Boxes().size(), 0);
-}
-
-void ScreenReprint::aDoubleClickOnARowClearsNoMemoUnderIt() {
-  Desk desk;
-  desk.Program.Tree.Write(u"/InvoiceMemo.txt"_s, "Thanks\r\n");
-  for (int i = 0; i < 40; ++i) {
-    const QByteArray number = QByteArray::number(20260020 + i);
-    desk.Program.Tree.Write(Folder + QString::fromLatin1(number) + u".txt"_s, Image(number, "Bay", "3/7/2026", "$1"));
-  }
-  QVERIFY(desk.Open());
-  desk.Select(u"900"_s);
-  const ScreenDriver screen = desk.On();
-  const auto* button = screen.Control(u"cmdMemo"_s);
-  const QPoint place = button->mapTo(screen.Window(), button->rect().center());
-  screen.Click(u"cmdHide"_s);
-  const auto* list = screen.Control<QTableView>(u"fgReceivables"_s);
-  QVERIFY(list->indexAt(list->viewport()->mapFrom(screen.Window(), place)).isValid());
-  QTest::mouseDClick(screen.Window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
-  ScreenDriver::ProcessEvents();
-  QVERIFY(screen.IsVisible(u"fraInvoice"_s));
-  QCOMPARE(desk.Program.Tree.Bytes(u"/InvoiceMemo.txt"_s), "Thanks\r\n");
-  QVERIFY(screen.IsEnabled(u"cmdMemo"_s));
-  screen.Click(u"cmdMemo"_s);
-  QVERIFY(!desk.Program.Tree.Exists(u"/InvoiceMemo.txt"_s));
 }
 
 void ScreenReprint::eachKeySortsBothWays_data() {
@@ -533,7 +184,7 @@ void ScreenReprint::eachKeySortsBothWays() {
   QFETCH(const int, col);
   QFETCH(const int, order);
   QFETCH(const QStringList, numbers);
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   desk.On().Trigger(u"mnuSort"_s);
   QVERIFY(desk.On().IsVisible(u"fraSort"_s));
@@ -544,11 +195,11 @@ void ScreenReprint::eachKeySortsBothWays() {
   QVERIFY(desk.ShowsList());
   // A click opens the row that stands there now.
   desk.On().SelectRow(u"fgReceivables"_s, 1);
-  QCOMPARE(Title(desk.On()), u"Details for Invoice "_s + numbers.first());
+  QCOMPARE(ReprintScreen::Title(), u"Details for Invoice "_s + numbers.first());
 }
 
 void ScreenReprint::withinADateTheOrderOfTheFormerSortIsKept() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   desk.Sort(0, 1);
   desk.Sort(1, 0);
@@ -556,7 +207,7 @@ void ScreenReprint::withinADateTheOrderOfTheFormerSortIsKept() {
 }
 
 void ScreenReprint::theYearLeadsTheOrderOfDates() {
-  Desk desk;
+  ReprintScreen desk;
   for (const QString& file : desk.Images()) desk.Program.Tree.Remove(Folder + file);
   const std::initializer_list<std::pair<QByteArray, QByteArray>> dates{
       {"1", "1/5/2026"}, {"2", "12/31/2025"}, {"3", "12/30/2026"}, {"4", "2/1/2026"}, {"5", "12/31/2024"}};
@@ -570,7 +221,7 @@ void ScreenReprint::theYearLeadsTheOrderOfDates() {
 }
 
 void ScreenReprint::theTwoKindsOfOptionsAreChosenApart() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   const ScreenDriver screen = desk.On();
   screen.Trigger(u"mnuSort"_s);
@@ -589,94 +240,8 @@ void ScreenReprint::theTwoKindsOfOptionsAreChosenApart() {
   QCOMPARE(chosen(), (QStringList{u"optCol_2"_s, u"optSort_1"_s}));
 }
 
-void ScreenReprint::aDateLaterThanTodayIsSetBack() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  auto* picker = desk.On().Control<QDateEdit>(u"DTPicker1"_s);
-  for (const QDate later : {QDate(2026, 3, 9), QDate(2030, 1, 1)}) {
-    picker->setDate(later);
-    QCOMPARE(desk.Date(), QDate(2026, 3, 7));
-  }
-  // Only the first value can be tomorrow.
-  picker->setDate(QDate(2026, 3, 8));
-  QCOMPARE(desk.Date(), QDate(2026, 3, 7));
-  picker->setDate(QDate(2026, 3, 6));
-  QCOMPARE(desk.Date(), QDate(2026, 3, 6));
-  desk.On().Click(u"cmdExit"_s);
-  OpenReprint();
-  QCOMPARE(desk.Date(), QDate(2026, 3, 8));
-}
-
-void ScreenReprint::noDeletesNothing() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  const auto before = desk.Program.Tree.Everything();
-  desk.Program.Answers.No(u"This will Delete All Invoices before 3/8/2026"_s, u"Delete Invoice Records"_s);
-  desk.On().Click(u"cmdKill"_s);
-  QCOMPARE(desk.Program.Answers.Last().Buttons, QMessageBox::Yes | QMessageBox::No);
-  QCOMPARE(desk.Program.Tree.Everything(), before);
-  QVERIFY(desk.ShowsList());
-}
-
-void ScreenReprint::theDefaultDateDeletesEverythingThroughToday() {
-  Desk desk;
-  desk.Program.Tree.Write(Folder + u"20260012.txt"_s, Image("20260012", "Post-dated", "3/8/2026", "$1.00"));
-  QVERIFY(desk.Open());
-  desk.Purge(u"3/8/2026"_s);
-  QCOMPARE(desk.Images(), QStringList{u"20260012.txt"_s});
-  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
-  QVERIFY(!ScreenDriver::IsShown(u"frmReprint"_s));
-  // The last one gone, the menu offers none.
-  desk.Program.Calendar.Set(QDate(2026, 3, 8));
-  OpenReprint();
-  desk.Purge(u"3/9/2026"_s);
-  QVERIFY(!ScreenDriver(u"frmStartup"_s).IsVisible(u"optMainMenuSub_2"_s));
-}
-
-void ScreenReprint::thePickedDayItselfIsKept() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.On().Control<QDateEdit>(u"DTPicker1"_s)->setDate(QDate(2026, 3, 6));
-  desk.Purge(u"3/6/2026"_s);
-  QCOMPARE(desk.Images(), (QStringList{u"20260009.txt"_s, u"20260010.txt"_s, u"20260011.txt"_s}));
-}
-
-void ScreenReprint::thePurgeTakesNarrativesAndBackupCopiesAndNothingElse() {
-  Desk desk;
-  const TemporaryTree& tree = desk.Program.Tree;
-  tree.Write(Narratives + u"20260010.txt"_s, "Kept\r\n");
-  tree.Write(u"/InvoiceSalesJournal.txt"_s, QByteArray(125, ' '));
-  tree.Write(u"/SoldItems.txt"_s, QByteArray(90, ' '));
-  tree.Write(u"/TaxRecords.txt"_s, QByteArray(75, ' '));
-  tree.Write(u"/KVActiveAccounts/1001.txt"_s, QByteArray(155, ' '));
-  for (const QString& name : {Folder + u"900.txt"_s, Folder + u"20260010.txt"_s, Narratives + u"900.txt"_s})
-    tree.Write(u"/Backup"_s + name, tree.Bytes(name));
-  QVERIFY(desk.Open());
-  desk.On().Control<QDateEdit>(u"DTPicker1"_s)->setDate(QDate(2026, 3, 6));
-  auto expected = tree.Everything();
-  for (const QString& name : {Folder + u"900.txt"_s, Narratives + u"900.txt"_s}) {
-    QCOMPARE(expected.remove(name), 1);
-    QCOMPARE(expected.remove(u"/Backup"_s + name), 1);
-  }
-  desk.Purge(u"3/6/2026"_s);
-  QCOMPARE(tree.Everything(), expected);
-}
-
-void ScreenReprint::aPurgeThatFailsIsTold() {
-  Desk desk;
-  QVERIFY(desk.Open());
-  desk.Program.Files.FailAlways(FailingDevice::Call::Remove, EACCES);
-  desk.Program.Answers.Yes();
-  desk.Program.Answers.Ok();
-  desk.On().Click(u"cmdKill"_s);
-  QVERIFY2(desk.Program.Answers.Last().Text.contains(u"900.txt"_s), qPrintable(desk.Program.Answers.Last().Text));
-  QCOMPARE(desk.Images().size(), 4);
-  QVERIFY(desk.ShowsList());
-  QVERIFY(!desk.Program.Running().HasEnded());
-}
-
 void ScreenReprint::menuUnloadsTheScreen() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   desk.Select(u"900"_s);
   desk.On().Click(u"cmdExit"_s);
@@ -688,7 +253,7 @@ void ScreenReprint::menuUnloadsTheScreen() {
 }
 
 void ScreenReprint::closingTheWindowEndsTheProgram() {
-  Desk desk;
+  ReprintScreen desk;
   QVERIFY(desk.Open());
   desk.On().CloseByUser();
   QVERIFY(desk.Program.Running().HasEnded());
@@ -696,7 +261,7 @@ void ScreenReprint::closingTheWindowEndsTheProgram() {
 }
 
 void ScreenReprint::aStopWhileTheListIsReadLeadsBackToTheMenu() {
-  Desk desk;
+  ReprintScreen desk;
   desk.Program.Patience = 0;
   QVERIFY(desk.Program.StartAtMenu());
   const auto before = desk.Program.Tree.Everything();
@@ -710,19 +275,6 @@ void ScreenReprint::aStopWhileTheListIsReadLeadsBackToTheMenu() {
   desk.Program.Answers.Dialog([](QDialog&) {});
   OpenReprint();
   QCOMPARE(desk.Column(0).size(), 4);
-}
-
-void ScreenReprint::aStopWhileInvoicesAreDeletedKeepsTheRest() {
-  Desk desk;
-  desk.Program.Patience = 0;
-  desk.Program.Answers.Dialog([](QDialog&) {});
-  QVERIFY(desk.Open());
-  desk.Program.Answers.Yes();
-  desk.Program.Answers.Dialog(&Stop);
-  desk.On().Click(u"cmdKill"_s);
-  QCOMPARE(desk.Images(), (QStringList{u"20260009.txt"_s, u"20260010.txt"_s, u"20260011.txt"_s}));
-  QVERIFY(!desk.Program.Tree.Exists(Narratives + u"900.txt"_s));
-  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
 QTEST_MAIN(ScreenReprint)
