@@ -4,9 +4,10 @@ target_compile_options(karvex_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast
   $<$<BOOL:${KARVEX_WERROR}>:-Werror>
   $<$<BOOL:${KARVEX_SANITIZE}>:-fsanitize=address,undefined -fno-sanitize-recover=all>
+  $<$<BOOL:${KARVEX_FUZZ}>:-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all>
   $<$<CONFIG:Debug>:-g1>)
 target_link_options(karvex_flags INTERFACE
-  $<$<BOOL:${KARVEX_SANITIZE}>:-fsanitize=address,undefined>)
+  $<$<OR:$<BOOL:${KARVEX_SANITIZE}>,$<BOOL:${KARVEX_FUZZ}>>:-fsanitize=address,undefined>)
 target_compile_definitions(karvex_flags INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
   QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT

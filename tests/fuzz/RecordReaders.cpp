@@ -9,11 +9,12 @@
 #include "customers/AuxiliaryData.h"
 #include "customers/CommonAccountRoutines.h"
 #include "customers/CustomerFile.h"
+#include "customers/CustomerFolders.h"
 #include "customers/ProposalList.h"
 #include "fuzz/ReaderDesk.h"
 #include "invoice/CommitRecords.h"
 #include "invoice/WorkingInvoice.h"
-#include "shell/DataTree.h"
+#include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +47,12 @@ void SearchCustomers(ReaderDesk& desk) {
   const auto criterion = static_cast<qint16>(static_cast<std::size_t>(chosen) % SearchedFields.size());
   file.Find({criterion, "A", false}, count);
   file.Find({EveryCustomer, {}, true}, count);
+}
+
+/// As the start does it, in a tree whose own folders stand.
+void FolderCustomers(ReaderDesk& desk) {
+  desk.Disk().MakeDataFolder(AuxFolder());
+  MakeCustomerFolders(desk.Disk());
 }
 
 /// The catalogue as the start loads it, with the lists that others take from it.
@@ -112,8 +119,7 @@ std::vector<ReaderTarget> CustomerReaders() {
       // Three more of the same file, which look at texts in it.
       {"customer-lists", u"/CustomerData.txt"_s, ListCustomers},
       {"customer-search", u"/CustomerData.txt"_s, SearchCustomers},
-      {"customer-folders", u"/CustomerData.txt"_s, [](ReaderDesk& desk) { MakeDataTree(desk.Disk(), desk.Today()); }, 0,
-       true},
+      {"customer-folders", u"/CustomerData.txt"_s, FolderCustomers, 0, true},
       {"aux-headings", u"/AuxHeadings.txt"_s,
        [](ReaderDesk& desk) {
          AuxBoxes boxes;

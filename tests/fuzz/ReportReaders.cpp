@@ -62,8 +62,9 @@ void ReportSales(ReaderDesk& desk) {
   try {
     BuildSalesTotals(sales, list);
   } catch (const RuntimeError& error) {
-    // A total beyond 16 bits names the product; the file is sound.
-    if (error.Number() != ErrorNumber::Overflow) throw;
+    // A total beyond 16 bits names the product, and a product behind one with a blank name finds no row; the file is
+    // sound.
+    if (error.Number() != ErrorNumber::Overflow && error.Number() != ErrorNumber::OutOfRange) throw;
   }
 }
 

@@ -13,7 +13,7 @@ sources() { find src tests benchmarks -name '*.h' -o -name '*.cpp' | sort; }
 everything() {
   find . \( -name build -o -name .git -o -name .cache \) -prune -o -type f \
     \( -name '*.h' -o -name '*.cpp' -o -name '*.ui' -o -name '*.md' -o -name '*.html' -o -name '*.txt' -o \
-    -name '*.cmake' -o -name '*.sh' -o -name '*.json' -o -name run -o -name test -o -name bench -o -name torture -o \
+    -name '*.cmake' -o -name '*.sh' -o -name '*.json' -o -name run -o -name test -o -name bench -o -name torture -o -name fuzz -o \
     -name demonstrate \) -print | sed 's|^\./||' | sort
 }
 
