@@ -1,42 +1,18 @@
 #include "Program.h"
 
-#include "catalogue/frmServices.h"
 #include "customers/CustomerFolders.h"
-#include "customers/frmCustomerSelection.h"
 #include "customers/frmNewCustomer.h"
-#include "invoice/frmInvoice.h"
 #include "invoice/InvoiceHeaderData.h"
-#include "printing/frmBlanks.h"
 #include "ProgramObjects.h"
-#include "records/frmIncomplete.h"
-#include "records/frmReprint.h"
-#include "records/frmSalesReport.h"
-#include "records/PartialList.h"
+#include "ProgramScreens.h"
 #include "setup/frmSetup.h"
 #include "shell/DataTree.h"
 #include "shell/ErrorText.h"
-#include "shell/frmSplash.h"
-#include "shell/frmStartup.h"
 #include "shell/KarvexMasterModule.h"
 #include "telephony/frmDialer.h"
 
-Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper, SerialPort& modem) {
-  Platform platform;
-  platform.DataRoot = root;
-  platform.EXEName = QStringLiteral("KarvexInvoicer");
-  platform.ProgramFolder = root;
-  platform.LockFolder = lockFolder;
-  platform.Version = QStringLiteral(KARVEX_VERSION);
-  platform.Files = &files;
-  platform.Calendar = &calendar;
-  platform.Boxes = &boxes;
-  platform.Paper = &paper;
-  platform.Modem = &modem;
-  return platform;
-}
-
-Program::Program(const Platform& platform) : m_platform(platform), m_objects(std::make_unique<Objects>(m_platform)) {
+Program::Program(const Platform& platform)
+    : m_platform(platform), m_objects(std::make_unique<ProgramObjects>(m_platform)) {
   // The customer screen takes over the address style at once, also while it isn't built yet.
   m_objects->Live.Business.UseAddressStyle = [this](bool usaStyle) {
     m_objects->Customer.UsaAddress = usaStyle;
@@ -81,79 +57,8 @@ bool Program::Start() {
 
 Screen& Program::Build(ScreenName screen) {
   if (Screen* built = Built(screen)) return *built;
-  return *(m_screens[screen] = Make(screen));
-}
-
-std::unique_ptr<Screen> Program::Make(ScreenName screen) {
-  switch (screen) {
-    case ScreenName::frmSplash:
-      return std::make_unique<frmSplash>(*this, *this, m_objects->Disk, m_platform.Version);
-    case ScreenName::frmStartup:
-      return std::make_unique<frmStartup>(*this, *this, MenuContext());
-    case ScreenName::frmSetup:
-      return std::make_unique<frmSetup>(*this, *this,
-                                        SetupContext{m_objects->Disk, *m_platform.Boxes, m_objects->Live,
-                                                     m_objects->Dialog, m_platform.ProgramFolder});
-    case ScreenName::frmServices:
-      return std::make_unique<frmServices>(*this, *this, m_objects->Prices, *m_platform.Boxes);
-    case ScreenName::frmInvoice:
-      return BuildInvoice();
-    case ScreenName::frmNewCustomer:
-      return std::make_unique<frmNewCustomer>(*this, *this, m_objects->Disk, *m_platform.Boxes,
-                                              m_objects->Live.Business, m_objects->Customer);
-    case ScreenName::frmCustomerSelection:
-      return std::make_unique<frmCustomerSelection>(*this, *this, m_objects->Proposals, m_objects->Disk,
-                                                    *m_platform.Boxes);
-    case ScreenName::frmBlanks:
-      return std::make_unique<frmBlanks>(*this, *this,
-                                         BlanksDesk{m_objects->Routines, m_objects->Pages, m_objects->Live.Print,
-                                                    *m_platform.Boxes, *m_platform.Calendar});
-    case ScreenName::frmIncomplete:
-      return std::make_unique<frmIncomplete>(
-          *this, PartialDesk{m_objects->Partials, m_objects->Invoice, m_objects->Disk, *m_platform.Boxes,
-                             *m_platform.Calendar, *this, m_objects->Reports, m_platform.Patience});
-    case ScreenName::frmSalesReport:
-      return BuildSalesReport();
-    case ScreenName::frmReprint:
-      return BuildReprint();
-    case ScreenName::frmDialer:
-      return std::make_unique<frmDialer>(
-          *this, *this, DialerDesk{*m_platform.Modem, m_objects->Disk, *m_platform.Boxes, m_objects->Live.Phone});
-  }
-  throw std::logic_error("no such screen");
-}
-
-std::unique_ptr<Screen> Program::BuildInvoice() {
-  Objects& our = *m_objects;
-  return std::make_unique<frmInvoice>(
-      *this, InvoiceDesk{our.Invoice, our.Prices, our.Lists, our.Live, our.Disk, *m_platform.Boxes,
-                         *m_platform.Calendar, *this, our.Customer, our.SalesItems, our.Routines, our.Pages,
-                         [&our] { return our.Partials.SelectedInvoiceNo(); },
-                         [&our] { LoadPartialList(our.Partials, our.Disk); }});
-}
-
-std::unique_ptr<Screen> Program::BuildSalesReport() {
-  Objects& our = *m_objects;
-  return std::make_unique<frmSalesReport>(
-      *this,
-      SalesDesk{our.Sales, our.SalesDays, our.SalesPickers, our.SalesItems, our.SalesPages, our.Routines, our.Disk,
-                *m_platform.Boxes, *m_platform.Calendar, our.Live.Business, *this, m_platform.Patience});
-}
-
-std::unique_ptr<Screen> Program::BuildReprint() {
-  Objects& our = *m_objects;
-  return std::make_unique<frmReprint>(
-      *this, ReprintDesk{our.Completed, our.Reprinted, our.Disk, *m_platform.Boxes, *m_platform.Calendar, *this,
-                         our.Live.Tax, our.Customer, our.Routines, our.Pages, our.Reports, m_platform.Patience});
-}
-
-MainMenuContext Program::MenuContext() {
-  return {m_objects->Disk, *m_platform.Boxes, m_platform.ProgramFolder,
-          [this] {
-            LoadPartialList(m_objects->Partials, m_objects->Disk);
-            return m_objects->Partials.Count();
-          },
-          [this](ScreenName screen) { return Built(screen) != nullptr && Built(screen)->isVisible(); }};
+  const auto isShown = [this](ScreenName name) { return Built(name) != nullptr && Built(name)->isVisible(); };
+  return *(m_screens[screen] = MakeScreen(screen, {*m_objects, m_platform, *this, *this, isShown}));
 }
 
 Screen* Program::Built(ScreenName screen) const {

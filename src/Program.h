@@ -11,35 +11,11 @@
 #include <vector>
 
 #include "desktop/Screen.h"
+#include "Platform.h"
 #include "shell/Screens.h"
 
-class Clock;
 class CommonDiskRoutines;
-class Dialogs;
-class FileDevice;
-class Printer;
-class SerialPort;
-struct MainMenuContext;
-
-/// What a program runs on.
-struct Platform {
-  QString DataRoot;       ///< Absolute, without a trailing separator; exists.
-  QString EXEName;        ///< The program file's name without extension.
-  QString ProgramFolder;  ///< Where the supplied files and the manual stand.
-  QString LockFolder;     ///< Outside the data root: where the mark of a running instance stands.
-  QString Version;        ///< "major.minor.revision".
-  FileDevice* Files = nullptr;
-  const Clock* Calendar = nullptr;
-  Dialogs* Boxes = nullptr;
-  Printer* Paper = nullptr;
-  SerialPort* Modem = nullptr;
-  int Patience = 500;  ///< Milliseconds that work may last before a screen shows its progress.
-};
-
-/// A platform on one folder, under the program's own name and version: what tests, benchmarks and the demonstration run
-/// on, and what `main` starts from.
-Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper, SerialPort& modem);
+struct ProgramObjects;
 
 class Program final : public Screens, public ScreenHost {
  public:
@@ -73,22 +49,15 @@ class Program final : public Screens, public ScreenHost {
   void UserClosed() override;
 
  private:
-  struct Objects;  ///< Every rules object, by folder.
-
-  MainMenuContext MenuContext();
-  std::unique_ptr<Screen> Make(ScreenName screen);
   /// Makes the screen if it isn't there.
   Screen& Build(ScreenName screen);
-  std::unique_ptr<Screen> BuildInvoice();
-  std::unique_ptr<Screen> BuildSalesReport();
-  std::unique_ptr<Screen> BuildReprint();
   void Open(Screen& screen);
   void KeepAWindow();
   void HideAll();
   void EndProcess();
 
   Platform m_platform;
-  std::unique_ptr<Objects> m_objects;
+  std::unique_ptr<ProgramObjects> m_objects;  ///< Every rules object, by folder.
   std::map<ScreenName, std::unique_ptr<Screen>> m_screens;
   std::vector<QPointer<Screen>> m_unloaded;  ///< Null once they are gone.
   ScreenName m_lastHidden = ScreenName::frmSplash;

@@ -3,7 +3,7 @@
 #include "invoice/InvoiceLoad.h"
 #include "setup/frmSetupPictures.h"
 
-Program::Objects::Objects(const Platform& platform)
+ProgramObjects::ProgramObjects(const Platform& platform)
     : On(platform),
       Store(*platform.Files, platform.DataRoot),
       Disk(Store, platform.DataRoot, platform.EXEName),
@@ -15,14 +15,14 @@ Program::Objects::Objects(const Platform& platform)
       SalesPickers(SalesDays, *platform.Boxes, *platform.Calendar),
       SalesPages(Routines, Pages, *platform.Calendar) {}
 
-void Program::Objects::LoadSettings() {
+void ProgramObjects::LoadSettings() {
   LoadSetup(*On.Modem, Disk, Live, &IsPicture, [this] {
     // What the invoice screen sets at its own load; the settings file then has the last word.
     LoadInvoiceScreen(Invoice, Live.Invoicer, Disk, *On.Calendar);
   });
 }
 
-void Program::Objects::LoadHiddenScreens() {
+void ProgramObjects::LoadHiddenScreens() {
   LoadSalesItems(SalesItems, Disk);
   SalesPickers.Load();
   Prices.Load();

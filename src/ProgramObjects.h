@@ -7,9 +7,9 @@
 #include "customers/CustomerOnScreen.h"
 #include "customers/ProposalList.h"
 #include "invoice/WorkingInvoice.h"
+#include "Platform.h"
 #include "printing/KVPrint.h"
 #include "printing/PrinterRoutines.h"
-#include "Program.h"
 #include "records/CompletedInvoice.h"
 #include "records/CompletedInvoices.h"
 #include "records/GridReport.h"
@@ -25,8 +25,8 @@
 #include "shell/MainMenu.h"
 #include "shell/PreviousInstance.h"
 
-struct Program::Objects {
-  explicit Objects(const Platform& platform);
+struct ProgramObjects {
+  explicit ProgramObjects(const Platform& platform);
 
   /// The load of Setup: every setting, in the order that the files' effects need; the invoice's own defaults first.
   void LoadSettings();

@@ -1,0 +1,30 @@
+/// What a program runs on: its folder, and the devices that the system gives it.
+#pragma once
+
+#include <QString>
+
+class Clock;
+class Dialogs;
+class FileDevice;
+class Printer;
+class SerialPort;
+
+/// What a program runs on.
+struct Platform {
+  QString DataRoot;       ///< Absolute, without a trailing separator; exists.
+  QString EXEName;        ///< The program file's name without extension.
+  QString ProgramFolder;  ///< Where the supplied files and the manual stand.
+  QString LockFolder;     ///< Outside the data root: where the mark of a running instance stands.
+  QString Version;        ///< "major.minor.revision".
+  FileDevice* Files = nullptr;
+  const Clock* Calendar = nullptr;
+  Dialogs* Boxes = nullptr;
+  Printer* Paper = nullptr;
+  SerialPort* Modem = nullptr;
+  int Patience = 500;  ///< Milliseconds that work may last before a screen shows its progress.
+};
+
+/// A platform on one folder, under the program's own name and version: what tests, benchmarks and the demonstration run
+/// on, and what `main` starts from.
+Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
+                    Dialogs& boxes, Printer& paper, SerialPort& modem);
