@@ -1,7 +1,8 @@
-// Hostile texts and numbers in every box of the invoice: head, lines, memo, narrative, charges and payment.
+// Hostile texts and numbers in every box of the invoice that is being made: head, lines, memo and narrative; and in the
+// cells of its grid.
 
 #include "reliability/MemoryDisk.h"
-#include "reliability/TextSweep.h"
+#include "reliability/TextStages.h"
 
 using namespace Qt::StringLiterals;
 using TextSweep::Stage;
@@ -10,69 +11,8 @@ namespace {
 
 [[maybe_unused]] const MemoryDisk Quick;
 
-void OpenInvoice(const QString& entry = {}) {
-  OneDay::GoToCustomers();
-  ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdCustomer_1"_s);
-  const ScreenDriver invoice(u"frmInvoice"_s);
-  if (entry.isEmpty()) return;
-  invoice.Click(u"cmdInvoice_0"_s);
-  invoice.Trigger(entry);
-  if (entry == u"mnuServices"_s) invoice.PickEntry(u"cboDescription_0"_s, 0);
-  if (entry == u"mnuItems"_s) invoice.PickEntry(u"cboDescription_1"_s, 0);
-  if (entry == u"mnuCItems"_s) invoice.PickEntry(u"cboDescription_2"_s, 0);
-}
-
-void OpenPrintView() {
-  OneDay::ComposeInvoice();
-  ScreenDriver(u"frmInvoice"_s).Click(u"cmdPrint"_s);
-}
-
-void OpenPrintViewAt(const QString& choice) {
-  OpenPrintView();
-  ScreenDriver(u"frmInvoice"_s).Click(choice);
-}
-
 const QList<Stage>& Stages() {
-  static const QList<Stage> stages{
-      {"invoice's head", [] { OpenInvoice(); }, u"frmInvoice"_s, {u"cmdInvoice_0"_s, u"cmdSave"_s}},
-      {"service line", [] { OpenInvoice(u"mnuServices"_s); }, u"frmInvoice"_s, {u"cmdPost_0"_s, u"cmdSave"_s}},
-      {"item line", [] { OpenInvoice(u"mnuItems"_s); }, u"frmInvoice"_s, {u"cmdPost_1"_s, u"cmdSave"_s}},
-      {"custom line", [] { OpenInvoice(u"mnuCItems"_s); }, u"frmInvoice"_s, {u"cmdPost_3"_s, u"cmdSave"_s}},
-      {"manual line", [] { OpenInvoice(u"mnuManual"_s); }, u"frmInvoice"_s, {u"cmdPost_2"_s, u"cmdSave"_s}},
-      {"hours", [] { OpenInvoice(u"mnuLabor"_s); }, u"frmInvoice"_s, {u"cmdLabor_0"_s, u"cmdLabor_1"_s, u"cmdSave"_s}},
-      {"memo", [] { OpenInvoice(u"mnuMemo"_s); }, u"frmInvoice"_s, {u"cmdInvoiceMemo_2"_s, u"cmdSave"_s}},
-      {"narrative",
-       [] { OpenInvoice(u"mnuNarrative"_s); },
-       u"frmInvoice"_s,
-       {u"cmdNarrative_3"_s, u"cmdNarrative_0"_s, u"cmdSave"_s}},
-      {"charges", &OpenPrintView, u"frmInvoice"_s, {u"cmdReadyPrint_0"_s, u"cmdInvoice_9"_s, u"cmdInvoiceContinue"_s}},
-      {"carrier",
-       [] { OpenPrintViewAt(u"cmdInvoice_6"_s); },
-       u"frmInvoice"_s,
-       {u"cmdReadyPrint_1"_s, u"cmdInvoice_9"_s, u"cmdInvoiceContinue"_s},
-       {},
-       {u"cboShipping"_s}},
-      {"flat discount",
-       [] { OpenPrintViewAt(u"optDiscount_1"_s); },
-       u"frmInvoice"_s,
-       {u"cmdAddDiscount"_s, u"cmdInvoice_9"_s, u"cmdInvoiceContinue"_s},
-       &OpenPrintView,
-       {u"txtFlatDiscount"_s}},
-      {"calculated discount",
-       [] { OpenPrintViewAt(u"optDiscount_2"_s); },
-       u"frmInvoice"_s,
-       {u"cmdInvoice_9"_s, u"cmdInvoiceContinue"_s},
-       &OpenPrintView,
-       {u"cboDiscount"_s, u"cboDays"_s}},
-      {"prepaid",
-       [] {
-         OpenPrintViewAt(u"ckPrepaid"_s);
-         ScreenDriver(u"frmInvoice"_s).Click(u"cmdInvoice_9"_s);
-       },
-       u"frmInvoice"_s,
-       {u"cmdPrepaid_0"_s, u"cmdInvoice_9"_s, u"cmdInvoiceContinue"_s},
-       &OpenPrintView,
-       {u"txtPrepaid"_s, u"cboPrepaid"_s}}};
+  static const QList<Stage> stages = TextSweep::StagesOfLines();
   return stages;
 }
 
@@ -84,6 +24,8 @@ class HostileInvoiceTexts : public QObject {
  private Q_SLOTS:
   void everyBoxTakesEveryTextAndTheProgramGoesOn_data();
   void everyBoxTakesEveryTextAndTheProgramGoesOn();
+  void everyCellOfALineTakesEveryText_data();
+  void everyCellOfALineTakesEveryText();
 };
 
 void HostileInvoiceTexts::everyBoxTakesEveryTextAndTheProgramGoesOn_data() {
@@ -94,6 +36,41 @@ void HostileInvoiceTexts::everyBoxTakesEveryTextAndTheProgramGoesOn_data() {
 void HostileInvoiceTexts::everyBoxTakesEveryTextAndTheProgramGoesOn() {
   QFETCH(int, stage);
   TextSweep::SweepBoxes(Stages()[stage]);
+}
+
+void HostileInvoiceTexts::everyCellOfALineTakesEveryText_data() {
+  QTest::addColumn<int>("column");
+  QTest::newRow("quantity") << 0;
+  QTest::newRow("unit price") << 3;
+}
+
+/// A cell takes keys alone, one by one; Enter works the line out anew.
+void HostileInvoiceTexts::everyCellOfALineTakesEveryText() {
+  QFETCH(const int, column);
+  const Stage stage{"a line", u"frmInvoice"_s, &OneDay::ComposeInvoice, {}, {}};
+  ProgramFixture program;
+  TextSweep::Begin(program, stage);
+  QVERIFY(program.StartAtMenu());
+  stage.Open();
+  const ScreenDriver invoice(stage.Window);
+  const AnyAnswer answers(program.Answers);
+  const auto* grid = invoice.Control<QTableView>(u"fgInvoice"_s)->model();
+  QSet<QString> shown;
+  for (const QString& text : TextSweep::Texts()) {
+    invoice.SelectRow(u"fgInvoice"_s, 1, column);
+    invoice.PressKey(Qt::Key_Backspace);
+    QString keys;
+    for (const QChar character : text) {
+      if (character.unicode() >= u' ' && character.unicode() < 0x7f) keys.append(character);
+    }
+    invoice.Type(keys);
+    invoice.PressKey(Qt::Key_Return);
+    QVERIFY2(!program.Running().HasEnded(), qPrintable(text));
+    shown.insert(grid->index(0, column).data().toString());
+  }
+  QVERIFY(shown.size() > 10);
+  invoice.Click(u"cmdSave"_s);
+  TextSweep::CheckWhatWasSaved(program, stage);
 }
 
 QTEST_MAIN(HostileInvoiceTexts)
