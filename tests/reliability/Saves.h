@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "reliability/DataTree.h"
+#include "support/ScreenDriver.h"
 
 class Desk;
 
@@ -41,6 +42,23 @@ struct Save {
     return IsDone ? IsDone(left, after) : left == after;
   }
 };
+
+/// The shape of most: a way to a window, and a button of it that saves and can be clicked again.
+inline Save ByClick(const QString& name, const QString& window, std::function<void(Desk&)> prepare,
+                    const QString& button) {
+  Save save{.Name = name, .Prepare = std::move(prepare)};
+  save.Perform = [window, button](Desk&) { ScreenDriver(window).Click(button); };
+  save.Screen = window;
+  return save;
+}
+/// The same of an entry of the menus.
+inline Save ByEntry(const QString& name, const QString& window, std::function<void(Desk&)> prepare,
+                    const QString& entry) {
+  Save save{.Name = name, .Prepare = std::move(prepare)};
+  save.Perform = [window, entry](Desk&) { ScreenDriver(window).Trigger(entry); };
+  save.Screen = window;
+  return save;
+}
 
 /// All of them, in the order of a business's day.
 std::vector<Save> AllSaves();

@@ -21,59 +21,52 @@ void Turn(const ScreenDriver& screen, const QString& tabs, int tab) {
   ScreenDriver::ProcessEvents();
 }
 
-std::function<void(Desk&)> Clicks(const QString& window, const QString& button) {
-  return [window, button](Desk&) { ScreenDriver(window).Click(button); };
-}
-
 Save Setup() {
-  Save save{.Name = u"setup"_s};
-  save.Prepare = [](Desk&) {
-    ScreenDriver(u"frmStartup"_s).Trigger(u"mnuCreate"_s);
-    const ScreenDriver setup(u"frmSetup"_s);
-    setup.Fill(u"txtBusiness_0"_s, u"Grove and Sons"_s);
-    Turn(setup, u"tabInfo"_s, 2);
-    Turn(setup, u"SSTab2"_s, 1);
-    setup.PickEntry(u"cboRate1"_s, u"7.0"_s);
-    if (!setup.Control<QCheckBox>(u"ckLabor"_s)->isChecked()) setup.Click(u"ckLabor"_s);
-  };
-  save.Perform = Clicks(u"frmSetup"_s, u"cmdQuit"_s);
-  save.Screen = u"frmSetup"_s;
-  return save;
+  return ByClick(
+      u"setup"_s, u"frmSetup"_s,
+      [](Desk&) {
+        ScreenDriver(u"frmStartup"_s).Trigger(u"mnuCreate"_s);
+        const ScreenDriver setup(u"frmSetup"_s);
+        setup.Fill(u"txtBusiness_0"_s, u"Grove and Sons"_s);
+        Turn(setup, u"tabInfo"_s, 2);
+        Turn(setup, u"SSTab2"_s, 1);
+        setup.PickEntry(u"cboRate1"_s, u"7.0"_s);
+        if (!setup.Control<QCheckBox>(u"ckLabor"_s)->isChecked()) setup.Click(u"ckLabor"_s);
+      },
+      u"cmdQuit"_s);
 }
 
 Save CustomerAdd() {
-  Save save{.Name = u"customer-add"_s};
-  save.Prepare = [](Desk& desk) {
-    desk.OpenRoutine(0);
-    const ScreenDriver screen(Customers);
-    screen.Trigger(u"mnuAdd"_s);
-    screen.Fill(u"txtCustomer_0"_s, u"1004"_s);
-    screen.Fill(u"txtCustomer_1"_s, u"Dune Hotel"_s);
-  };
-  save.Perform = Clicks(Customers, u"cmdNav_0"_s);
-  save.Screen = Customers;
-  return save;
+  return ByClick(
+      u"customer-add"_s, Customers,
+      [](Desk& desk) {
+        desk.OpenRoutine(0);
+        const ScreenDriver screen(Customers);
+        screen.Trigger(u"mnuAdd"_s);
+        screen.Fill(u"txtCustomer_0"_s, u"1004"_s);
+        screen.Fill(u"txtCustomer_1"_s, u"Dune Hotel"_s);
+      },
+      u"cmdNav_0"_s);
 }
 
 Save CustomerEdit() {
-  Save save{.Name = u"customer-edit"_s};
-  save.Prepare = [](Desk& desk) {
-    desk.OpenRoutine(0);
-    ScreenDriver(Customers).Fill(u"txtCustomer_2"_s, u"99 New Street"_s);
-  };
-  save.Perform = Clicks(Customers, u"cmdCustomer_0"_s);
-  save.Screen = Customers;
-  return save;
+  return ByClick(
+      u"customer-edit"_s, Customers,
+      [](Desk& desk) {
+        desk.OpenRoutine(0);
+        ScreenDriver(Customers).Fill(u"txtCustomer_2"_s, u"99 New Street"_s);
+      },
+      u"cmdCustomer_0"_s);
 }
 
 Save CustomerDelete() {
-  Save save{.Name = u"customer-delete"_s};
-  save.Prepare = [](Desk& desk) {
-    desk.OpenRoutine(0);
-    ScreenDriver(Customers).Click(u"cmdNav_3"_s);
-  };
-  save.Perform = [](Desk&) { ScreenDriver(Customers).Trigger(u"mnuDelete"_s); };
-  save.Screen = Customers;
+  Save save = ByEntry(
+      u"customer-delete"_s, Customers,
+      [](Desk& desk) {
+        desk.OpenRoutine(0);
+        ScreenDriver(Customers).Click(u"cmdNav_3"_s);
+      },
+      u"mnuDelete"_s);
   // Once the shorter file stands the customer is gone; his ledger may outlive a kill, and no customer is listed for it.
   save.IsDone = [](const DataTree& left, const DataTree& after) {
     return left.value(CustomerFile) == after.value(CustomerFile);
@@ -82,37 +75,36 @@ Save CustomerDelete() {
 }
 
 Save Auxiliary(const QString& name, const QString& button) {
-  Save save{.Name = name};
-  save.Prepare = [](Desk& desk) {
-    desk.OpenRoutine(0);
-    const ScreenDriver screen(Customers);
-    screen.Trigger(u"mnuAux"_s);
-    for (int box = 0; box < 6; ++box) {
-      screen.Fill(u"txtHeading_%1"_s.arg(box), u"Heading %1"_s.arg(box));
-      screen.Fill(u"txtAux_%1"_s.arg(box), u"Note %1"_s.arg(box));
-    }
-  };
-  save.Perform = Clicks(Customers, button);
-  save.Screen = Customers;
-  return save;
+  return ByClick(
+      name, Customers,
+      [](Desk& desk) {
+        desk.OpenRoutine(0);
+        const ScreenDriver screen(Customers);
+        screen.Trigger(u"mnuAux"_s);
+        for (int box = 0; box < 6; ++box) {
+          screen.Fill(u"txtHeading_%1"_s.arg(box), u"Heading %1"_s.arg(box));
+          screen.Fill(u"txtAux_%1"_s.arg(box), u"Note %1"_s.arg(box));
+        }
+      },
+      button);
 }
 
 Save SpeedNumbers() {
-  Save save{.Name = u"speed-numbers"_s};
+  Save save = ByClick(
+      u"speed-numbers"_s, u"frmDialer"_s,
+      [](Desk& desk) {
+        desk.OpenRoutine(0);
+        ScreenDriver(Customers).Click(u"Image1_1"_s);
+        const ScreenDriver dialer(u"frmDialer"_s);
+        dialer.Click(u"cmdDialer_1"_s);
+        dialer.Fill(u"txtDialer_0"_s, u"Bob"_s);
+        dialer.Fill(u"txtDialer_1"_s, u"777"_s);
+      },
+      u"cmdSpeedDialer_0"_s);
   save.Stock = [](DataTree& tree) {
     tree[u"/SpeedNumbers.txt"_s] = "\"Ann\"\r\n\"555\"\r\n";
     tree[u"/Backup/SpeedNumbers.txt"_s] = "\"Ann\"\r\n\"444\"\r\n";
   };
-  save.Prepare = [](Desk& desk) {
-    desk.OpenRoutine(0);
-    ScreenDriver(Customers).Click(u"Image1_1"_s);
-    const ScreenDriver dialer(u"frmDialer"_s);
-    dialer.Click(u"cmdDialer_1"_s);
-    dialer.Fill(u"txtDialer_0"_s, u"Bob"_s);
-    dialer.Fill(u"txtDialer_1"_s, u"777"_s);
-  };
-  save.Perform = Clicks(u"frmDialer"_s, u"cmdSpeedDialer_0"_s);
-  save.Screen = u"frmDialer"_s;
   save.IsDone = [](const DataTree& left, const DataTree& after) {
     return left.value(u"/SpeedNumbers.txt"_s) == after.value(u"/SpeedNumbers.txt"_s);
   };
@@ -120,7 +112,8 @@ Save SpeedNumbers() {
 }
 
 Save CompletedPurge() {
-  Save save{.Name = u"completed-purge"_s};
+  Save save = ByClick(
+      u"completed-purge"_s, u"frmReprint"_s, [](Desk&) { OpenReprint(); }, u"cmdKill"_s);
   save.Stock = [](DataTree& tree) {
     for (const QByteArray number : {"900", "901"}) {
       const QString file = QString::fromLatin1(number) + u".txt"_s;
@@ -131,9 +124,6 @@ Save CompletedPurge() {
     }
     tree[u"/CompletedInvoices/20260016.txt"_s] = Image("20260016", "Acme Tools", "3/8/2026", "$25.00");
   };
-  save.Prepare = [](Desk&) { OpenReprint(); };
-  save.Perform = Clicks(u"frmReprint"_s, u"cmdKill"_s);
-  save.Screen = u"frmReprint"_s;
   // An image that is gone isn't listed any more: the narrative that a kill spared is beyond the next purge.
   save.Again = [](const DataTree& left, const DataTree&, const DataTree& after) {
     DataTree tree = after;
@@ -151,49 +141,45 @@ Save CompletedPurge() {
 }
 
 Save SalesPurge() {
-  Save save{.Name = u"sales-purge"_s};
+  Save save = ByEntry(
+      u"sales-purge"_s, u"frmSalesReport"_s, [](Desk& desk) { desk.OpenRoutine(5); }, u"mnuDelete"_s);
   save.Stock = [](DataTree& tree) {
     tree[u"/SoldItems.txt"_s] = Sold("Crate", Day::Feb4, "20260001", 2) + Sold("Crate", Day::Mar1, "20260016", 3) +
                                 Sold("Hammer", Day::Feb4, "20260002", 1);
     tree[u"/Backup/SoldItems.txt"_s] = Sold("Crate", Day::Feb4, "20260001", 2);
   };
-  save.Prepare = [](Desk& desk) { desk.OpenRoutine(5); };
-  save.Perform = [](Desk&) { ScreenDriver(u"frmSalesReport"_s).Trigger(u"mnuDelete"_s); };
-  save.Screen = u"frmSalesReport"_s;
   return save;
 }
 
 Save CatalogueSave() {
-  Save save{.Name = u"catalogue"_s};
-  save.Prepare = [](Desk& desk) {
-    desk.OpenRoutine(3);
-    const ScreenDriver screen(u"frmServices"_s);
-    Turn(screen, u"tabServices"_s, 0);
-    // Where a kill came after it was stored, the grid shows it.
-    if (screen.Control<QTableView>(u"fgServices"_s)->model()->rowCount() > 1) return;
-    screen.Click(u"cmdServices_1"_s);
-    screen.Fill(u"txtDescription_0"_s, u"Pruning"_s);
-    screen.Fill(u"txtCharge_0"_s, u"35"_s);
-    screen.Control<QListWidget>(u"lstTime"_s)->setCurrentRow(2);
-    screen.Click(u"cmdServices_4"_s);
-  };
-  save.Perform = Clicks(u"frmServices"_s, u"cmdServices_0"_s);
-  save.Screen = u"frmServices"_s;
-  return save;
+  return ByClick(
+      u"catalogue"_s, u"frmServices"_s,
+      [](Desk& desk) {
+        desk.OpenRoutine(3);
+        const ScreenDriver screen(u"frmServices"_s);
+        Turn(screen, u"tabServices"_s, 0);
+        // Where a kill came after it was stored, the grid shows it.
+        if (screen.Control<QTableView>(u"fgServices"_s)->model()->rowCount() > 1) return;
+        screen.Click(u"cmdServices_1"_s);
+        screen.Fill(u"txtDescription_0"_s, u"Pruning"_s);
+        screen.Fill(u"txtCharge_0"_s, u"35"_s);
+        screen.Control<QListWidget>(u"lstTime"_s)->setCurrentRow(2);
+        screen.Click(u"cmdServices_4"_s);
+      },
+      u"cmdServices_0"_s);
 }
 
 Save Labor() {
-  Save save{.Name = u"labor"_s};
-  save.Prepare = [](Desk& desk) {
-    desk.OpenRoutine(3);
-    const ScreenDriver screen(u"frmServices"_s);
-    Turn(screen, u"tabServices"_s, 2);
-    screen.Fill(u"txtLabor_1"_s, u"Arborist"_s);
-    screen.Fill(u"txtLaborRate_1"_s, u"90"_s);
-  };
-  save.Perform = Clicks(u"frmServices"_s, u"cmdServices_17"_s);
-  save.Screen = u"frmServices"_s;
-  return save;
+  return ByClick(
+      u"labor"_s, u"frmServices"_s,
+      [](Desk& desk) {
+        desk.OpenRoutine(3);
+        const ScreenDriver screen(u"frmServices"_s);
+        Turn(screen, u"tabServices"_s, 2);
+        screen.Fill(u"txtLabor_1"_s, u"Arborist"_s);
+        screen.Fill(u"txtLaborRate_1"_s, u"90"_s);
+      },
+      u"cmdServices_17"_s);
 }
 
 Save ExitBackup() {

@@ -35,10 +35,7 @@ void PostLines(Desk& desk) {
 }
 
 Save OnInvoice(const QString& name, std::function<void(Desk&)> prepare, const QString& button) {
-  Save save{.Name = name, .Prepare = std::move(prepare)};
-  save.Perform = [button](Desk&) { ScreenDriver(Invoice).Click(button); };
-  save.Screen = Invoice;
-  return save;
+  return ByClick(name, Invoice, std::move(prepare), button);
 }
 
 Save Terms() {

@@ -4,6 +4,7 @@
 
 #include <QtWidgets>
 
+#include "reliability/AnyAnswer.h"
 #include "reliability/MemoryDisk.h"
 #include "reliability/OneDay.h"
 #include "reliability/Surroundings.h"
@@ -74,17 +75,23 @@ QByteArray PartialOf(const QString& listed, const QString& recalled) {
          "\r\n1001\r\nPO 5\r\nAnn\r\n1\r\n\r\nSurvey\r\n3/1/2026\r\n$80.00\r\n$80.00\r\nFalse\r\n";
 }
 
-/// The next boxes, at most so many, get a Yes or an OK; a text is asked for in vain.
-void AnswerAll(ProgramFixture& program) {
-  for (int i = 0; i < 20; ++i) {
-    program.Answers.Dialog([](QDialog& dialog) {
-      const auto* box = qobject_cast<QMessageBox*>(&dialog);
-      if (box == nullptr) return dialog.reject();
-      QAbstractButton* yes = box->button(QMessageBox::Yes);
-      (yes != nullptr ? yes : box->buttons().constFirst())->click();
-    });
+/// The program on a tree of its own, and an eye on what stands around the tree.
+class Fenced {
+ public:
+  /// At the main menu.
+  bool Start() {
+    m_around.Watch({Program.Tree.Root(), Program.LockFolder()});
+    return Program.StartAtMenu();
   }
-}
+  /// What came, went or changed outside since the start began.
+  QString Outside() const { return m_around.Changes().join(u'\n'); }
+
+ private:
+  Surroundings m_around;
+
+ public:
+  ProgramFixture Program;
+};
 
 }  // namespace
 
@@ -115,11 +122,10 @@ class HostileNames : public QObject {
 void HostileNames::anAccountOfTheFileStaysInTheTree() {
   QFETCH(QString, name);
   QFETCH(bool, safe);
-  Surroundings around;
-  ProgramFixture program;
+  Fenced fenced;
+  ProgramFixture& program = fenced.Program;
   Stock(program.Tree, name);
-  around.Watch({program.Tree.Root(), program.LockFolder()});
-  QVERIFY(program.StartAtMenu());
+  QVERIFY(fenced.Start());
   const QString folder = u"/AuxFiles/"_s + name + u"/AuxFile5"_s;
   const QString ledger = u"/KVActiveAccounts/"_s + name + u".txt"_s;
   if (safe) {
@@ -138,52 +144,50 @@ void HostileNames::anAccountOfTheFileStaysInTheTree() {
     QCOMPARE(program.Tree.List(u"/KVActiveAccounts"_s), QStringList{});
     QCOMPARE(program.Tree.Bytes(u"/CustomerData.txt"_s), CustomerOf(name));
   }
-  QCOMPARE(around.Changes().join(u'\n'), QString());
+  QCOMPARE(fenced.Outside(), QString());
   program.End();
-  QCOMPARE(around.Changes().filter(u"karvex-invoicer-"_s, Qt::CaseInsensitive).size(), around.Changes().size());
+  QCOMPARE(fenced.Outside(), QString());
   QVERIFY(program.Start());
 }
 
 void HostileNames::anAccountOfTheFileWritesItsNotesInTheTree() {
   QFETCH(QString, name);
   QFETCH(bool, safe);
-  Surroundings around;
-  ProgramFixture program;
+  Fenced fenced;
+  ProgramFixture& program = fenced.Program;
   Stock(program.Tree, name);
-  QVERIFY(program.StartAtMenu());
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  QVERIFY(fenced.Start());
   OneDay::GoToCustomers();
   const ScreenDriver screen(u"frmNewCustomer"_s);
-  AnswerAll(program);
+  auto agree = std::make_unique<AnyAnswer>(program.Answers);
   screen.Trigger(u"mnuAux"_s);
   if (screen.IsVisible(u"txtAux_0"_s)) {
     screen.Click(u"txtAux_0"_s);
     screen.Paste(u"a note"_s);
     screen.Click(u"cmdSaveAux_1"_s);
   }
-  program.Answers.Forget();
+  agree.reset();
   QCOMPARE(program.Tree.Exists(u"/AuxFiles/"_s + name + u"/AuxFile0/Data.txt"_s), safe);
-  QCOMPARE(around.Changes().join(u'\n'), QString());
+  QCOMPARE(fenced.Outside(), QString());
   QVERIFY(!program.Running().HasEnded());
 }
 
 void HostileNames::aPastedAccountStaysInTheTree() {
   QFETCH(QString, name);
-  Surroundings around;
-  ProgramFixture program;
+  Fenced fenced;
+  ProgramFixture& program = fenced.Program;
   OneDay::Stock(program.Tree);
-  QVERIFY(program.StartAtMenu());
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  QVERIFY(fenced.Start());
   const QByteArray before = program.Tree.Bytes(u"/CustomerData.txt"_s);
   OneDay::GoToCustomers();
   const ScreenDriver screen(u"frmNewCustomer"_s);
-  AnswerAll(program);
+  auto agree = std::make_unique<AnyAnswer>(program.Answers);
   screen.Trigger(u"mnuAdd"_s);
   PasteInto(screen, u"txtCustomer_0"_s, name);
   PasteInto(screen, u"txtCustomer_1"_s, u"Bell Farm"_s);
   PasteInto(screen, u"txtCustomer_6"_s, u"555-0123"_s);
   screen.Click(u"cmdNav_0"_s);
-  program.Answers.Forget();
+  agree.reset();
   QVERIFY(!program.Running().HasEnded());
   const QByteArray after = program.Tree.Bytes(u"/CustomerData.txt"_s);
   QVERIFY(after.startsWith(before) && after.size() % 328 == 0);
@@ -192,26 +196,25 @@ void HostileNames::aPastedAccountStaysInTheTree() {
   const QByteArray stored = after.mid(328, 20).trimmed();
   QVERIFY2(stored.isEmpty() || program.Tree.Exists(u"/AuxFiles/"_s + QString::fromLatin1(stored) + u"/AuxFile5"_s),
            stored.constData());
-  QCOMPARE(around.Changes().join(u'\n'), QString());
+  QCOMPARE(fenced.Outside(), QString());
 }
 
 void HostileNames::aDeletedAccountTakesNothingFromOutside() {
   QFETCH(QString, name);
   QFETCH(bool, safe);
-  Surroundings around;
-  ProgramFixture program;
+  Fenced fenced;
+  ProgramFixture& program = fenced.Program;
   Stock(program.Tree, name);
   const QByteArray other = CustomerOf(u"7"_s);
   program.Tree.Write(u"/CustomerData.txt"_s, CustomerOf(name) + other);
   if (safe) program.Tree.Write(u"/KVActiveAccounts/"_s + name + u".txt"_s, QByteArray(155, ' '));
   program.Tree.Write(u"/secret.txt"_s, "of the root");
-  QVERIFY(program.StartAtMenu());
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  QVERIFY(fenced.Start());
   OneDay::GoToCustomers();
-  AnswerAll(program);
+  auto agree = std::make_unique<AnyAnswer>(program.Answers);
   ScreenDriver(u"frmNewCustomer"_s).Trigger(u"mnuDelete"_s);
-  program.Answers.Forget();
-  QCOMPARE(around.Changes().join(u'\n'), QString());
+  agree.reset();
+  QCOMPARE(fenced.Outside(), QString());
   QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
   const QByteArray left = program.Tree.Bytes(u"/CustomerData.txt"_s);
   QVERIFY(left == other || left == CustomerOf(name) + other);
@@ -223,21 +226,20 @@ void HostileNames::aDeletedAccountTakesNothingFromOutside() {
 
 void HostileNames::aPastedInvoiceNumberStaysInTheTree() {
   QFETCH(QString, name);
-  Surroundings around;
-  ProgramFixture program;
+  Fenced fenced;
+  ProgramFixture& program = fenced.Program;
   OneDay::Stock(program.Tree);
-  QVERIFY(program.StartAtMenu());
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  QVERIFY(fenced.Start());
   OneDay::ComposeInvoice();
   const ScreenDriver invoice(u"frmInvoice"_s);
-  AnswerAll(program);
+  auto agree = std::make_unique<AnyAnswer>(program.Answers);
   invoice.Trigger(u"mnuSetup"_s);
   PasteInto(invoice, u"txtInvoiceNo"_s, name);
   invoice.Click(u"cmdInvoice_0"_s);
   invoice.Click(u"cmdSave"_s);
-  program.Answers.Forget();
+  agree.reset();
   QVERIFY(!program.Running().HasEnded());
-  QCOMPARE(around.Changes().join(u'\n'), QString());
+  QCOMPARE(fenced.Outside(), QString());
   // The box takes digits and a point alone: with nothing left of the name there is no invoice to be saved.
   for (const QString& file : program.Tree.List(u"/KarvexInvoicer/IncompleteInvoices"_s)) {
     QVERIFY2(QRegularExpression(u"^[0-9.]+\\.txt$"_s).match(file).hasMatch(), qPrintable(file));
@@ -248,19 +250,18 @@ void HostileNames::aPartialInvoiceOfAForeignNumberStaysInTheTree() {
   QFETCH(QString, name);
   QFETCH(bool, safe);
   for (const bool commits : {false, true}) {
-    Surroundings around;
-    ProgramFixture program;
+    Fenced fenced;
+    ProgramFixture& program = fenced.Program;
     OneDay::Stock(program.Tree);
     const QString file = u"/KarvexInvoicer/IncompleteInvoices/20260009.txt"_s;
     const QByteArray before = PartialOf(u"20260009"_s, name);
     program.Tree.Write(file, before);
     program.Tree.Write(u"/secret.txt"_s, "of the root");
-    QVERIFY(program.StartAtMenu());
-    around.Watch({program.Tree.Root(), program.LockFolder()});
+    QVERIFY(fenced.Start());
     const ScreenDriver menu(u"frmStartup"_s);
     menu.Click(u"optMainMenuSub_1"_s);
     menu.Click(u"cmdGoto"_s);
-    AnswerAll(program);
+    auto agree = std::make_unique<AnyAnswer>(program.Answers);
     ScreenDriver(u"frmIncomplete"_s).DoubleClickRow(u"fgIncomplete"_s, 1);
     const ScreenDriver invoice(u"frmInvoice"_s);
     invoice.Click(u"cmdInvoice_0"_s);
@@ -274,9 +275,9 @@ void HostileNames::aPartialInvoiceOfAForeignNumberStaysInTheTree() {
     } else {
       invoice.Click(u"cmdSave"_s);
     }
-    program.Answers.Forget();
+    agree.reset();
     QVERIFY(!program.Running().HasEnded());
-    QCOMPARE(around.Changes().join(u'\n'), QString());
+    QCOMPARE(fenced.Outside(), QString());
     QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
     // An unsafe number leaves the file alone; a safe one is saved, or committed, under its own name.
     const QString folder = commits ? u"/CompletedInvoices/"_s : u"/KarvexInvoicer/IncompleteInvoices/"_s;
@@ -291,27 +292,26 @@ void HostileNames::aPartialInvoiceOfAForeignNumberStaysInTheTree() {
 
 void HostileNames::aPartialInvoiceListedUnderAForeignNumberTakesNothingFromOutside() {
   QFETCH(QString, name);
-  Surroundings around;
-  ProgramFixture program;
+  Fenced fenced;
+  ProgramFixture& program = fenced.Program;
   OneDay::Stock(program.Tree);
   const QString file = u"/KarvexInvoicer/IncompleteInvoices/20260009.txt"_s;
   const QByteArray before = PartialOf(name, u"20260009"_s);
   program.Tree.Write(file, before);
   program.Tree.Write(u"/secret.txt"_s, "of the root");
-  QVERIFY(program.StartAtMenu());
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  QVERIFY(fenced.Start());
   const ScreenDriver menu(u"frmStartup"_s);
   menu.Click(u"optMainMenuSub_1"_s);
   menu.Click(u"cmdGoto"_s);
   const ScreenDriver partials(u"frmIncomplete"_s);
   // Its recall and its purge go by the listed number, and there is no such file.
   for (const QString& button : {u"Command1_1"_s, u"Command1_3"_s}) {
-    AnswerAll(program);
+    auto agree = std::make_unique<AnyAnswer>(program.Answers);
     partials.SelectRow(u"fgIncomplete"_s, 1);
     partials.Click(button);
-    program.Answers.Forget();
+    agree.reset();
     QVERIFY(!program.Running().HasEnded());
-    QCOMPARE(around.Changes().join(u'\n'), QString());
+    QCOMPARE(fenced.Outside(), QString());
     QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
     if (!ScreenDriver::IsShown(u"frmIncomplete"_s)) break;
   }
