@@ -124,3 +124,15 @@ QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts, const Pr
   DrawJob(job, writer, fonts, progress);
   return content.data();
 }
+
+void PrintJob(const PaperJob& job, QPrinter& device, bool portrait, PaperFonts& fonts, const Progress& progress) {
+  // What a printer was given goes out when its painter ends, and it knows no abort on these systems. So all pages are
+  // drawn for nobody first: there the user can stop, and on paper comes the whole job or nothing.
+  if (progress) PdfOf(job, portrait, fonts, PartOf(progress, 0, 2));
+  PrepareSheet(device, portrait);
+  DrawJob(job, device, fonts, [told = PartOf(progress, 1, 2)](qint64 done, qint64 total) mutable {
+    // After a stop that came too late the box is gone, and isn't told any more.
+    if (told && !told(done, total)) told = {};
+    return true;
+  });
+}

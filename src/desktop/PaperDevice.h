@@ -23,3 +23,7 @@ void DrawJob(const PaperJob& job, QPagedPaintDevice& device, PaperFonts& fonts, 
 
 /// The job as the content of a PDF file.
 QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts, const Progress& progress = {});
+
+/// Sends the job to a printer of the system. Told to stop while the pages are drawn for the first time, RuntimeError
+/// 32755, and the printer gets nothing; once they are sent, all of them come.
+void PrintJob(const PaperJob& job, QPrinter& device, bool portrait, PaperFonts& fonts, const Progress& progress);

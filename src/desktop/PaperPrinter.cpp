@@ -63,7 +63,7 @@ void PaperPrinter::KillDoc() {
 void PaperPrinter::SendJob(const PaperJob& job, const Progress& progress) {
   const bool fileChosen = std::exchange(m_fileChosen, false);
   if (!IsPdf()) {
-    SendToPrinter(job);
+    SendToPrinter(job, progress);
   } else if (fileChosen) {
     SendToPdf(job, QFileInfo(Device().outputFileName()).absoluteFilePath(), progress);
   } else {
@@ -99,11 +99,10 @@ void PaperPrinter::SendToPdf(const PaperJob& job, const QString& path, const Pro
   }
 }
 
-void PaperPrinter::SendToPrinter(const PaperJob& job) {
+void PaperPrinter::SendToPrinter(const PaperJob& job, const Progress& progress) {
   QPrinter& device = Device();
-  PrepareSheet(device, Orientation == 1);
   device.setDocName(u"Karvex Invoicer"_s);
-  DrawJob(job, device, Fonts());
+  PrintJob(job, device, Orientation == 1, Fonts(), progress);
   if (device.printerState() == QPrinter::Error || device.printerState() == QPrinter::Aborted)
     throw RuntimeError(ErrorNumber::PrinterError, device.printerName());
 }

@@ -33,7 +33,7 @@ class PaperPrinter final : public PaperSurface {
   /// A file of the documents folder that isn't there yet.
   QString NewPdfName() const;
   void SendToPdf(const PaperJob& job, const QString& path, const Progress& progress);
-  void SendToPrinter(const PaperJob& job);
+  void SendToPrinter(const PaperJob& job, const Progress& progress);
 
   FileStore& m_store;
   Dialogs& m_dialogs;

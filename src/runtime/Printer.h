@@ -48,8 +48,8 @@ class Printer {
   /// Scales a picture (the bytes of a picture file) into a rectangle; the cursor stays.
   virtual void PaintPicture(const QByteArray& picture, int x, int y, int width, int height) = 0;
   virtual void NewPage() = 0;  ///< Ends a page; font, weight and colour persist. The cursor goes to the top left.
-  /// Finishes the job and sends it. Throws RuntimeError 482 if that fails. A PDF tells `progress` each page that is
-  /// drawn; told to stop, it leaves no file, RuntimeError 32755. What goes to a printer of the system can't be stopped.
+  /// Finishes the job and sends it. Throws RuntimeError 482 if that fails. Tells `progress` each page that is drawn;
+  /// told to stop while that can still be done, it leaves no file and nothing on paper, RuntimeError 32755.
   virtual void EndDoc(const Progress& progress) = 0;
   void EndDoc() { EndDoc(Progress()); }
   virtual void KillDoc() = 0;  ///< Drops a begun job, so that the next starts afresh. Never throws.

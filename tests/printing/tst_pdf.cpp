@@ -25,6 +25,8 @@ class TestPdf : public QObject {
   void everyWordStandsWhereTheRecordingHasIt();
   void aPrinterOfTheSystemGetsTheSamePage();
   void aPictureThatCannotBeReadSendsNothingToThePrinter();
+  void aPrinterOfTheSystemTellsItsPagesAndAStopSendsNothing();
+  void onceItsPagesAreSentAPrinterOfTheSystemGetsThemAll();
   void rulesAreSixTwipsWideAndBlack();
   void colorsAreOnPaperEvenInMonochromeMode();
   void theLogoFillsItsPlace();
@@ -235,6 +237,50 @@ void TestPdf::aPictureThatCannotBeReadSendsNothingToThePrinter() {
   QVERIFY(!folder.Exists(u"/printer.pdf"_s));
   print({{good, good}});
   QVERIFY(folder.Size(u"/printer.pdf"_s) > 0);
+}
+
+namespace {
+/// A job of three pages for a printer of the system, which writes into a file here.
+struct ThreePages {
+  void Print(const Progress& progress) {
+    const PaperPage page{PaperText{1000, 1000, u"Text"_s, {u"Arial"_s}, 0}};
+    QPrinter device(QPrinter::HighResolution);
+    device.setOutputFileName(Folder.Path(u"/printer.pdf"_s));
+    PrintJob({{page, page, page}}, device, true, Fonts, progress);
+  }
+  bool Has(const QByteArray& pages) const {
+    return Run(u"pdfinfo"_s, {Folder.Path(u"/printer.pdf"_s)}).contains("Pages:           " + pages + "\n");
+  }
+  TemporaryTree Folder;
+  PaperFonts Fonts;
+};
+}  // namespace
+
+void TestPdf::aPrinterOfTheSystemTellsItsPagesAndAStopSendsNothing() {
+  ThreePages job;
+  for (qint64 page = 1; page <= 3; ++page) {
+    QCOMPARE(ErrorOf([&] { job.Print([page](qint64 done, qint64) { return done < page; }); }), 32755);
+    QVERIFY(!job.Folder.Exists(u"/printer.pdf"_s));
+  }
+  QList<qint64> told;
+  job.Print([&](qint64 done, qint64 total) {
+    told << done << total;
+    return true;
+  });
+  QCOMPARE(told, (QList<qint64>{1, 6, 2, 6, 3, 6, 4, 6, 5, 6, 6, 6}));
+  QVERIFY(job.Has("3"));
+}
+
+void TestPdf::onceItsPagesAreSentAPrinterOfTheSystemGetsThemAll() {
+  ThreePages job;
+  qint64 last = 0;
+  job.Print([&](qint64 done, qint64) {
+    last = done;
+    return done < 4;
+  });
+  // The stop is taken, and nothing shows any more that it was asked for: the box is gone.
+  QCOMPARE(last, 4);
+  QVERIFY(job.Has("3"));
 }
 
 void TestPdf::rulesAreSixTwipsWideAndBlack() {
