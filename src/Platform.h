@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "runtime/Progress.h"
+
 class Clock;
 class Dialogs;
 class FileDevice;
@@ -21,7 +23,7 @@ struct Platform {
   Dialogs* Boxes = nullptr;
   Printer* Paper = nullptr;
   SerialPort* Modem = nullptr;
-  int Patience = 500;  ///< Milliseconds that work may last before a screen shows its progress.
+  LongWork Patience;
 };
 
 /// A platform on one folder, under the program's own name and version: what tests, benchmarks and the demonstration run

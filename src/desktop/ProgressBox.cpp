@@ -13,8 +13,9 @@ constexpr int Pause = 40;
 
 }  // namespace
 
-ProgressBox::ProgressBox(QString text, int patience, Since since) : m_text(std::move(text)), m_patience(patience) {
-  if (since == Since::Now) m_sinceStart.start();
+ProgressBox::ProgressBox(QString text, LongWork patience, Since since)
+    : m_text(std::move(text)), m_patience(std::move(patience)) {
+  if (since == Since::Now) m_start = m_patience.Now();
 }
 
 ProgressBox::~ProgressBox() = default;
@@ -24,9 +25,9 @@ Progress ProgressBox::Teller() {
 }
 
 bool ProgressBox::Tell(qint64 done, qint64 total) {
-  if (!m_sinceStart.isValid()) m_sinceStart.start();
+  if (!m_start) m_start = m_patience.Now();
   if (!m_dialog) {
-    if (m_sinceStart.elapsed() < m_patience) return true;
+    if (m_patience.Now() - *m_start < m_patience.After) return true;
     ComeUp();
     if (m_dialog->wasCanceled()) return false;
   } else if (m_sinceLast.elapsed() < Pause) {

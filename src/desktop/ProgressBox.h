@@ -14,13 +14,11 @@ class QProgressDialog;
 /// A local variable around the work, which is told `Teller`.
 class ProgressBox {
  public:
-  static constexpr int Patience = 500;  ///< Milliseconds.
-
   /// From when the work counts: from here on, or from its first step, where a dialog comes before it.
   enum class Since { Now, FirstStep };
 
-  /// Comes up once the work has taken `patience` milliseconds.
-  explicit ProgressBox(QString text, int patience = Patience, Since since = Since::Now);
+  /// Comes up once the work is long.
+  ProgressBox(QString text, LongWork patience, Since since = Since::Now);
   ~ProgressBox();
   ProgressBox(const ProgressBox&) = delete;
   ProgressBox& operator=(const ProgressBox&) = delete;
@@ -33,8 +31,8 @@ class ProgressBox {
   void ComeUp();
 
   QString m_text;
-  int m_patience;
-  QElapsedTimer m_sinceStart;
+  LongWork m_patience;
+  std::optional<qint64> m_start;
   QElapsedTimer m_sinceLast;
   std::optional<DialogOwner> m_owner;  ///< Outlives the dialog.
   std::unique_ptr<QProgressDialog> m_dialog;

@@ -3,6 +3,7 @@
 
 #include "desktop/ControlArray.h"
 #include "desktop/Screen.h"
+#include "runtime/Progress.h"
 
 class Clock;
 class CommonDiskRoutines;
@@ -25,7 +26,7 @@ struct PartialDesk {
   const Clock& Today;
   Screens& Others;
   GridReport& Reports;
-  int Patience;  ///< Before work shows its progress, in milliseconds.
+  LongWork Patience;
 };
 
 class frmIncomplete final : public Screen {

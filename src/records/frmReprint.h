@@ -3,6 +3,7 @@
 
 #include "desktop/ControlArray.h"
 #include "desktop/Screen.h"
+#include "runtime/Progress.h"
 
 class Clock;
 class CommonDiskRoutines;
@@ -35,7 +36,7 @@ struct ReprintDesk {
   PrinterRoutines& Routines;
   KVPrint& Pages;
   GridReport& Reports;
-  int Patience;  ///< Before work shows its progress, in milliseconds.
+  LongWork Patience;
 };
 
 class frmReprint final : public Screen {

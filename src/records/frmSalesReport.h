@@ -4,6 +4,7 @@
 
 #include "desktop/ControlArray.h"
 #include "desktop/Screen.h"
+#include "runtime/Progress.h"
 
 class Clock;
 class CommonDiskRoutines;
@@ -35,7 +36,7 @@ struct SalesDesk {
   const Clock& Today;
   const BusinessProfile& Business;
   Screens& Others;
-  int Patience;  ///< Before work shows its progress, in milliseconds.
+  LongWork Patience;
 };
 
 class frmSalesReport final : public Screen {

@@ -58,6 +58,7 @@ class PartialReport : public QObject {
   void theSecondSheetStartsHigherAndOverprintsItsHeadings();
   void manySheetsHoldEveryRowOnce();
   void aStopEndsItSilently();
+  void theTimeInThePrinterDialogIsNoWork();
 };
 
 void PartialReport::oneSheetHasTitleSenderDateHeadingsAndRows() {
@@ -128,6 +129,17 @@ void PartialReport::aStopEndsItSilently() {
   QVERIFY(desk.Program.Paper.Jobs.empty());
   QVERIFY(desk.Program.Answers.Boxes().isEmpty());
   desk.Program.Answers.Dialog([](QDialog&) {});
+  partials.Click(u"cmdReport"_s);
+  QCOMPARE(desk.Program.Paper.Jobs.size(), 1U);
+}
+
+void PartialReport::theTimeInThePrinterDialogIsNoWork() {
+  InvoicingDesk desk;
+  desk.Program.Tree.Write(u"/KarvexInvoicer/IncompleteInvoices/1.txt"_s, "1\r\n1001\r\nBay\r\n3/5/2026\r\n");
+  QVERIFY(desk.Program.StartAtMenu());
+  const ScreenDriver partials = desk.OpenPartials();
+  // A progress that came up behind it would be a dialog that nobody expected.
+  desk.Program.Paper.OnDialog = [&desk] { desk.Program.WorkTime += 60'000; };
   partials.Click(u"cmdReport"_s);
   QCOMPARE(desk.Program.Paper.Jobs.size(), 1U);
 }

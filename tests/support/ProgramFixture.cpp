@@ -18,7 +18,7 @@ Platform ProgramFixture::OnThisTree(SerialPort& modem) {
   Platform platform = PlatformOn(Tree.Root(), m_lockFolder.Root(), Files, Calendar, Dialogs, Paper, modem);
   platform.EXEName = EXEName;
   platform.Version = u"1.0.0"_s;
-  platform.Patience = Patience;
+  platform.Patience = {Patience, [this] { return WorkTime; }};
   return platform;
 }
 

@@ -51,7 +51,9 @@ class ProgramFixture {
   PortTable Ports;
   QueuedAnswers Answers;
   /// Of a program that is started after that: 0 shows each progress at once.
-  int Patience = 60000;
+  qint64 Patience = LongWork().After;
+  /// The time in which work counts as long, in milliseconds: it stands still but for what a test adds to it.
+  qint64 WorkTime = 0;
   QString EXEName = QStringLiteral("KarvexInvoicer");
 
  private:
