@@ -10,26 +10,11 @@
 #include "invoice/SoldItemRecord.h"
 #include "records/SalesRange.h"
 #include "runtime/Dates.h"
-#include "runtime/Dialogs.h"
 #include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Nobody is asked or told anything.
-class Silent final : public Dialogs {
- public:
-  void ShowMessage(const QString&, const QString&) override {}
-  bool AskYesNo(const QString&, const QString&) override { return false; }
-  bool AskOkCancel(const QString&, const QString&) override { return false; }
-  QString AskText(const QString&, const QString&) override { return {}; }
-  void Beep() override {}
-  QString ChooseFile(const QString&, const QString&) override { return {}; }
-  quint32 ChooseColor(quint32 current) override { return current; }
-  QString ChooseFont(const QString& current) override { return current; }
-  void OpenPage(const QString&) override {}
-};
 
 class SoldYear {
  public:
@@ -52,7 +37,7 @@ class SoldYear {
     m_store.ReplaceWhole(File(), records);
   }
 
-  void Load() { LoadSalesGrid(m_sales, m_range, m_list, m_disk, m_silent); }
+  void Load() { LoadSalesGrid(m_sales, m_range, m_list, m_disk); }
 
   /// What has to be done at least: each record's date compared and its name looked up.
   void Pass() {
@@ -78,7 +63,6 @@ class SoldYear {
   FileDevice m_files;
   FileStore m_store;
   CommonDiskRoutines m_disk;
-  Silent m_silent;
   SalesItemsList m_list;
   SalesRange m_range;
   ItemSales m_sales;

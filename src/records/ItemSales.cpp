@@ -7,7 +7,6 @@
 #include "invoice/SoldItemRecord.h"
 #include "records/SalesRange.h"
 #include "runtime/Dates.h"
-#include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "shell/CommonDiskRoutines.h"
@@ -105,12 +104,9 @@ void ClearSalesGrids(ItemSales& sales) {
 }
 
 SalesFound LoadSalesGrid(ItemSales& sales, SalesRange& range, const SalesItemsList& list, CommonDiskRoutines& disk,
-                         Dialogs& dialogs, const Progress& progress) {
+                         const Progress& progress) {
   const QString fileName = u"\\SoldItems.txt"_s;
-  if (!disk.FileExists(fileName)) {
-    dialogs.ShowMessage(u"No Items Found"_s);
-    return SalesFound::NoFile;
-  }
+  if (!disk.FileExists(fileName)) return SalesFound::NoFile;
   ClearSalesGrids(sales);
   range.TakeFromPickers();
   const RecordBuffer records = disk.OpenRandomFile(fileName, SoldItemRecord::Length).ReadAll();

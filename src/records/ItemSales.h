@@ -5,7 +5,6 @@
 #include "runtime/TextMatrix.h"
 
 class CommonDiskRoutines;
-class Dialogs;
 struct SalesItemsList;
 struct SalesRange;
 
@@ -22,10 +21,10 @@ void ClearSalesGrids(ItemSales& sales);
 enum class SalesFound { NoFile, Nothing, Some, Stopped };
 
 /// Fills `fgSalesItems` with the records of the range whose name is ticked, in file order; a name that is ticked twice
-/// gives its records twice. Takes the range from the pickers. Without the file a message says so and the grids stay;
-/// stopped, they are blank. The file may hold any number of records.
+/// gives its records twice. Takes the range from the pickers. Without the file the grids stay; stopped, they are blank.
+/// The file may hold any number of records.
 SalesFound LoadSalesGrid(ItemSales& sales, SalesRange& range, const SalesItemsList& list, CommonDiskRoutines& disk,
-                         Dialogs& dialogs, const Progress& progress = {});
+                         const Progress& progress = {});
 
 /// Fills `fgTotals` with the units of each ticked product that stands in `fgSalesItems`, in list order. A total is a
 /// 16-bit number at each step: beyond that, RuntimeError 6 that names the product. False where it was stopped; both

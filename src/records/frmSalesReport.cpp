@@ -122,9 +122,10 @@ void frmSalesReport::LastMonth() {
 
 bool frmSalesReport::LoadGrid() {
   if (!AnyTicked(m_desk.Items)) return true;
-  ProgressBox progress(u"Looking through what was sold ..."_s, m_desk.Patience);
-  const SalesFound found =
-      LoadSalesGrid(m_desk.Sales, m_desk.Range, m_desk.Items, m_desk.Disk, m_desk.Boxes, progress.Teller());
+  // The time that the user takes for the message isn't counted.
+  ProgressBox progress(u"Looking through what was sold ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
+  const SalesFound found = LoadSalesGrid(m_desk.Sales, m_desk.Range, m_desk.Items, m_desk.Disk, progress.Teller());
+  if (found == SalesFound::NoFile) m_desk.Boxes.ShowMessage(u"No Items Found"_s);
   if (found == SalesFound::Some) m_cmdSales[4]->setEnabled(true);
   m_ui->fgSalesItems->SetTopRow(1);
   const bool whole = found != SalesFound::Stopped && BuildSalesTotals(m_desk.Sales, m_desk.Items, progress.Teller());

@@ -58,7 +58,7 @@ void ReportSales(ReaderDesk& desk) {
   ItemSales sales;
   SalesRange range = AllTimes();
   const SalesItemsList list = Ticked();
-  LoadSalesGrid(sales, range, list, desk.Disk(), desk.Boxes());
+  LoadSalesGrid(sales, range, list, desk.Disk());
   try {
     BuildSalesTotals(sales, list);
   } catch (const RuntimeError& error) {
