@@ -8,28 +8,14 @@
 #include "invoice/Commit.h"
 #include "invoice/WorkingInvoice.h"
 #include "runtime/Clock.h"
-#include "runtime/Dialogs.h"
 #include "setup/TaxConfiguration.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/DataTree.h"
+#include "tests/support/AgreeingDialogs.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A user who says Yes to everything.
-class Agreeing final : public Dialogs {
- public:
-  void ShowMessage(const QString&, const QString&) override {}
-  bool AskYesNo(const QString&, const QString&) override { return true; }
-  bool AskOkCancel(const QString&, const QString&) override { return true; }
-  QString AskText(const QString&, const QString&) override { return {}; }
-  void Beep() override {}
-  QString ChooseFile(const QString&, const QString&) override { return {}; }
-  quint32 ChooseColor(quint32 current) override { return current; }
-  QString ChooseFont(const QString& current) override { return current; }
-  void OpenPage(const QString&) override {}
-};
 
 void FillInvoice(WorkingInvoice& invoice) {
   invoice.InvoiceNo = 20260001;
@@ -93,7 +79,7 @@ class Business {
   FileStore m_store;
   CommonDiskRoutines m_disk;
   SystemClock m_clock;
-  Agreeing m_boxes;
+  AgreeingDialogs m_boxes;
   SalesItemsList m_salesItems;
   Counts m_atFirst{};
 };

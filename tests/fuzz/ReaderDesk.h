@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "fuzz/WatchedDevice.h"
-#include "runtime/Clock.h"
-#include "runtime/Dialogs.h"
 #include "shell/CommonDiskRoutines.h"
+#include "support/AgreeingDialogs.h"
+#include "support/FixedClock.h"
 
 class ReaderDesk;
 
@@ -24,25 +24,6 @@ struct ReaderTarget {
   int RecordLength = 0;     ///< 0 for a text.
   bool AlsoWrites = false;  ///< The load ends in a save of its own; any other reader leaves the tree alone.
   QString SecondFile{};     ///< Holds the same bytes; empty where there is none.
-};
-
-class FixedDay final : public Clock {
- public:
-  QDate Today() const override { return QDate(2026, 3, 7); }
-};
-
-/// A user who says yes to everything.
-class AgreeingDialogs final : public Dialogs {
- public:
-  void ShowMessage(const QString&, const QString&) override {}
-  bool AskYesNo(const QString&, const QString&) override { return true; }
-  bool AskOkCancel(const QString&, const QString&) override { return true; }
-  QString AskText(const QString&, const QString&) override { return {}; }
-  void Beep() override {}
-  QString ChooseFile(const QString&, const QString&) override { return {}; }
-  quint32 ChooseColor(quint32 current) override { return current; }
-  QString ChooseFont(const QString& current) override { return current; }
-  void OpenPage(const QString&) override {}
 };
 
 class ReaderDesk {
@@ -68,7 +49,7 @@ class ReaderDesk {
   FileStore m_store{m_device};
   std::unique_ptr<CommonDiskRoutines> m_disk;
   AgreeingDialogs m_dialogs;
-  FixedDay m_clock;
+  FixedClock m_clock;
   QByteArray m_target;
   int m_refused = 0;
 };
