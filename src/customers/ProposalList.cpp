@@ -70,7 +70,7 @@ bool LoadProposals(ProposalList& list, CommonDiskRoutines& disk) {
     try {
       LoadRow(list, row, file);
     } catch (const RuntimeError& error) {
-      throw RuntimeError(error.Number(), name, error.Text());
+      throw error.AsEvent(name);
     }
     disk.CloseAllFiles();
   }

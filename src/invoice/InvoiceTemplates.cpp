@@ -61,7 +61,7 @@ QString ProductText(const QString& quantity, const QString& price, const QString
   try {
     return CurrencyText(ParseLeadingNumber(quantity) * ToNumber(price));
   } catch (const RuntimeError& error) {
-    throw RuntimeError(error.Number(), subject, error.Text());
+    throw error.AsEvent(subject);
   }
 }
 

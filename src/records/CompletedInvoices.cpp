@@ -23,8 +23,7 @@ QStringList RowOf(CommonDiskRoutines& disk, const QString& name) {
     row.append(SortKeyOf(ParseShortDate(row[CompletedColumn::Date], name)));
     return row;
   } catch (const RuntimeError& error) {
-    // The user asked for the list just now: the other images are sound, and the program goes on.
-    throw RuntimeError(error.Number(), name, error.Text());
+    throw error.AsEvent(name);
   }
 }
 

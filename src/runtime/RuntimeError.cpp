@@ -60,3 +60,7 @@ RuntimeError RuntimeError::WithAdvice(const QString& advice) const {
 RuntimeError RuntimeError::AsFileContent(const QString& fileName) const {
   return RuntimeError(m_number, fileName, m_text, Origin::FileContent);
 }
+
+RuntimeError RuntimeError::AsEvent(const QString& fileName) const {
+  return RuntimeError(m_number, fileName, m_text, Origin::Event).WithAdvice(m_advice);
+}

@@ -46,6 +46,9 @@ class RuntimeError : public std::exception {
   const QString& Advice() const { return m_advice; }
   /// The same error, seen as damage of the named data file.
   RuntimeError AsFileContent(const QString& fileName) const;
+  /// The same error with its advice, of a file that the user asked for just then: the others are sound, so the program
+  /// goes on.
+  RuntimeError AsEvent(const QString& fileName) const;
 
   const char* what() const noexcept override { return m_what.constData(); }
 

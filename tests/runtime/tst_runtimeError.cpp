@@ -34,6 +34,19 @@ class RuntimeErrorTest : public QObject {
     QCOMPARE(damage.Text(), u"Words of its own."_s);
   }
 
+  void damageOfAFileThatTheUserAskedForEndsTheEvent() {
+    const RuntimeError damage =
+        RuntimeError(62, u"/Labor.txt"_s, u"Words of its own."_s, RuntimeError::Origin::FileContent)
+            .WithAdvice(u"Mend it."_s);
+    const RuntimeError error = damage.AsEvent(u"/Other.txt"_s);
+    QCOMPARE(error.From(), RuntimeError::Origin::Event);
+    QCOMPARE(error.Number(), 62);
+    QCOMPARE(error.Subject(), u"/Other.txt"_s);
+    QCOMPARE(error.Text(), u"Words of its own."_s);
+    QCOMPARE(error.Advice(), u"Mend it."_s);
+    QCOMPARE(error.what(), "error 62, /Other.txt: Words of its own.");
+  }
+
   void theWholeErrorCanBeRead() {
     QCOMPARE(RuntimeError(61, u"/Labor.txt"_s).what(), "error 61, /Labor.txt: The disk is full.");
     QCOMPARE(RuntimeError(13, u"%2 %1"_s, u"%1."_s).what(), "error 13, %2 %1: %1.");
