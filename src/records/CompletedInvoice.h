@@ -1,33 +1,17 @@
 /// One completed invoice as its image holds it, and as a page prints it once more.
 #pragma once
 
-#include <array>
-
+#include "invoice/ImageReader.h"
 #include "printing/InvoicePage.h"
 #include "runtime/TextMatrix.h"
 
 class CommonDiskRoutines;
 
-/// What an image holds beside its lines.
-struct CompletedTexts {
-  QString CreationDate;  ///< As the list shows it.
-  std::array<QString, 6> lblBillTo;
-  std::array<QString, 6> lblShipTo;
-  QString ShipVia;
-  QString ShipDate;
-  QString InvoiceNo;
-  QString AcctNo;
-  QString Reference;
-  QString txtAttn;
-  qint16 LineCount = 0;
-  /// Currency text, in the image's order: sub-total, first tax, second tax, grand total, shipping, handling, discount.
-  std::array<QString, 7> Amounts;
-};
-
-struct CompletedInvoice : CompletedTexts {
+struct CompletedInvoice : StoredInvoice {
   CompletedInvoice();
 
-  TextMatrix fgItems;  ///< Units, description, date, unit cost, extension.
+  QString CreationDate;  ///< As the list shows it.
+  TextMatrix fgItems;    ///< `Lines` as shown: units, description, date, unit cost, extension.
 };
 
 /// Reads the image of that number, after the restore, whole before anything is taken over. False where there is none.

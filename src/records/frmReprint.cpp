@@ -130,16 +130,16 @@ void frmReprint::ClickRow() {
 void frmReprint::ShowInvoice() {
   const CompletedInvoice& shown = m_desk.Shown;
   for (int i = 0; i < 6; ++i) {
-    ShowOnLabel(m_lblBillTo[i], shown.lblBillTo[static_cast<std::size_t>(i)]);
-    ShowOnLabel(m_lblShipTo[i], shown.lblShipTo[static_cast<std::size_t>(i)]);
+    ShowOnLabel(m_lblBillTo[i], shown.SoldTo[static_cast<std::size_t>(i)]);
+    ShowOnLabel(m_lblShipTo[i], shown.ShipTo[static_cast<std::size_t>(i)]);
   }
   ShowOnLabel(m_Label1[19], shown.CreationDate);
   ShowOnLabel(m_Label1[32], shown.ShipVia);
   ShowOnLabel(m_Label1[33], shown.ShipDate);
   ShowOnLabel(m_Label1[27], shown.InvoiceNo);
-  ShowOnLabel(m_Label1[17], shown.AcctNo);
+  ShowOnLabel(m_Label1[17], shown.Acct);
   ShowOnLabel(m_Label1[9], shown.Reference);
-  m_ui->txtAttn->setText(shown.txtAttn);
+  m_ui->txtAttn->setText(shown.Attention);
   m_ui->txtMemo->setPlainText(LoadedMemo(m_desk.Disk));
   // In the image's order.
   constexpr std::array<int, 7> elements{0, 1, 9, 2, 4, 5, 6};
