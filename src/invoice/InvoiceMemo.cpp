@@ -1,13 +1,11 @@
 #include "invoice/InvoiceMemo.h"
 
 #include "invoice/WorkingInvoice.h"
-#include "shell/CommonDiskRoutines.h"
+#include "printing/MemoFile.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString MemoFile = u"/InvoiceMemo.txt"_s;
 
 void SetMemoTick(WorkingInvoice& invoice, bool shows) {
   invoice.Controls.Visible.lblMemo = shows;
@@ -16,7 +14,7 @@ void SetMemoTick(WorkingInvoice& invoice, bool shows) {
 
 void SaveInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
   if (invoice.txtMemo.isEmpty()) return;
-  disk.ReplaceTextFile(MemoFile, QString(invoice.txtMemo).replace(u'\n', u"\r\n"_s));
+  SaveMemo(invoice.txtMemo, disk);
   SetMemoTick(invoice, true);
   invoice.Controls.Enabled.cmdInvoiceMemo_1 = true;
 }
@@ -24,12 +22,9 @@ void SaveInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
 }  // namespace
 
 void LoadInvoiceMemo(WorkingInvoice& invoice, CommonDiskRoutines& disk) {
-  const bool isThere = disk.FileExists(MemoFile);
-  QString memo;
-  if (isThere) {
-    ListReader file = disk.OpenInputFile(MemoFile);
-    while (!file.AtEnd()) memo += file.ReadString() + u'\n';
-  }
+  const auto lines = MemoLines(disk);
+  const bool isThere = lines.has_value();
+  const QString memo = MemoText(lines.value_or(QStringList()));
   invoice.DefaultMemo = memo;
   SetMemoTick(invoice, isThere);
   invoice.ckAddMemo = isThere;

@@ -1,5 +1,6 @@
 // The upper half of the page: the invoice heading, the memo, the column headings and the two addresses.
 #include "printing/KVPrint.h"
+#include "printing/MemoFile.h"
 #include "runtime/Clock.h"
 #include "runtime/Dates.h"
 #include "runtime/RuntimeError.h"
@@ -42,14 +43,13 @@ void KVPrint::PrintInvoiceHeading(const PageHeading& heading) {
 }
 
 void KVPrint::PrintMemo() {
-  if (m_disk.FileExists(u"/InvoiceMemo.txt"_s)) {
+  if (const auto memo = MemoLines(m_disk)) {
     m_printer.SetForeColor(FixedInk::Blue);
     m_routines.PrintAt(1.3F, 8.6F);
-    ListReader memo = m_disk.OpenInputFile(u"/InvoiceMemo.txt"_s);
-    while (!memo.AtEnd()) {
+    for (const QString& line : *memo) {
       // What doesn't fit is dropped, and the colour stays blue until the next is chosen: meant.
       if (m_printer.CurrentY > LastMemoY) return;
-      m_routines.PrintWrapped(1872, m_routines.WholeY(), 5904, memo.ReadString());
+      m_routines.PrintWrapped(1872, m_routines.WholeY(), 5904, line);
     }
     m_disk.CloseAllFiles();
   }

@@ -5,12 +5,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString MemoFile = u"/InvoiceMemo.txt"_s;
-
-}  // namespace
-
 CompletedInvoice::CompletedInvoice()
     : fgItems(
           u"^Units     |<Description                                              |^Date        |^Unit Cost     "
@@ -48,21 +42,4 @@ InvoicePage PageOf(const CompletedInvoice& invoice, bool usaAddress) {
   const auto& [subTotal, tax1, tax2, grandTotal, shipping, handling, discount] = invoice.Amounts;
   page.Totals = {subTotal, tax1, tax2, shipping, handling, grandTotal};
   return page;
-}
-
-QString LoadedMemo(CommonDiskRoutines& disk) {
-  QString memo;
-  if (!disk.FileExists(MemoFile)) return memo;
-  ListReader file = disk.OpenInputFile(MemoFile);
-  // Each field brings its line end, so that a memo that is loaded and saved again grows by a line; that is meant.
-  while (!file.AtEnd()) memo += file.ReadString() + u'\n';
-  return memo;
-}
-
-void SaveMemo(const QString& memo, CommonDiskRoutines& disk) {
-  if (!memo.isEmpty()) disk.ReplaceTextFile(MemoFile, QString(memo).replace(u'\n', u"\r\n"_s));
-}
-
-void KillMemo(CommonDiskRoutines& disk) {
-  disk.KillWithBackup(MemoFile);
 }

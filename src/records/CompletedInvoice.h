@@ -22,11 +22,3 @@ bool OpenCompletedInvoice(CompletedInvoice& invoice, CommonDiskRoutines& disk, c
 
 /// Every text of the page; the grid is referred to, so the invoice must outlive the page.
 InvoicePage PageOf(const CompletedInvoice& invoice, bool usaAddress);
-
-/// The memo that would print now, a line for each field of /InvoiceMemo.txt (a comma in it becomes a line break), each
-/// line ended; empty without a file.
-QString LoadedMemo(CommonDiskRoutines& disk);
-/// Makes the text the memo that prints, unless it is empty.
-void SaveMemo(const QString& memo, CommonDiskRoutines& disk);
-/// The memo's file, with its copy in /Backup.
-void KillMemo(CommonDiskRoutines& disk);

@@ -6,6 +6,7 @@
 #include "desktop/LabelText.h"
 #include "desktop/ProgressBox.h"
 #include "printing/KVPrint.h"
+#include "printing/MemoFile.h"
 #include "records/CompletedInvoice.h"
 #include "records/CompletedInvoices.h"
 #include "records/GridReport.h"
@@ -140,7 +141,7 @@ void frmReprint::ShowInvoice() {
   ShowOnLabel(m_Label1[17], shown.Acct);
   ShowOnLabel(m_Label1[9], shown.Reference);
   m_ui->txtAttn->setText(shown.Attention);
-  m_ui->txtMemo->setPlainText(LoadedMemo(m_desk.Disk));
+  m_ui->txtMemo->setPlainText(MemoText(MemoLines(m_desk.Disk).value_or(QStringList())));
   // In the image's order.
   constexpr std::array<int, 7> elements{0, 1, 9, 2, 4, 5, 6};
   for (std::size_t i = 0; i < elements.size(); ++i) ShowOnLabel(m_lblInvoice[elements[i]], shown.Amounts[i]);
