@@ -1,6 +1,7 @@
 // The item sales screen in the real program: its list, grids, messages and report.
 
 #include "catalogue/SalesItemsList.h"
+#include "desktop/GridView.h"
 #include "records/SalesScreen.h"
 
 using namespace Qt::StringLiterals;
@@ -30,6 +31,9 @@ class ScreenSales : public QObject {
   void aTotalBeyondSixteenBitsIsAnOverflow();
   void anErrorAtTheShowingIsToldAndTheScreenComesUp_data();
   void anErrorAtTheShowingIsToldAndTheScreenComesUp();
+  void anErrorOfALaterLoadLeavesTheReportsButtonLive();
+  void aFirstLoadWhoseTotalsFailCanBePrinted();
+  void aLoadShowsTheFirstOfManySales();
   void aBlankNameBeforeAnotherIsAnErrorOfTheTotals();
   void withoutTheFileItSaysSo();
   void withoutTheFileTheTotalsAreMadeAnewOfTheOldRows();
@@ -293,6 +297,52 @@ void ScreenSales::anErrorAtTheShowingIsToldAndTheScreenComesUp() {
   SalesScreen::Tick(1);
   SalesScreen::Click(u"cmdSales_3"_s);
   QCOMPARE(SalesScreen::Totals(), QStringList{});
+}
+
+void ScreenSales::anErrorOfALaterLoadLeavesTheReportsButtonLive() {
+  SalesScreen desk;
+  QVERIFY(desk.Open());
+  SalesScreen::Tick(0);
+  SalesScreen::Click(u"cmdSales_3"_s);
+  QVERIFY(SalesScreen::CanPrint());
+  desk.Program.Files.FailAlways(FailingDevice::Call::Read, EACCES);
+  desk.Program.Answers.Ok();
+  SalesScreen::Click(u"cmdSales_3"_s);
+  desk.Program.Files.Reset();
+  QVERIFY(desk.Program.Answers.Last().Text.contains(u"(error 70)"_s));
+  QCOMPARE(SalesScreen::Sales(), EmptySales);
+  QVERIFY(SalesScreen::CanPrint());
+}
+
+void ScreenSales::aFirstLoadWhoseTotalsFailCanBePrinted() {
+  SalesScreen desk;
+  desk.Program.Tree.Write(u"/SoldItems.txt"_s,
+                          Sold("Hammer", Day::Mar7, "1", 32767) + Sold("Hammer", Day::Mar7, "2", 1));
+  QVERIFY(desk.Open());
+  SalesScreen::Tick(0);
+  desk.Program.Answers.Ok();
+  SalesScreen::Click(u"cmdSales_3"_s);
+  QVERIFY(desk.Program.Answers.Last().Text.contains(u"(error 6)"_s));
+  // Sales that were found enable it; the totals come after that.
+  QVERIFY(SalesScreen::CanPrint());
+  SalesScreen::Click(u"cmdSales_4"_s);
+  QVERIFY(desk.Program.Paper.Words(1).contains(u"32767"_s));
+  QVERIFY(!SalesScreen::CanPrint());
+}
+
+void ScreenSales::aLoadShowsTheFirstOfManySales() {
+  SalesScreen desk;
+  desk.Program.Tree.Write(u"/SoldItems.txt"_s, Sold("Hammer", Day::Mar7, "1", 1).repeated(200));
+  QVERIFY(desk.Open());
+  SalesScreen::Tick(0);
+  SalesScreen::Click(u"cmdSales_3"_s);
+  auto* grid = SalesScreen::Driver().Control<GridView>(u"fgSalesItems"_s);
+  QCOMPARE(grid->TopRow(), 1);
+  // The current row is the last, which isn't in sight then; nor is it where the user had it in sight before.
+  grid->SetTopRow(150);
+  QVERIFY(grid->TopRow() > 100);
+  SalesScreen::Click(u"cmdSales_3"_s);
+  QCOMPARE(grid->TopRow(), 1);
 }
 
 void ScreenSales::aBlankNameBeforeAnotherIsAnErrorOfTheTotals() {
