@@ -152,12 +152,14 @@ QStringList FileStore::ListEverything(const QString& folder) const {
 }
 
 bool FileStore::AnyMatch(const QString& folder, const QString& wildcard) const {
-  bool any = false;
-  EachMatch(folder, wildcard, Unfinished::Skipped, StartOfFolder, [&](const QString&) {
-    any = true;
+  QString& known = m_knownMatches[folder + u'/' + wildcard];
+  if (!known.isEmpty() && IsFileAt(known)) return true;
+  known.clear();
+  EachMatch(folder, wildcard, Unfinished::Skipped, StartOfFolder, [&](const QString& name) {
+    known = folder + u'/' + name;
     return false;
   });
-  return any;
+  return !known.isEmpty();
 }
 
 QByteArray FileStore::ReadWhole(const QString& path) const {

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -33,7 +34,8 @@ class FileStore {
   QStringList List(const QString& folder, const QString& wildcard) const;
   /// The names of all files, with what the checked writer left where it was killed.
   QStringList ListEverything(const QString& folder) const;
-  /// Whether any file matches, without reading the rest of the folder.
+  /// Whether any file matches, without reading the rest of the folder. One that matched before and is still there
+  /// answers it alone: the more a folder holds, the longer its file system takes for even the first of its names.
   bool AnyMatch(const QString& folder, const QString& wildcard) const;
 
   /// Error 6 above `LargestWholeFile`.
@@ -63,4 +65,5 @@ class FileStore {
   void WriteTemporary(const QString& temporary, const QString& path, const QByteArray& content);
   FileDevice& m_device;
   QString m_tree;
+  mutable QHash<QString, QString> m_knownMatches;  ///< A path by folder and wildcard.
 };

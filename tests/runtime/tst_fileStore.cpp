@@ -149,6 +149,22 @@ class FileStoreTest : public QObject {
     QVERIFY(!m_store.AnyMatch(Path(u"/none"_s), u"*.txt"_s));
   }
 
+  void aMatchThatWentAnswersNoLonger() {
+    m_tree->Write(u"/a.txt"_s, "");
+    QVERIFY(m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+    QVERIFY(!m_store.AnyMatch(Path(u""_s), u"*.doc"_s));
+    m_tree->Remove(u"/a.txt"_s);
+    QVERIFY(!m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+    m_tree->Write(u"/b.txt"_s, "");
+    QVERIFY(m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+    m_tree->Write(u"/c.txt"_s, "");
+    m_tree->Remove(u"/b.txt"_s);
+    QVERIFY(m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+    m_tree->Remove(u"/c.txt"_s);
+    m_tree->MakeFolder(u"/c.txt"_s);
+    QVERIFY(!m_store.AnyMatch(Path(u""_s), u"*.txt"_s));
+  }
+
   void namesOutsideAsciiAreFoundAgain() {
     m_store.ReplaceWhole(Path(u"/M\u00fcller \u20ac.txt"_s), "x");
     QCOMPARE(m_store.List(Path(u""_s), u"*.txt"_s), QStringList{u"M\u00fcller \u20ac.txt"_s});
