@@ -54,7 +54,8 @@ class Dialer {
   void ShowNumber(const QString& number);
   void ShowRecipient(const QString& name, const QString& number);
   void ShowSlots();
-  void SaveSlot();
+  /// Slot, button and entry change once the file is written: a save that fails leaves all of it as it was.
+  void SaveSlot(QString name, QString number);
   void CloseSpeedDial();
   void DeleteSlot();
 

@@ -28,7 +28,7 @@ void Dialer::ChooseSlot(int slot) {
 void Dialer::RunSpeedDialer(int command) {
   switch (command) {
     case 0:
-      SaveSlot();
+      SaveSlot(m_view.Text(DialerText::txtDialer0), m_view.Text(DialerText::txtDialer1));
       break;
     case 1:
       CloseSpeedDial();
@@ -40,21 +40,21 @@ void Dialer::RunSpeedDialer(int command) {
       ShowRecipient(m_originalName, m_originalNumber);
       break;
     case 4:
-      m_view.SetText(DialerText::txtDialer0, m_name);
-      m_view.SetText(DialerText::txtDialer1, m_number);
-      SaveSlot();
+      SaveSlot(m_name, m_number);
       break;
     default:
       break;
   }
 }
 
-void Dialer::SaveSlot() {
-  // The boxes let no quote through, but "Load" sets them by itself, and a quote would end its field in the file.
-  m_speed.Names[m_slot] = m_view.Text(DialerText::txtDialer0).remove(u'"');
-  m_speed.Numbers[m_slot] = m_view.Text(DialerText::txtDialer1).remove(u'"');
+void Dialer::SaveSlot(QString name, QString number) {
+  SpeedNumbers with = m_speed;
+  // The boxes let no quote through, but a customer may have one, and it would end its field in the file.
+  with.Names[m_slot] = name.remove(u'"');
+  with.Numbers[m_slot] = number.remove(u'"');
+  SaveSpeedNumbers(m_desk.Disk, with);
+  m_speed = with;
   m_view.SetSlotCaption(static_cast<int>(m_slot), m_speed.Names[m_slot]);
-  SaveSpeedNumbers(m_desk.Disk, m_speed);
   CloseSpeedDial();
 }
 

@@ -31,6 +31,18 @@ struct Desk : PhoneDesk {
   QByteArray Bytes() const { return Program.Tree.Bytes(File); }
 };
 
+/// The file whole, the buttons and what they dial as they were.
+void ExpectAnnAndBob(Desk& desk) {
+  const ScreenDriver dialer = PhoneDesk::Dialer();
+  const QString box = desk.Program.Answers.Last().Text;
+  QVERIFY2(box.startsWith(u"/"_s) && box.contains(u"SpeedNumbers.txt"_s), qPrintable(box));
+  QVERIFY(!desk.Program.Running().HasEnded());
+  QCOMPARE(desk.Bytes(), AnnAndBob);
+  QCOMPARE(Captions(), (QStringList{u"Ann"_s, u"Bob"_s}));
+  dialer.Click(u"cmdDialer_0"_s);
+  QCOMPARE(Recipient(), u"Ann 555"_s);
+}
+
 }  // namespace
 
 class ScreenSpeedDial : public QObject {
@@ -57,6 +69,8 @@ class ScreenSpeedDial : public QObject {
   void elevenPairsNameTheFileAndChangeNothing();
   void aNameWithoutItsNumberTellsWhatToDo();
   void aFullDiskKeepsFileAndEntry();
+  void aFullDiskAtASaveLeavesTheScreenAsItWas();
+  void aFullDiskAtALoadLeavesTheScreenAsItWas();
 };
 
 void ScreenSpeedDial::theSlotsBearTheirNames() {
@@ -325,6 +339,38 @@ void ScreenSpeedDial::aFullDiskKeepsFileAndEntry() {
   QCOMPARE(desk.Bytes(), AnnAndBob);
   QCOMPARE(Captions(), (QStringList{u"Ann"_s, u"Bob"_s}));
   QVERIFY(!desk.Program.Running().HasEnded());
+}
+
+void ScreenSpeedDial::aFullDiskAtASaveLeavesTheScreenAsItWas() {
+  Desk desk(AnnAndBob);
+  const ScreenDriver dialer = desk.Open();
+  dialer.Click(u"cmdDialer_4"_s);
+  dialer.Fill(u"txtDialer_0"_s, u"Cy"_s);
+  dialer.Fill(u"txtDialer_1"_s, u"888"_s);
+  dialer.Click(u"cmdDialer_0"_s);  // The slot that the save would overwrite.
+  desk.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+  desk.Program.Answers.Ok();
+  dialer.Click(u"cmdSpeedDialer_0"_s);
+  ExpectAnnAndBob(desk);
+  // What was typed is still there: once there is room, it is saved by another click.
+  QVERIFY(dialer.IsVisible(u"fraSpeedDial"_s));
+  QCOMPARE(dialer.Text(u"txtDialer_0"_s), u"Cy"_s);
+  QCOMPARE(dialer.Text(u"txtDialer_1"_s), u"888"_s);
+  dialer.Click(u"cmdSpeedDialer_0"_s);
+  QCOMPARE(desk.Bytes(), "\"Cy\"\r\n\"888\"\r\n\"Bob\"\r\n\"777\"\r\n");
+}
+
+void ScreenSpeedDial::aFullDiskAtALoadLeavesTheScreenAsItWas() {
+  Desk desk(AnnAndBob);
+  const ScreenDriver dialer = desk.Open();
+  desk.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+  desk.Program.Answers.Ok();
+  dialer.Click(u"cmdSpeedDialer_4"_s);
+  ExpectAnnAndBob(desk);
+  // The next entry begins empty.
+  dialer.Click(u"cmdDialer_4"_s);
+  QCOMPARE(dialer.Text(u"txtDialer_0"_s), QString());
+  QCOMPARE(dialer.Text(u"txtDialer_1"_s), QString());
 }
 
 QTEST_MAIN(ScreenSpeedDial)
