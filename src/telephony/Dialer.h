@@ -37,7 +37,8 @@ class Dialer {
 
   /// `cmdNewDial`: dials, and comes back when the modem has answered or the wait was ended.
   void NewDial();
-  /// `cmdCancel`: seen by the wait alone. After it nothing comes of it, which is meant.
+  /// `cmdCancel`: seen by the wait alone, and after it nothing comes of it. On the screen nobody can click it before:
+  /// it is disabled while the wait stands, which is meant; `cmdHangup` and the close box end that.
   void Cancel() { m_cancelRequested = true; }
   /// `cmdHangup`: puts the line down and unloads the screen; at the end of the wait where one stands.
   void Hangup();
@@ -49,7 +50,7 @@ class Dialer {
   WaitEnd WaitForOk();
   void ResetDialer();
   void OpenPort();
-  void CancelDial();
+  void CancelDial();  ///< How a wait ends that `Cancel` was called in; the screen has no way to.
   void PutDown();
   void ShowNumber(const QString& number);
   void ShowRecipient(const QString& name, const QString& number);
