@@ -35,8 +35,6 @@ class CustomerEditor {
   /// Checks the boxes and writes the record; `SaveAccepted` tells of it. Throws RuntimeError 61, 70 or 75, with the
   /// record as it was and the boxes as typed.
   void SaveCustomer();
-  /// Throws RuntimeError 6 where the file is full.
-  void RequireRoom();
   /// Saves, then starts the record after the last one, and answers whether it did: not without an account number.
   /// Throws RuntimeError 6 before anything is done where the file is full.
   bool AddNewCustomer(const QString& telephone);
@@ -86,6 +84,8 @@ class CustomerEditor {
   QString Text(CustomerBox box) const { return m_view.Text(box); }
   void SetPointer(qint32 number) { m_customerPointer = qMax(1, number); }
   void CountStoredCustomers();
+  /// Throws RuntimeError 6 where the file is full.
+  void RequireRoom();
   bool SettleAccountNo();
   bool CheckNames();
   bool CheckFileName();
