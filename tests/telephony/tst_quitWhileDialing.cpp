@@ -17,7 +17,14 @@ int DialAndClose(const QString& device) {
   QTimer::singleShot(0, qApp, [&program] {
     program.Running().StartCall(u"Bay Farm"_s, u"555"_s);
     const ScreenDriver dialer(u"frmDialer"_s);
-    QTimer::singleShot(100, dialer.Window(), [dialer] { dialer.CloseByUser(); });
+    // In the first turn of the loop that finds it dialing: only the wait for the modem turns it by then.
+    auto* whenDialing = new QTimer(dialer.Window());
+    QObject::connect(whenDialing, &QTimer::timeout, dialer.Window(), [dialer, whenDialing] {
+      if (!dialer.Text(u"lblStatus"_s).startsWith(u"Dialing"_s)) return;
+      whenDialing->stop();
+      dialer.CloseByUser();
+    });
+    whenDialing->start(0);
     dialer.Click(u"cmdNewDial"_s);
   });
   return QApplication::exec();
