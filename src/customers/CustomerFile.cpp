@@ -185,7 +185,7 @@ std::optional<RuntimeError> CustomerFile::Remove(int number, int count, const QS
     }
   }
   // What fails leaves no second customer file behind.
-  const auto drop = [&] { m_disk.Store().Device().Remove(m_disk.PathOf(temporary)); };
+  const auto drop = [&] { m_disk.Store().Discard(m_disk.PathOf(temporary)); };
   try {
     m_disk.SaveFile(temporary, kept, BackupCopy::Kept);
   } catch (const RuntimeError&) {

@@ -22,7 +22,7 @@ void MakeCustomerFolders(CommonDiskRoutines& disk) {
   const RecordBuffer customers = file.ReadAll();
   QList<QByteArray> boxes;
   for (int box = 0; box < AuxBoxCount; ++box) boxes << '/' + FolderMaker::Encoded(AuxBoxFolderName(box));
-  FolderMaker folders(disk.Store().Device(), disk.PathOf(AuxFolder()));
+  FolderMaker folders(disk.Store(), disk.PathOf(AuxFolder()));
   for (int number = 1; number <= count; ++number) {
     const auto [offset, width] = CustomerField::AcctNo;
     const QString account = customers.Record(number).Text(offset, width);

@@ -65,7 +65,7 @@ bool PurgeSoldItems(const SalesRange& range, CommonDiskRoutines& disk) {
     disk.RenameDataFile(temporary, name);
   } catch (const RuntimeError&) {
     // What fails leaves no second file behind.
-    disk.Store().Device().Remove(disk.PathOf(temporary));
+    disk.Store().Discard(disk.PathOf(temporary));
     throw;
   }
   disk.CopyDataFile(name, u"/Backup/SoldItems.txt"_s);

@@ -234,7 +234,7 @@ void FileStore::ReplaceWhole(const QString& path, const QByteArray& content) {
     WriteTemporary(temporary, path, content);
     CheckFile(m_device.Rename(temporary, path), path);
   } catch (const RuntimeError&) {
-    m_device.Remove(temporary);
+    Discard(temporary);
     throw;
   }
   FlushFolderOf(m_device, path);
@@ -262,7 +262,7 @@ void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArra
   if (failed == 0) failed = closed;
   if (failed == 0) return;
   if (isNew) {
-    m_device.Remove(path);
+    Discard(path);
   } else if (taken > 0 && !PutBack(path, before, offset, lengthBefore)) {
     throw RuntimeError(ErrorNumber::DeviceError, path);
   }
@@ -294,6 +294,14 @@ void FileStore::Remove(const QString& path) {
   RequireInTree(path);
   const int result = m_device.Remove(path);
   if (result < 0 && result != -ENOENT && result != -ENOTDIR) RaiseFileError(result, path);
+}
+
+void FileStore::Discard(const QString& path) {
+  try {
+    Remove(path);
+  } catch (const RuntimeError&) {
+    // It stays.
+  }
 }
 
 void FileStore::MakeFolder(const QString& path) {

@@ -1,5 +1,5 @@
 /// The one reader and the one writer of the program. No other code opens, replaces, renames or deletes a file; folders
-/// are made here and, many under one parent, by `FolderMaker`.
+/// are made here and, many under one parent, by `FolderMaker`. Nobody else gets at the device from here.
 ///
 /// A file is never half written: what replaces a file is written beside it, checked to the last byte, flushed,
 /// renamed over the old one, and the folder is flushed. Every failure throws a RuntimeError that names the path:
@@ -24,7 +24,6 @@ class FileStore {
   /// `tree` is absolute, without a trailing separator; without one no folder is refused.
   explicit FileStore(FileDevice& device, QString tree = {}) : m_device(device), m_tree(std::move(tree)) {}
 
-  FileDevice& Device() const { return m_device; }
   bool IsFile(const QString& path) const;  ///< A file, of any length; a folder isn't one. Throws if it can't tell.
   bool IsFolder(const QString& path) const;
   qint64 Size(const QString& path) const;  ///< In bytes; error 53 if absent.
@@ -54,11 +53,16 @@ class FileStore {
   /// Copies through the checked writer, replacing the target.
   void Copy(const QString& from, const QString& to);
   void Rename(const QString& from, const QString& to);
-  void Remove(const QString& path);      ///< Nothing if absent.
+  void Remove(const QString& path);  ///< Nothing if absent.
+  /// Takes away what work that failed has left behind. Where even that fails the file stays, and nothing is thrown: the
+  /// failure before it is the one to tell.
+  void Discard(const QString& path);
   void MakeFolder(const QString& path);  ///< Nothing if it is there; the parent must exist (error 76).
   void MakePath(const QString& path);    ///< The folder and those that lead to it.
 
  private:
+  friend class FolderMaker;  // It works on the same device.
+
   /// Throws where a folder on the way from the tree to the path is a link.
   void RequireInTree(const QString& path) const;
   bool PutBack(const QString& path, const QByteArray& before, qint64 offset, qint64 lengthBefore);

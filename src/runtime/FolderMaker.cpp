@@ -8,9 +8,12 @@
 
 #include "runtime/FileDevice.h"
 #include "runtime/FileErrors.h"
+#include "runtime/FileStore.h"
 
-FolderMaker::FolderMaker(FileDevice& device, QString parent)
-    : m_device(device), m_parent(std::move(parent)), m_folder(m_device.Open(m_parent, FileDevice::OpenMode::Read)) {
+FolderMaker::FolderMaker(const FileStore& store, QString parent)
+    : m_device(store.m_device),
+      m_parent(std::move(parent)),
+      m_folder(m_device.Open(m_parent, FileDevice::OpenMode::Read)) {
   CheckFolder(m_folder, m_parent);
 }
 

@@ -5,11 +5,12 @@
 #include <QString>
 
 class FileDevice;
+class FileStore;
 
 class FolderMaker {
  public:
-  /// `parent` exists, else RuntimeError 76.
-  FolderMaker(FileDevice& device, QString parent);
+  /// On the store's disk. `parent` exists, else RuntimeError 76.
+  FolderMaker(const FileStore& store, QString parent);
   ~FolderMaker();
   Q_DISABLE_COPY_MOVE(FolderMaker)
 

@@ -49,7 +49,7 @@ void RandomFile::Put(qsizetype number, const QByteArray& record) {
     m_created = false;
   } catch (const RuntimeError&) {
     // An empty file would pass for one that was begun: a ledger without its opening record, a list without entries.
-    if (m_created) m_store.Device().Remove(m_path);
+    if (m_created) m_store.Discard(m_path);
     throw;
   }
 }

@@ -182,8 +182,28 @@ class FileStoreTest : public QObject {
     QCOMPARE(CaughtFrom([&] { m_store.MakeFolder(Path(u"/g"_s)); }).Number(), 70);
   }
 
+  void whatIsDiscardedGoesAndAFailureOfThatIsSilent() {
+    m_tree->Write(u"/left.txt"_s, "half");
+    m_device.FailAlways(Call::Remove, EROFS);
+    m_store.Discard(Path(u"/left.txt"_s));
+    QCOMPARE(m_tree->Bytes(u"/left.txt"_s), "half");
+    m_device.Reset();
+    m_store.Discard(Path(u"/left.txt"_s));
+    QVERIFY(!m_tree->Exists(u"/left.txt"_s));
+    m_store.Discard(Path(u"/left.txt"_s));
+    QCOMPARE(m_device.Count(Call::Remove), 2);
+  }
+
+  void nothingIsDiscardedThroughALinkedFolder() {
+    const TemporaryTree outside;
+    outside.Write(u"/a.txt"_s, "old");
+    QVERIFY(QFile::link(outside.Root(), Path(u"/link"_s)));
+    FileStore(m_device, m_tree->Root()).Discard(Path(u"/link/a.txt"_s));
+    QCOMPARE(outside.Bytes(u"/a.txt"_s), "old");
+  }
+
   void manyFoldersAreMadeUnderOneParent() {
-    FolderMaker maker(m_device, m_tree->Root());
+    FolderMaker maker(m_store, m_tree->Root());
     maker.Make("a");
     maker.Make("a/b");
     maker.Make("a/b");
@@ -196,13 +216,13 @@ class FileStoreTest : public QObject {
     const RuntimeError full = CaughtFrom([&] { maker.Make("d"); });
     QCOMPARE(full.Number(), 61);
     QCOMPARE(full.Subject(), Path(u"/d"_s));
-    QCOMPARE(ErrorOf([&] { const FolderMaker none(m_device, Path(u"/none"_s)); }), 76);
+    QCOMPARE(ErrorOf([&] { const FolderMaker none(m_store, Path(u"/none"_s)); }), 76);
   }
 
   void aLinkInAFoldersPlaceIsNotFollowedByTheMaker() {
     const TemporaryTree outside;
     QVERIFY(QFile::link(outside.Root(), Path(u"/a"_s)));
-    FolderMaker maker(m_device, m_tree->Root());
+    FolderMaker maker(m_store, m_tree->Root());
     const RuntimeError error = CaughtFrom([&] { maker.Make("a"); });
     QCOMPARE(error.Number(), 75);
     QCOMPARE(error.Subject(), Path(u"/a"_s));
