@@ -13,6 +13,8 @@ frmCustomerSelection::frmCustomerSelection(ScreenHost& host, Screens& screens, P
     : Screen(u"frmCustomerSelection"_s, host),
       m_screens(screens),
       m_proposals(proposals),
+      m_disk(disk),
+      m_boxes(boxes),
       m_ui(std::make_unique<Ui::frmCustomerSelection>()),
       m_cmdStartup(BuildForm(*m_ui), u"cmdStartup"_s),
       m_cmdCreation(this, u"cmdCreation"_s),
@@ -27,9 +29,6 @@ frmCustomerSelection::frmCustomerSelection(ScreenHost& host, Screens& screens, P
   };
   ConnectButtons();
   ShowProposals(false);
-  const bool any = LoadProposals(m_proposals, disk);
-  m_cmdStartup[1]->setEnabled(any);
-  if (!any) boxes.ShowMessage(u"No Proposals Exist"_s);
 }
 
 frmCustomerSelection::~frmCustomerSelection() = default;
@@ -59,6 +58,18 @@ void frmCustomerSelection::ConnectButtons() {
     SetFocusTo(m_cmdStartup[1]);
   });
   SetEnterButton(m_cmdCreation[1]);
+}
+
+bool frmCustomerSelection::MayShow() {
+  if (!m_loaded) Load();
+  return true;
+}
+
+void frmCustomerSelection::Load() {
+  const bool any = LoadProposals(m_proposals, m_disk);
+  m_cmdStartup[1]->setEnabled(any);
+  if (!any) m_boxes.ShowMessage(u"No Proposals Exist"_s);
+  m_loaded = true;
 }
 
 void frmCustomerSelection::Activate() {

@@ -17,15 +17,17 @@ class frmCustomerSelection;
 
 class frmCustomerSelection final : public Screen {
  public:
-  /// The load of the screen, which reads the proposals; they aren't read again until the screen was unloaded. What a
-  /// file of theirs throws comes out here, and there is no screen then.
   frmCustomerSelection(ScreenHost& host, Screens& screens, ProposalList& proposals, CommonDiskRoutines& disk,
                        Dialogs& boxes);
   ~frmCustomerSelection() override;
 
+  /// The first time it reads the proposals; they aren't read again until the screen was unloaded. What a file of
+  /// theirs throws comes out here: the screen stays away, and the next time reads them once more.
+  bool MayShow() override;
   void Activate() override;
 
  private:
+  void Load();
   void ConnectButtons();
   void ShowInstructions(bool choosing);
   void ShowProposals(bool shown);
@@ -35,6 +37,9 @@ class frmCustomerSelection final : public Screen {
 
   Screens& m_screens;
   ProposalList& m_proposals;
+  CommonDiskRoutines& m_disk;
+  Dialogs& m_boxes;
+  bool m_loaded = false;
   std::unique_ptr<Ui::frmCustomerSelection> m_ui;
   ControlArray<QPushButton, 2> m_cmdStartup;
   ControlArray<QPushButton, 3> m_cmdCreation;

@@ -5,6 +5,7 @@
 #include "customers/ProposalFiles.h"
 #include "customers/ProposalList.h"
 #include "support/DataFolder.h"
+#include "support/ErrorOf.h"
 #include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -93,7 +94,7 @@ class NotedProgram final : public Screens, public ScreenHost {
     QDir(Folder.Path({})).mkdir(u"KarvexProposals"_s);
     Folder.Put(u"/KarvexProposals/a.txt"_s, MarkedProposal());
     Selection = std::make_unique<frmCustomerSelection>(*this, *this, Proposals, Folder.Disk, Boxes);
-    Selection->Activate();
+    if (Selection->MayShow()) Selection->Activate();
     Selection->show();
     ScreenDriver::ProcessEvents();
   }
@@ -347,6 +348,26 @@ class CustomerSelection : public QObject {
     QVERIFY(!Selection().IsEnabled(u"cmdStartup_1"_s));
     QCOMPARE(State(), u"choosing"_s);
     QVERIFY(!Selection().IsVisible(u"fraProposals"_s));
+  }
+
+  void makingTheScreenReadsNothingAndShowsNoBox() {
+    QueuedAnswers noBox;
+    DataFolder folder;
+    QDir(folder.Path({})).mkdir(u"KarvexProposals"_s);
+    TestDialogs boxes;
+    ProposalList proposals;
+    NotedProgram host;
+    frmCustomerSelection none(host, host, proposals, folder.Disk, boxes);
+    folder.Put(u"/KarvexProposals/a.txt"_s, "not a proposal");
+    frmCustomerSelection damaged(host, host, proposals, folder.Disk, boxes);
+    QCOMPARE(folder.Device.Count(FailingDevice::Call::Read), 0);
+    QCOMPARE(proposals.Count(), 0);
+    // What it would have met is met once it is to be shown, and as often as it is.
+    QCOMPARE(ErrorOf([&] { damaged.MayShow(); }), 62);
+    QCOMPARE(ErrorOf([&] { damaged.MayShow(); }), 62);
+    folder.Put(u"/KarvexProposals/a.txt"_s, MarkedProposal());
+    QVERIFY(damaged.MayShow());
+    QCOMPARE(proposals.Count(), 1);
   }
 
   void aFileThatIsNoProposalIsNamedAndTheMenuStays_data() {
