@@ -48,10 +48,7 @@ void frmServices::ConnectLabor() {
   constexpr std::array names{Box::txtLabor0, Box::txtLabor1, Box::txtLabor2};
   constexpr std::array rates{Box::txtLaborRate0, Box::txtLaborRate1, Box::txtLaborRate2};
   for (std::size_t slot = 0; slot < names.size(); ++slot) {
-    // The file has its texts between double quotes.
-    FilterKeys(
-        Line(names[slot]), [this](int key) { return VerifyQuoteKey(key, m_dialogs); },
-        [](int key) { return key == '"' ? 0 : key; });
+    FilterKeys(Line(names[slot]), QuoteFilters(m_dialogs));
     On(Line(names[slot]), &QLineEdit::textChanged,
        [this, slot](const QString& text) { m_catalogue.Labor.txtLabor.at(slot) = text; });
     On(Line(rates[slot]), &QLineEdit::textChanged,

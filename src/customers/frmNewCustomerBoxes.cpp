@@ -11,8 +11,6 @@ namespace {
 /// How many characters can be typed into each element of `txtCustomer`. A longer text from the file is kept.
 constexpr std::array<int, 12> TypingLimits{20, 30, 35, 25, 2, 10, 12, 30, 15, 1, 25, 12};
 
-constexpr int Quote = 34;
-
 }  // namespace
 
 void frmNewCustomer::ConnectBoxes() {
@@ -28,19 +26,17 @@ void frmNewCustomer::ConnectBoxes() {
 }
 
 void frmNewCustomer::ConnectKeys() {
-  const auto refuseQuote = [this](int key) { return VerifyQuoteKey(key, m_dialogs); };
-  const auto dropQuote = [](int key) { return key == Quote ? 0 : key; };
+  const KeyFilters quotes = QuoteFilters(m_dialogs);
   for (int i = 0; i < m_txtCustomer.Size(); ++i) {
     SetTypingLimit(m_txtCustomer[i], TypingLimits.at(static_cast<std::size_t>(i)));
-    FilterKeys(m_txtCustomer[i], refuseQuote, dropQuote);
+    FilterKeys(m_txtCustomer[i], quotes);
   }
   for (const int i : {0, 6}) {
     QLineEdit* box = m_txtCustomer[i];
     FilterKeys(
-        box, [this, box](int key) { return VerifyFileNameKey(VerifyQuoteKey(key, m_dialogs), box->text(), m_dialogs); },
-        [box](int key) {
-          const bool refused = key == Quote || (IsRefusedInFileNames(key) && !IsNumeric(box->text()));
-          return refused ? 0 : key;
+        box, [this, box, quotes](int key) { return VerifyFileNameKey(quotes.Typed(key), box->text(), m_dialogs); },
+        [box, quotes](int key) {
+          return IsRefusedInFileNames(key) && !IsNumeric(box->text()) ? 0 : quotes.Pasted(key);
         });
   }
   // These texts reach the same files; what can be typed is what a record holds.
@@ -48,7 +44,7 @@ void frmNewCustomer::ConnectKeys() {
       {m_ui->cboCity, 25}, {m_ui->cboStates, 2}, {m_ui->cboTitle, 10}, {m_ui->txtAdd3, 25}, {m_ui->txtAdd4, 25}};
   for (const auto& [box, limit] : others) {
     SetTypingLimit(box, limit);
-    FilterKeys(box, refuseQuote, dropQuote);
+    FilterKeys(box, quotes);
   }
 }
 

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include "desktop/WindowPlacement.h"
+#include "runtime/KeyFilters.h"
 #include "runtime/RuntimeError.h"
 
 class QAbstractButton;
@@ -101,6 +102,7 @@ class Screen : public QMainWindow {
   /// character by character; give one without messages where the key filter shows any.
   using KeyFilter = std::function<int(int key)>;
   void FilterKeys(QWidget* box, KeyFilter filter, KeyFilter pasteFilter = {});
+  void FilterKeys(QWidget* box, const KeyFilters& filters) { FilterKeys(box, filters.Typed, filters.Pasted); }
   /// Cuts what is typed or pasted at `characters`, never a text set from code.
   void SetTypingLimit(QWidget* box, int characters);
 

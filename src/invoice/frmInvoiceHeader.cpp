@@ -19,11 +19,7 @@ void frmInvoice::WireHeader() {
   Click(ui->cmdResetDate, [this] { ResetServiceDate(m_invoice); });
   Leave(ui->txtReference, [this] { FillReference(m_invoice, m_desk.Today); });
   const ControlArray<QLineEdit, 7> txtShipto(this, u"txtShipto"_s);
-  for (int i = 0; i < txtShipto.Size(); ++i) {
-    FilterKeys(
-        txtShipto[i], [this](int key) { return VerifyQuoteKey(key, m_desk.Boxes); },
-        [](int key) { return key == '"' ? 0 : key; });
-  }
+  for (int i = 0; i < txtShipto.Size(); ++i) FilterKeys(txtShipto[i], QuoteFilters(m_desk.Boxes));
   Click(ui->cmdShipToAddress_0, [this] { CopySoldToIntoShipTo(m_invoice); });
   Click(ui->cmdShipToAddress_1, [this] { ClearShipTo(m_invoice); });
 }

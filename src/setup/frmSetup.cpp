@@ -151,11 +151,8 @@ void frmSetup::SaveAndReturn() {
   m_screens.Show(RequiredFilesPresent(m_context.Disk) ? ScreenName::frmStartup : ScreenName::frmSplash);
 }
 
-/// What feeds a line text file can't hold a double quote: the format has no way to write one.
 void frmSetup::RefuseQuotes(QWidget* box) {
-  FilterKeys(
-      box, [this](int key) { return VerifyQuoteKey(key, m_context.Boxes); },
-      [](int key) { return key == u'"' ? 0 : key; });
+  FilterKeys(box, QuoteFilters(m_context.Boxes));
 }
 
 void frmSetup::WriteBack(QCheckBox* box, bool& value) {

@@ -49,6 +49,10 @@ int VerifyQuoteKey(int key, Dialogs& dialogs) {
   return key == '"' ? Refuse(key, dialogs) : key;
 }
 
+KeyFilters QuoteFilters(Dialogs& dialogs) {
+  return {[&dialogs](int key) { return VerifyQuoteKey(key, dialogs); }, [](int key) { return key == '"' ? 0 : key; }};
+}
+
 bool VerifyCurrencyBox(QString& boxText, Dialogs& dialogs) {
   if (const std::optional<QString> amount = CurrencyTextOf(boxText)) {
     boxText = *amount;

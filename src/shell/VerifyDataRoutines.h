@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include "runtime/KeyFilters.h"
+
 class Dialogs;
 
 /// Digits and one point; no leading zero in an empty box; Backspace (8) is swallowed, which is meant.
@@ -14,6 +16,9 @@ int VerifyDigitKey(int key);
 int VerifyFileNameKey(int key, const QString& boxText, Dialogs& dialogs);
 /// Text that is stored in a line text file: refuses the double quote with a message.
 int VerifyQuoteKey(int key, Dialogs& dialogs);
+/// Both filters of such a box: typed by `VerifyQuoteKey`, and dropped from what is pasted. The format of those files
+/// has no way to write a double quote.
+KeyFilters QuoteFilters(Dialogs& dialogs);
 /// The codes that `VerifyFileNameKey` refuses in a box that holds no number; used for pasted text, without message.
 bool IsRefusedInFileNames(int key);
 

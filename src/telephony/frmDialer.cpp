@@ -48,11 +48,7 @@ void frmDialer::ConnectSpeedDial() {
   for (int i = 0; i < m_cmdSpeedDialer.Size(); ++i) {
     OnClick(m_cmdSpeedDialer[i], [this, i] { m_dialer.RunSpeedDialer(i); });
   }
-  // The file that they go to has no way to write a double quote.
-  for (QLineEdit* box : {m_ui->txtDialer_0, m_ui->txtDialer_1}) {
-    FilterKeys(
-        box, [this](int key) { return VerifyQuoteKey(key, m_boxes); }, [](int key) { return key == u'"' ? 0 : key; });
-  }
+  for (QLineEdit* box : {m_ui->txtDialer_0, m_ui->txtDialer_1}) FilterKeys(box, QuoteFilters(m_boxes));
 }
 
 void frmDialer::Activate() {

@@ -114,6 +114,16 @@ class VerifyDataTest : public QObject {
     QCOMPARE(dialogs.noted.size(), 2);
   }
 
+  void aBoxWithoutQuotesRefusesATypedOneAndDropsAPastedOne() {
+    NotedDialogs dialogs;
+    const KeyFilters filters = QuoteFilters(dialogs);
+    for (const auto& filter : {filters.Typed, filters.Pasted}) QCOMPARE(filter('a'), int{'a'});
+    QCOMPARE(filters.Pasted('"'), 0);
+    QVERIFY(dialogs.noted.isEmpty());
+    QCOMPARE(filters.Typed('"'), 0);
+    QCOMPARE(dialogs.noted.last(), u"This character, (\") is invalid for this field | Invalid Key entry"_s);
+  }
+
   void aCurrencyBoxTakesItsForm_data() {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
