@@ -23,10 +23,7 @@ frmServices::frmServices(ScreenHost& host, Screens& screens, Catalogue& catalogu
   for (const CatalogueList list : AllCatalogueLists) {
     View(list)->SetMatrix(&m_catalogue.Grid(list));
     View(list)->Click = [this, list] { m_editor.ClickRow(list); };
-    // Enter and the space bar click the row that the arrow keys reached.
-    View(list)->KeyPress = [this, list](int key) {
-      if (key == 13 || key == ' ') m_editor.ClickRow(list);
-    };
+    View(list)->ClickByKeys();
   }
   ShowCatalogue();
   ListenToCatalogue();

@@ -23,10 +23,7 @@ frmCustomerSelection::frmCustomerSelection(ScreenHost& host, Screens& screens, P
   GridView* grid = m_ui->fgProposals;
   grid->SetMatrix(&m_proposals.fgProposals);
   grid->Click = [this] { ClickProposal(); };
-  // Enter and the space bar click the row that the arrow keys reached.
-  grid->KeyPress = [this](int key) {
-    if (key == 13 || key == ' ') ClickProposal();
-  };
+  grid->ClickByKeys();
   ConnectButtons();
   ShowProposals(false);
 }

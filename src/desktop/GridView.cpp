@@ -101,6 +101,13 @@ void GridView::SetTopRow(int row) {
   verticalScrollBar()->setValue(row - 1);
 }
 
+void GridView::ClickByKeys() {
+  KeyPress = [this](int key) {
+    constexpr int enter = 13;
+    if (Click && (key == enter || key == ' ')) Click();
+  };
+}
+
 void GridView::ShowRow() {
   if (m_matrix == nullptr) {
     return;

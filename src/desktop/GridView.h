@@ -20,6 +20,8 @@ class GridView : public QTableView {
   int TopRow() const;
   /// Bounded by the first row and by the last one that can stand on top.
   void SetTopRow(int row);
+  /// Enter and the space bar click the row that the arrow keys reached. Takes the place of a `KeyPress`.
+  void ClickByKeys();
 
   // Errors of these go to the screen's guard.
   std::function<void()> Click;  ///< Left click on a cell; the matrix's row and column are set.

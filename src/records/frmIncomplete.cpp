@@ -20,10 +20,7 @@ frmIncomplete::frmIncomplete(ScreenHost& host, const PartialDesk& desk)
   grid->SetMatrix(&m_desk.Partials.fgIncomplete);
   grid->Click = [this] { ClickRow(); };
   grid->DoubleClick = [this] { AddToSelected(); };
-  // Enter and the space bar click the row that the arrow keys reached.
-  grid->KeyPress = [this](int key) {
-    if (key == 13 || key == ' ') ClickRow();
-  };
+  grid->ClickByKeys();
   OnClick(
       m_Command1[0], [this] { ReturnToMenu(); }, WhenLeaveRefused::Always);
   OnClick(m_Command1[1], [this] { AddToSelected(); });

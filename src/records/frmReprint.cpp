@@ -49,10 +49,7 @@ frmReprint::frmReprint(ScreenHost& host, const ReprintDesk& desk)
   grid->SetMatrix(&m_desk.Completed.fgReceivables);
   grid->setColumnHidden(CompletedColumn::Sort, true);
   grid->Click = [this] { ClickRow(); };
-  // Enter and the space bar click the row that the arrow keys reached.
-  grid->KeyPress = [this](int key) {
-    if (key == 13 || key == ' ') ClickRow();
-  };
+  grid->ClickByKeys();
   m_ui->fgItems->SetMatrix(&m_desk.Shown.fgItems);
   m_ui->DTPicker1->Change = [this] { ChangeDate(); };
   On(m_ui->mnuSort, &QAction::triggered, [this] { mnuSort(); });

@@ -46,6 +46,20 @@ class GridViews : public QObject {
     QCOMPARE(bench.log.last(), u"click 3 0"_s);
   }
 
+  void theKeysClickTheRowTheyReachedWhereTheyAreMeantTo() {
+    Bench bench;
+    bench.grid->ClickByKeys();
+    bench.driver->SelectRow(u"grid"_s, 1);
+    bench.log.clear();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+      bench.driver->PressKey(Qt::Key_Down);
+      bench.driver->PressKey(key);
+      bench.driver->PressKey(Qt::Key_A);
+    }
+    bench.log.removeIf([](const QString& entry) { return entry.startsWith(u"up"_s); });
+    QCOMPARE(bench.log, (QStringList{u"click 2 0"_s, u"click 3 0"_s, u"click 4 0"_s}));
+  }
+
   void aDoubleClickIsAClickFirst() {
     Bench bench;
     bench.driver->DoubleClickRow(u"grid"_s, 2);
