@@ -49,7 +49,7 @@ void MeasureCriteria(const QString& tree) {
     const Pair times = MediansOf(
         11,
         [&] {
-          hits = file.Find({static_cast<qint16>(i), UpperCased(criteria[i].Text), false}, Limit::Customers).size();
+          hits = file.Find({static_cast<qint16>(i), UpperCased(criteria[i].Text)}, Limit::Customers).size();
         },
         [&] { isAbsent = !store.ReadWhole(tree + u"/CustomerData.txt"_s).contains(absent); });
     MustHold(hits == criteria[i].Hits, u"the search by %1 finds whom it must"_s.arg(criteria[i].Name));

@@ -38,9 +38,9 @@ qint32 CustomerSearch::Start() {
     m_dialogs.ShowMessage(u"You must enter some criteria data for the Search"_s);
     return 0;
   }
-  qint32 hits = 0;
   // A text of blanks stands in every field: it finds everybody.
-  FindCustomers({static_cast<qint16>(m_view.SearchCriterion()), UpperCased(text), false}, hits);
+  const qint32 hits = FindCustomers({static_cast<qint16>(m_view.SearchCriterion()), UpperCased(text)});
+  ShowHits(hits);
   if (hits > 0) {
     m_view.ShowFoundFrame(true);  // With its one row, where one customer was found and is shown already.
   } else {
@@ -74,8 +74,7 @@ void CustomerSearch::ShowList() {
   m_view.SetListEntryCaption(u"Close Customer List"_s);
   m_view.ShowFoundFrame(true);
   m_view.SetFoundCaption(u"Complete Customer List"_s);  // It stays through later searches.
-  qint32 hits = 0;
-  FindCustomers({EveryCustomer, "All", true}, hits);
+  FindCustomers({EveryCustomer, "All"});
 }
 
 void CustomerSearch::HideFound() {
@@ -95,16 +94,16 @@ void CustomerSearch::ShowCustomer(int row) {
   m_editor.ShowRecord(ToInt32(fgCustomersFound.Text(row, RecordColumn), u"fgCustomersFound"_s));
 }
 
-void CustomerSearch::FindCustomers(const CustomerQuery& query, qint32& hitCount) {
+qint32 CustomerSearch::FindCustomers(const CustomerQuery& query) {
   const std::vector<FoundCustomer> found = m_editor.Find(query);
-  hitCount += static_cast<qint32>(found.size());
   FillRows(found);
-  if (query.ListMode) {
-    return;
-  }
-  if (hitCount == 0) {
+  return static_cast<qint32>(found.size());
+}
+
+void CustomerSearch::ShowHits(qint32 hits) {
+  if (hits == 0) {
     m_dialogs.ShowMessage(u"No Customer Record meets this Criteria"_s, u"Customer not Found"_s);
-  } else if (hitCount == 1) {
+  } else if (hits == 1) {
     m_view.ShowFoundFrame(false);
     ShowCustomer(1);
   } else {
@@ -112,6 +111,7 @@ void CustomerSearch::FindCustomers(const CustomerQuery& query, qint32& hitCount)
   }
 }
 
+/// Without a hit the rows of the search before stay, which is meant.
 void CustomerSearch::FillRows(const std::vector<FoundCustomer>& found) {
   if (found.empty()) {
     return;

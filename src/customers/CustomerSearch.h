@@ -39,12 +39,12 @@ class CustomerSearch {
   /// 13 where the grid has none.
   void LoadSelected();
 
-  /// Hits are added to `hitCount`. One alone is shown at once. Without any the grid keeps its rows, which is meant.
-  void FindCustomers(const CustomerQuery& query, qint32& hitCount);
-
   TextMatrix fgCustomersFound;
 
  private:
+  /// Fills the grid; answers the number of hits.
+  qint32 FindCustomers(const CustomerQuery& query);
+  void ShowHits(qint32 hits);  ///< A message for none, the customer himself for one, else all of them.
   void FillRows(const std::vector<FoundCustomer>& found);
   void ShowCustomer(int row);
 

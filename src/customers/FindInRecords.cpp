@@ -32,9 +32,6 @@ class Searcher {
     if (m_query.Criterion == EveryCustomer) {
       return true;
     }
-    if (m_query.ListMode) {
-      return false;
-    }
     const TextField field = SearchedFields.at(static_cast<std::size_t>(m_query.Criterion));
     const QByteArrayView text = record.TextBytes(field.Offset, field.Width);
     const auto capitalsAlike = [this](char stored, char wanted) {

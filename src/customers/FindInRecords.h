@@ -18,7 +18,6 @@ inline constexpr qint16 EveryCustomer = 10;
 struct CustomerQuery {
   qint16 Criterion = EveryCustomer;  ///< An index of `SearchedFields`; `EveryCustomer` finds all, whatever the text.
   QByteArray UpperText;              ///< As `UpperCased` makes it. The empty text stands in every field.
-  bool ListMode = false;             ///< A list is asked for: no field is searched.
 };
 
 struct FoundCustomer {

@@ -315,14 +315,14 @@ class CustomerFileTest : public QObject {
 
   void aSearchLeavesTheLastRecordCountedInTheBuffer() {
     PutCustomers(BusinessRecord("1", "One") + BusinessRecord("2", "Two") + BusinessRecord("3", "Three"));
-    const std::vector<FoundCustomer> found = m_file->Find({0, "ONE", false}, 2);
+    const std::vector<FoundCustomer> found = m_file->Find({0, "ONE"}, 2);
     QCOMPARE(found.size(), 1U);
     QCOMPARE(found[0].Record, 1);
     QCOMPARE(m_file->Buffer.Text(CustomerField::AcctNo), u"2"_s);
   }
 
   void aSearchMakesTheFileThatIsMissing() {
-    QCOMPARE(m_file->Find({EveryCustomer, "All", true}, 1).size(), 1U);
+    QCOMPARE(m_file->Find({EveryCustomer, "All"}, 1).size(), 1U);
     QCOMPARE(Customers(), QByteArray());
     QVERIFY(m_tree->Has(u"/CustomerData.txt"_s));
   }

@@ -10,10 +10,9 @@ using namespace Qt::StringLiterals;
 class FindInRecordsTest : public QObject {
   Q_OBJECT
 
-  static QList<int> Hits(const QByteArray& content, int count, qint16 criterion, const QString& text,
-                         bool listMode = false) {
+  static QList<int> Hits(const QByteArray& content, int count, qint16 criterion, const QString& text) {
     QList<int> hits;
-    const CustomerQuery query{criterion, UpperCased(text), listMode};
+    const CustomerQuery query{criterion, UpperCased(text)};
     for (const FoundCustomer& customer : FindInRecords(RecordBuffer(content, 328), count, query)) {
       hits.append(customer.Record);
     }
@@ -88,11 +87,6 @@ class FindInRecordsTest : public QObject {
     const QByteArray file = With(&RecordText::AcctName, "One") + QByteArray(328, '\0');
     QCOMPARE(Hits(file, 3, 0, u"   "_s), (QList<int>{1, 2, 3}));  // The third isn't written yet.
     QCOMPARE(Hits(file, 3, EveryCustomer, u"All"_s), (QList<int>{1, 2, 3}));
-    QCOMPARE(Hits(file, 3, EveryCustomer, u"All"_s, true), (QList<int>{1, 2, 3}));
-  }
-
-  void inListModeNoFieldIsSearched() {
-    QCOMPARE(Hits(With(&RecordText::AcctName, "One"), 1, 0, u"one"_s, true), QList<int>{});
   }
 
   void onlyTheRecordsCountedAreSearched() {

@@ -45,8 +45,8 @@ void SearchCustomers(ReaderDesk& desk) {
   const QByteArray content = desk.Disk().Store().ReadWhole(desk.Disk().PathOf(u"/CustomerData.txt"_s));
   const int chosen = content.isEmpty() ? 0 : static_cast<unsigned char>(content.back());
   const auto criterion = static_cast<qint16>(static_cast<std::size_t>(chosen) % SearchedFields.size());
-  file.Find({criterion, "A", false}, count);
-  file.Find({EveryCustomer, {}, true}, count);
+  file.Find({criterion, "A"}, count);
+  file.Find({EveryCustomer, {}}, count);
 }
 
 /// As the start does it, in a tree whose own folders stand.
