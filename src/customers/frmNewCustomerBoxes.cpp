@@ -1,5 +1,6 @@
 /// The boxes of the customer screen: what the rules see of them, which keys they take, and their entering and leaving.
 #include "customers/frmNewCustomer.h"
+#include "desktop/LabelText.h"
 #include "runtime/Numbers.h"
 #include "shell/VerifyDataRoutines.h"
 #include "ui_frmNewCustomer.h"
@@ -123,6 +124,5 @@ void frmNewCustomer::SetCustomerCaption(const QString& caption) {
 }
 
 void frmNewCustomer::SetAuxCaption(const QString& caption) {
-  // An ampersand in a name is no access key.
-  m_ui->fraAux->setTitle(QString(caption).replace(u"&"_s, u"&&"_s));
+  m_ui->fraAux->setTitle(PlainCaption(caption));
 }

@@ -6,7 +6,9 @@ using namespace Qt::StringLiterals;
 
 void ShowOnLabel(QLabel* label, const QString& text) {
   label->setTextFormat(Qt::PlainText);
-  QString shown = text;
-  if (label->buddy() != nullptr) shown.replace(u'&', "&&"_L1);
-  label->setText(shown);
+  label->setText(label->buddy() != nullptr ? PlainCaption(text) : text);
+}
+
+QString PlainCaption(const QString& text) {
+  return QString(text).replace(u'&', "&&"_L1);
 }

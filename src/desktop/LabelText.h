@@ -1,9 +1,12 @@
-/// Data on a label: shown as it stands, whatever marks it holds.
+/// Data on labels, buttons and frames: shown as it stands, whatever marks it holds.
 #pragma once
 
+#include <QString>
+
 class QLabel;
-class QString;
 
 /// On a label with a buddy an ampersand would mark an access key, and text in angle brackets would be read as markup;
 /// neither happens to `text`.
 void ShowOnLabel(QLabel* label, const QString& text);
+/// `text` for a button or the title of a frame, where an ampersand would mark an access key as well.
+QString PlainCaption(const QString& text);

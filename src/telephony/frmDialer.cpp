@@ -118,8 +118,7 @@ void frmDialer::SetText(DialerText place, const QString& text) {
 
 void frmDialer::SetSlotCaption(int slot, const QString& caption) {
   QPushButton* button = m_cmdDialer[slot];
-  // An ampersand of a name is no access key.
-  button->setText(QString(caption).replace(u'&', "&&"_L1));
+  button->setText(PlainCaption(caption));
   button->setAccessibleName(caption.isEmpty() ? u"Speed dial %1, empty"_s.arg(slot + 1)
                                               : u"Speed dial %1, %2"_s.arg(QString::number(slot + 1), caption));
   button->setToolTip(caption.isEmpty() ? u"Add a Speed Dial entry here"_s : u"Call "_s + caption);
