@@ -29,8 +29,6 @@ struct ProposalList {
   /// Number, date, customer and amount: row i shows proposal i. The current row is the one chosen.
   TextMatrix fgProposals;
   std::vector<Proposal> Proposals;
-  /// A proposal was picked.
-  bool ProposalChosen = false;
 
   int Count() const { return static_cast<int>(Proposals.size()); }
   /// The proposal of the current row; nullptr where none is.

@@ -90,7 +90,6 @@ void frmCustomerSelection::ShowProposals(bool shown) {
 
 void frmCustomerSelection::GoToCustomerList() {
   m_screens.Show(ScreenName::frmNewCustomer);
-  m_proposals.ProposalChosen = false;
   m_screens.Unload(ScreenName::frmCustomerSelection);
 }
 
@@ -106,7 +105,6 @@ void frmCustomerSelection::ClickProposal() {
   ShowProposals(false);
   ShowInstructions(false);
   SetFocusTo(m_cmdCreation[1]);
-  m_proposals.ProposalChosen = true;
 }
 
 void frmCustomerSelection::CreateInvoice() {

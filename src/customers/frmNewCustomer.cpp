@@ -59,11 +59,7 @@ void frmNewCustomer::Activate() {
   m_editor.ApplyAccountType(u"Business"_s);
   const std::optional<RuntimeError> headings = ReadHeadings();
   m_editor.BlankBoxes();
-  m_ui->mnuCust->menuAction()->setVisible(false);
   m_cmdCustomer[13]->hide();
-  setWindowTitle(u"Managing Account Data"_s);
-  m_ui->mnuCust->menuAction()->setVisible(true);
-  setWindowTitle(u"Select Customer for "_s + windowTitle());
   // What can't be read of the boxes is told, and the screen comes up.
   const std::optional<RuntimeError> boxes = m_editor.Open();
   for (const std::optional<RuntimeError>& unread : {headings, boxes}) {

@@ -69,7 +69,7 @@ void SortCompletedInvoices(CompletedInvoices& list, int optCol, int optSort) {
   }
 }
 
-bool PurgeCompletedInvoices(const CompletedInvoices& list, CommonDiskRoutines& disk, QDate date,
+void PurgeCompletedInvoices(const CompletedInvoices& list, CommonDiskRoutines& disk, QDate date,
                             const Progress& progress) {
   const TextMatrix& grid = list.fgReceivables;
   for (int row = 1; row < grid.Rows(); ++row) {
@@ -81,7 +81,6 @@ bool PurgeCompletedInvoices(const CompletedInvoices& list, CommonDiskRoutines& d
       disk.KillWithBackup(InvoiceImageName(number, true));
       disk.KillWithBackup(KVPrint::NarrativeName(number));
     }
-    if (progress && !progress(row, grid.Rows() - 1)) return false;
+    if (progress && !progress(row, grid.Rows() - 1)) return;
   }
-  return true;
 }

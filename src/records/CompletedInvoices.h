@@ -41,6 +41,6 @@ CompletedLoad LoadCompletedInvoices(CompletedInvoices& list, CommonDiskRoutines&
 void SortCompletedInvoices(CompletedInvoices& list, int optCol, int optSort);
 
 /// Deletes image and narrative, with their copies in /Backup, of each row whose date is before `date`; nothing else.
-/// Stopped by the user, the rest stays. False where it was stopped.
-bool PurgeCompletedInvoices(const CompletedInvoices& list, CommonDiskRoutines& disk, QDate date,
+/// Stopped by the user, the rest stays.
+void PurgeCompletedInvoices(const CompletedInvoices& list, CommonDiskRoutines& disk, QDate date,
                             const Progress& progress = {});

@@ -172,7 +172,7 @@ void CommonDiskRoutines::CopyDataFile(const QString& from, const QString& to) {
 
 void CommonDiskRoutines::RenameDataFile(const QString& from, const QString& to) {
   m_store.Rename(PathOf(from), PathOf(to));
-  KillDataFile(from);
+  CloseAllFiles();
 }
 
 bool CommonDiskRoutines::AnyFileMatches(const QString& folder, const QString& wildcard) const {

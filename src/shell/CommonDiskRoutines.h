@@ -77,6 +77,7 @@ class CommonDiskRoutines {
   void KillWithBackup(const QString& name);   ///< The copy in /Backup, then the file.
   void KillEveryFile(const QString& folder);  ///< Whatever their names, unfinished ones too; folders in it stay.
   void CopyDataFile(const QString& from, const QString& to);
+  /// Replaces the target; closes all open files behind it.
   void RenameDataFile(const QString& from, const QString& to);
   bool AnyFileMatches(const QString& folder, const QString& wildcard) const;
   QStringList ListFiles(const QString& folder, const QString& wildcard) const;

@@ -269,8 +269,8 @@ class CustomerFileTest : public QObject {
       init();
       PutCustomers(BusinessRecord("1", "One") + BusinessRecord("2", "Two"));
       for (const QString& name : gone) m_tree->Put(name, "old");
-      // Before these: what earlier deletes may have left, and the name that the rename took away.
-      constexpr int before = 3;
+      // Before these: what earlier deletes may have left, and a save of theirs.
+      constexpr int before = 2;
       m_tree->Device.FailAt(FailingDevice::Call::Remove, before + kept + 1, EACCES);
       const std::optional<RuntimeError> failed = m_file->Remove(2, 2, u"2"_s);
       QVERIFY(failed.has_value());

@@ -230,9 +230,11 @@ class DiskRoutinesTest : public QObject {
   void aRenamedFileTakesThePlaceOfTheOther() {
     Put(u"/TemporaryFile.txt"_s, "new");
     Put(u"/SoldItems.txt"_s, "old");
+    const RandomFile open = m_disk->OpenRandomFile(u"/SoldItems.txt"_s, 3);
     m_disk->RenameDataFile(u"/TemporaryFile.txt"_s, u"\\SoldItems.txt"_s);
     QCOMPARE(Bytes(u"/SoldItems.txt"_s), "new");
     QVERIFY(Absent(u"/TemporaryFile.txt"_s));
+    QCOMPARE(ErrorOf([&] { open.Get(1); }), 52);
     m_disk->CopyDataFile(u"\\SoldItems.txt"_s, u"/Backup/SoldItems.txt"_s);
     QCOMPARE(Bytes(u"/Backup/SoldItems.txt"_s), "new");
   }
