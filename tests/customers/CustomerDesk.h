@@ -25,6 +25,12 @@ class CustomerDesk {
     Program.StartAtMenu();
     GoFromMenu();
   }
+  /// Where the screen has something to tell as it comes up, as that there is no customer yet.
+  void OpenTold(const QueuedAnswers::Wanted& text = {}, const QueuedAnswers::Wanted& title = {}) {
+    Program.StartAtMenu();
+    Program.Answers.Ok(text, title);
+    GoFromMenu();
+  }
   void GoFromMenu() const { ScreenDriver(QStringLiteral("frmStartup")).Click(QStringLiteral("cmdGoto")); }
   bool Shown() const { return ScreenDriver::IsShown(QStringLiteral("frmNewCustomer")); }
   ScreenDriver Driver() const { return ScreenDriver(QStringLiteral("frmNewCustomer")); }

@@ -104,9 +104,7 @@ class AuxiliaryDataTest : public QObject {
   void tooFewHeadingsAreADamagedFile() {
     CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/AuxHeadings.txt"_s, "1\r\n2\r\n");
-    desk.Program.StartAtMenu();
-    desk.Program.Answers.Ok();
-    desk.GoFromMenu();
+    desk.OpenTold();
     QVERIFY(desk.Program.Answers.Last().Text.contains(u"AuxHeadings.txt"));
     QVERIFY(desk.Program.Running().HasEnded());
     QCOMPARE(desk.Program.Tree.Bytes(u"/AuxHeadings.txt"_s), "1\r\n2\r\n");

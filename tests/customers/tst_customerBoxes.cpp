@@ -161,9 +161,7 @@ class CustomerBoxesTest : public QObject {
 
   void leavingTheNumberWithoutAFileMakesNone() {
     CustomerDesk desk;
-    desk.Program.StartAtMenu();
-    desk.Program.Answers.Ok();
-    desk.GoFromMenu();
+    desk.OpenTold();
     desk.Fill(u"txtCustomer_0"_s, u"1001"_s);
     desk.Driver().PressKey(Qt::Key_Tab);
     QVERIFY(!desk.Program.Tree.Exists(u"/CustomerData.txt"_s));
@@ -330,9 +328,7 @@ class CustomerBoxesTest : public QObject {
   void aStatesListThatEndsEarlyEndsTheProgram() {
     CustomerDesk desk(Many(1));
     desk.Program.Tree.Write(u"/StatesList.txt"_s, QByteArray("\"AL\"\r\n").repeated(49));
-    desk.Program.StartAtMenu();
-    desk.Program.Answers.Ok();
-    desk.GoFromMenu();
+    desk.OpenTold();
     QVERIFY(desk.Program.Answers.Last().Text.contains(u"StatesList.txt"));
     QVERIFY(desk.Program.Running().HasEnded());
     QCOMPARE(desk.Customers(), Many(1));

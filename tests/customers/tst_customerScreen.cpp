@@ -27,9 +27,7 @@ class CustomerScreenTest : public QObject {
 
   void theFirstCustomerMakesTheFile() {
     CustomerDesk desk;
-    desk.Program.StartAtMenu();
-    desk.Program.Answers.Ok();
-    desk.GoFromMenu();
+    desk.OpenTold();
     desk.Fill(u"txtCustomer_0"_s, u"1001"_s);
     desk.Fill(u"txtCustomer_1"_s, u"Acme Tools"_s);
     desk.Click(u"cmdNav_0"_s);

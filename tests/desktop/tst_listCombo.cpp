@@ -1,4 +1,6 @@
 // The lists of the screens: picks, typed texts, completion, sorted entries, and tens of thousands of them.
+#include <ctime>
+
 #include "desktop/ListCombo.h"
 #include "support/BenchScreen.h"
 #include "support/ScreenDriver.h"
@@ -336,35 +338,35 @@ class ListCombos : public QObject {
     QCOMPARE(bench.combo->EntryData(0), 1);
     bench.combo->SetAutoComplete(true);
     bench.driver->Click(u"combo"_s);
-    // The limits are generous for a slow machine; item by item the list takes a hundred times as long.
-    QElapsedTimer timer;
-    timer.start();
+    // Processor time, which others on the machine don't take from: a tenth of a second a letter.
+    const std::clock_t before = std::clock();
     bench.driver->Type(u"customer 3276"_s);
-    QVERIFY2(timer.elapsed() < 13 * 100, qPrintable(QString::number(timer.elapsed())));
+    const std::clock_t used = std::clock() - before;
+    QVERIFY2(used < 13 * CLOCKS_PER_SEC / 10, qPrintable(QString::number(used)));
     QCOMPARE(bench.combo->Text(), u"customer 32760"_s);
   }
 
   void aLongListOpensAsFastAsAShortOne() {
-    // The best of several, beside the same with twenty entries: what the machine does meanwhile cancels out.
+    // The best of several in processor time, beside the same with twenty entries: what the machine does meanwhile
+    // cancels out.
     const auto bestTime = [](int entries) {
       QStringList names;
       for (int i = 0; i < entries; ++i) names.append(u"Customer %1"_s.arg(i));
-      qint64 best = std::numeric_limits<qint64>::max();
+      std::clock_t best = std::numeric_limits<std::clock_t>::max();
       for (int i = 0; i < 4; ++i) {
         Bench bench;
         bench.combo->SetEntries(names, {});
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t before = std::clock();
         bench.combo->showPopup();
-        best = std::min(best, timer.nsecsElapsed());
+        best = std::min(best, std::clock() - before);
         bench.combo->hidePopup();
       }
       return best;
     };
-    const qint64 few = bestTime(20);
-    const qint64 many = bestTime(32767);
+    const std::clock_t few = bestTime(20);
+    const std::clock_t many = bestTime(32767);
     // Measuring each entry would take a hundred milliseconds.
-    QVERIFY2(many - few < 30'000'000, qPrintable(u"%1 ns and %2 ns"_s.arg(few).arg(many)));
+    QVERIFY2(many - few < CLOCKS_PER_SEC * 3 / 100, qPrintable(u"%1 and %2"_s.arg(few).arg(many)));
   }
 };
 

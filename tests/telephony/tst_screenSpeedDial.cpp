@@ -54,9 +54,9 @@ class ScreenSpeedDial : public QObject {
   void aSavedEntryStandsOnItsButtonAndInTheFile();
   void enterGoesThroughTheEntryAndEscapeLeavesIt();
   void cancelEmptiesAndHidesTheEntry();
-  void aSlotIsTakenDialedAndTheRecipientRestored();
-  void restoreAfterASecondSlotBringsTheFirstBack();
-  void restoreBeforeAnySlotKeepsTheRecipient();
+  void aSlotIsTakenAndDialed();
+  void restoreBringsBackWhoStoodThereBeforeTheLastSlot_data();
+  void restoreBringsBackWhoStoodThereBeforeTheLastSlot();
   void loadCurrentSavesTheRecipientInTheSlotChosenLast();
   void loadCurrentBeforeAnySlotUsesTheFirst();
   void loadCurrentDropsTheQuotesOfAStoredName();
@@ -140,7 +140,7 @@ void ScreenSpeedDial::cancelEmptiesAndHidesTheEntry() {
   QCOMPARE(desk.Bytes(), AnnAndBob);
 }
 
-void ScreenSpeedDial::aSlotIsTakenDialedAndTheRecipientRestored() {
+void ScreenSpeedDial::aSlotIsTakenAndDialed() {
   Desk desk(AnnAndBob);
   const ScreenDriver dialer = desk.Open();
   dialer.Click(u"cmdDialer_1"_s);
@@ -148,26 +148,30 @@ void ScreenSpeedDial::aSlotIsTakenDialedAndTheRecipientRestored() {
   QVERIFY(dialer.IsEnabled(u"cmdSpeedDialer_2"_s));
   dialer.Click(u"cmdNewDial"_s);
   QCOMPARE(desk.Modem.Commands(), QByteArrayList{"ATDT777;"});
-  dialer.Click(u"cmdSpeedDialer_3"_s);
-  QCOMPARE(Recipient(), u"Bay Farm 321-555-0142"_s);
 }
 
-void ScreenSpeedDial::restoreAfterASecondSlotBringsTheFirstBack() {
-  Desk desk(AnnAndBob);
-  const ScreenDriver dialer = desk.Open();
-  dialer.Click(u"cmdDialer_1"_s);
-  dialer.Click(u"cmdDialer_0"_s);
-  QCOMPARE(Recipient(), u"Ann 555"_s);
-  dialer.Click(u"cmdSpeedDialer_3"_s);
-  QCOMPARE(Recipient(), u"Bob 777"_s);
+void ScreenSpeedDial::restoreBringsBackWhoStoodThereBeforeTheLastSlot_data() {
+  QTest::addColumn<QStringList>("clicks");
+  QTest::addColumn<QString>("shown");
+  QTest::addColumn<QString>("restored");
+  const QString bay = u"Bay Farm 321-555-0142"_s;
+  QTest::newRow("no slot") << QStringList{u"ckDial1"_s} << u"Bay Farm 1-321-555-0142"_s << bay;
+  QTest::newRow("a slot") << QStringList{u"cmdDialer_1"_s} << u"Bob 777"_s << bay;
+  QTest::newRow("a slot, dialed") << QStringList{u"cmdDialer_1"_s, u"cmdNewDial"_s} << u"Bob 777"_s << bay;
+  QTest::newRow("a second slot") << QStringList{u"cmdDialer_1"_s, u"cmdDialer_0"_s} << u"Ann 555"_s << u"Bob 777"_s;
+  QTest::newRow("the prefix, then a slot")
+      << QStringList{u"ckDial1"_s, u"cmdDialer_1"_s} << u"Bob 777"_s << u"Bay Farm 1-321-555-0142"_s;
 }
-
-void ScreenSpeedDial::restoreBeforeAnySlotKeepsTheRecipient() {
+void ScreenSpeedDial::restoreBringsBackWhoStoodThereBeforeTheLastSlot() {
+  QFETCH(const QStringList, clicks);
+  QFETCH(const QString, shown);
+  QFETCH(const QString, restored);
   Desk desk(AnnAndBob);
   const ScreenDriver dialer = desk.Open();
-  dialer.Click(u"ckDial1"_s);
+  for (const QString& click : clicks) dialer.Click(click);
+  QCOMPARE(Recipient(), shown);
   dialer.Click(u"cmdSpeedDialer_3"_s);
-  QCOMPARE(Recipient(), u"Bay Farm 321-555-0142"_s);
+  QCOMPARE(Recipient(), restored);
 }
 
 void ScreenSpeedDial::loadCurrentSavesTheRecipientInTheSlotChosenLast() {
