@@ -193,6 +193,14 @@ void FamilyStyle::drawControl(ControlElement element, const QStyleOption* option
   if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth) {
     return DrawTab(painter, *tab);
   }
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (element == CE_PushButtonLabel && button != nullptr && button->icon.isNull()) {
+    // A caption that is somebody's data may be longer than its button: it ends in dots and isn't cut on both sides.
+    QStyleOptionButton shown(*button);
+    shown.text =
+        button->fontMetrics.elidedText(button->text, Qt::ElideRight, button->rect.width(), Qt::TextShowMnemonic);
+    return QProxyStyle::drawControl(element, &shown, painter, widget);
+  }
   QProxyStyle::drawControl(element, option, painter, widget);
 }
 

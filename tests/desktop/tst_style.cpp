@@ -247,6 +247,24 @@ class Styles : public QObject {
     QVERIFY(QLineEdit().sizeHint().height() >= 28);
   }
 
+  void aCaptionTooLongForItsButtonKeepsItsStartAndEndsInDots() {
+    ApplyStyle(*qApp);
+    QWidget window;
+    QPushButton button(&window);
+    button.resize(160, 28);
+    const auto drawn = [&button](const QString& caption) {
+      button.setText(caption);
+      return button.grab().toImage();
+    };
+    const QString name = u"Hill && Sons, the warehouse by the dock"_s;
+    const QImage whole = drawn(name);
+    qsizetype kept = 0;
+    while (kept < name.size() && drawn(name.left(kept) + u'\u2026') != whole) ++kept;
+    QVERIFY2(kept > 10 && kept < name.size(), qPrintable(name.left(kept)));
+    // One that fits is drawn as it is.
+    QVERIFY(drawn(u"Hill"_s) != drawn(u"Hil\u2026"_s));
+  }
+
   void accessKeysAreUnderlined() {
     ApplyStyle(*qApp);
     QCOMPARE(qApp->style()->styleHint(QStyle::SH_UnderlineShortcut), 1);
