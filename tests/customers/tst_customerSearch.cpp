@@ -405,6 +405,20 @@ class CustomerSearchTest : public QObject {
     QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
   }
 
+  void afterASearchTheNameListAndTheTypeTakeTheNameOfTheCustomerReadLast() {
+    for (const QString& button : {u"Command1_1"_s, u"cmdAcctType"_s}) {
+      TownDesk desk;
+      Search(desk, 1, u"ark"_s);
+      // Opened and closed; or to an individual and back.
+      desk.Click(button);
+      desk.Click(button);
+      QCOMPARE(desk.Text(u"fraAux"_s), u"Data for Dock Five"_s);
+      QCOMPARE(desk.Box(1), u"Zeta Works"_s);
+      desk.Click(u"cmdNav_0"_s);
+      QCOMPARE(desk.Text(u"fraAux"_s), u"Data for Zeta Works"_s);
+    }
+  }
+
   void theCompleteListOf32767OpensAndScrollsWithoutAWidgetPerRow() {
     CustomerDesk desk(Many(2));
     desk.Open();
