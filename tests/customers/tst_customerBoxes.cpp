@@ -280,6 +280,23 @@ class CustomerBoxesTest : public QObject {
     desk.Click(u"cmdNav_2"_s);
   }
 
+  void aNewIndividualIsSavedWithTheNameThatWasEnteredAsABusiness() {
+    CustomerDesk desk(Many(1));
+    desk.Open();
+    QVERIFY2(desk.Text(u"lblHintPerson"_s).startsWith(u"An Individual needs an account name too"_s),
+             "the screen says so");
+    desk.Driver().Trigger(u"mnuAdd"_s);
+    desk.Fill(u"txtCustomer_0"_s, u"2"_s);
+    desk.Fill(u"txtCustomer_1"_s, u"Ann Bell"_s);
+    desk.Click(u"cmdAcctType"_s);
+    desk.Fill(u"txtCustomer_8"_s, u"Ann"_s);
+    desk.Fill(u"txtCustomer_10"_s, u"Bell"_s);
+    desk.Click(u"cmdNav_0"_s);
+    QCOMPARE(desk.BoxesShown(), 0);
+    QCOMPARE(desk.Customers().mid(328 + 20, 9), "Ann Bell ");
+    QCOMPARE(desk.Customers().mid(328 + 314, 10), "Individual");
+  }
+
   void anIndividualNeedsBothNames() {
     CustomerDesk desk(PersonRecord("1", "Ann", "Q", "Bell"));
     desk.Open();
