@@ -102,6 +102,22 @@ QStringList FailuresOf(const QStringList& boxes) {
   return failures;
 }
 
+QStringList ChangedBy(const FileCalls::Note& note, const QString& root) {
+  switch (note.What) {
+    case FileCalls::Kind::Create:
+    case FileCalls::Kind::Write:
+    case FileCalls::Kind::Remove:
+      return {QString::fromStdString(note.Path).sliced(root.size())};
+    case FileCalls::Kind::MakeFolder:
+      return {QString::fromStdString(note.Path).sliced(root.size()) + u'/'};
+    case FileCalls::Kind::Rename:
+      return {QString::fromStdString(note.Path).sliced(root.size()),
+              QString::fromStdString(note.To).sliced(root.size())};
+    default:
+      return {};
+  }
+}
+
 Bench::Bench(const Save& save, const QString& folder) : m_save(save), m_folder(folder) {
   QDir(m_folder).removeRecursively();
   QDir().mkpath(Root());
@@ -148,6 +164,23 @@ QString Bench::Unusable() const {
   if (!m_unharmed.Broken.isEmpty()) return m_unharmed.Broken;
   if (m_unharmed.Tree == m_before) return u"the save changes nothing"_s;
   if (!TemporariesOf(m_unharmed.Tree).isEmpty()) return u"the save leaves a temporary file"_s;
+  if (const QString unseen = ChangedUnseen(); !unseen.isEmpty()) return unseen + u" changes by no call that is seen"_s;
+  return {};
+}
+
+/// What can't be harmed, because the program changes it by a call that FileCalls.cpp leaves out.
+QString Bench::ChangedUnseen() const {
+  QSet<QString> seen;
+  for (const FileCalls::Note& note : m_unharmed.Notes) {
+    for (const QString& name : ChangedBy(note, Root())) seen.insert(name);
+  }
+  for (const DataTree& tree : {m_before, m_unharmed.Tree}) {
+    for (const auto& [name, bytes] : tree.asKeyValueRange()) {
+      const bool same = m_before.contains(name) == m_unharmed.Tree.contains(name) &&
+                        m_before.value(name) == m_unharmed.Tree.value(name);
+      if (!same && !seen.contains(name)) return name;
+    }
+  }
   return {};
 }
 
@@ -180,6 +213,30 @@ Outcome Bench::TryOn(const SmallDisk& disk, int blocks) {
   return outcome;
 }
 
+Outcome Bench::TryReadOnly(const SmallDisk& disk) {
+  disk.MakeRoom();
+  WriteTree(Root(), m_before);
+  disk.RefuseWrites();
+  const Outcome outcome = Run({}, false);
+  disk.MakeRoom();
+  return outcome;
+}
+
+Outcome Bench::StartReadOnly(const SmallDisk& disk) {
+  disk.MakeRoom();
+  WriteTree(Root(), m_before);
+  disk.RefuseWrites();
+  const Outcome outcome = InNewProgram([&](Desk& desk) {
+    Save start{.Name = m_save.Name};
+    start.Perform = [](Desk& begun) {
+      if (begun.Start()) begun.GoToMenu();
+    };
+    DoSave(desk, start, {}, ReportFile(), {});
+  });
+  disk.MakeRoom();
+  return outcome;
+}
+
 Outcome Bench::Run(const FileCalls::Plan& plan, bool again) {
   QFile::remove(ReportFile());
   int status = 0;
@@ -189,11 +246,7 @@ Outcome Bench::Run(const FileCalls::Plan& plan, bool again) {
 
 Outcome Bench::Restart(const DataTree& tree, bool saves) {
   WriteTree(Root(), tree);
-  QFile::remove(ReportFile());
-  static int starts = 0;
-  const QString lock = m_folder + u"/lock-%1"_s.arg(++starts);
-  return Read(InChild([&] {
-    Desk desk(Root(), lock, m_save.OnPaper);
+  return InNewProgram([&](Desk& desk) {
     if (m_save.AtStart()) {
       DoSave(desk, m_save, {}, ReportFile(), {});
       return;
@@ -202,6 +255,16 @@ Outcome Bench::Restart(const DataTree& tree, bool saves) {
     Save nothing{.Name = m_save.Name};
     nothing.Perform = [](Desk&) {};
     DoSave(desk, saves && !desk.HasEnded() ? m_save : nothing, {}, ReportFile(), {});
+  });
+}
+
+Outcome Bench::InNewProgram(const std::function<void(Desk&)>& work) {
+  QFile::remove(ReportFile());
+  static int starts = 0;
+  const QString lock = m_folder + u"/lock-%1"_s.arg(++starts);
+  return Read(InChild([&] {
+    Desk desk(Root(), lock, m_save.OnPaper);
+    work(desk);
   }));
 }
 

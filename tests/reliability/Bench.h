@@ -30,6 +30,9 @@ struct Outcome {
 
 class SmallDisk;
 
+/// The files and folders below the root that the call changes.
+QStringList ChangedBy(const FileCalls::Note& note, const QString& root);
+
 /// Whether the box tells that something failed.
 bool TellsFailure(const QString& box);
 QStringList FailuresOf(const QStringList& boxes);
@@ -54,6 +57,10 @@ class Bench {
   Outcome Try(const FileCalls::Plan& plan, bool again = false);
   /// Unharmed, on a disk that `disk` leaves so many blocks on.
   Outcome TryOn(const SmallDisk& disk, int blocks);
+  /// The same on a disk that can only be read.
+  Outcome TryReadOnly(const SmallDisk& disk);
+  /// A start on the tree before the save, on such a disk.
+  Outcome StartReadOnly(const SmallDisk& disk);
   /// A new start on this tree; where `saves`, the way to the save and the save itself as well.
   Outcome Restart(const DataTree& tree, bool saves);
   /// The folder that holds the tree.
@@ -61,6 +68,8 @@ class Bench {
 
  private:
   Outcome Run(const FileCalls::Plan& plan, bool again);
+  Outcome InNewProgram(const std::function<void(Desk&)>& work);
+  QString ChangedUnseen() const;
   [[noreturn]] void Serve(int requests, int answers);
   Outcome Read(int status);
   QString AfterFile() const { return m_folder + QStringLiteral("/after"); }

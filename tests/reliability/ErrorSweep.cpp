@@ -22,21 +22,8 @@ QString FileOf(const std::string& path) {
   return FileOf(QString::fromStdString(path));
 }
 
-/// Files and folders that the call changes.
-QStringList ChangedBy(const Note& note, const QString& root) {
-  switch (note.What) {
-    case Kind::Create:
-    case Kind::Write:
-    case Kind::Remove:
-      return {QString::fromStdString(note.Path).sliced(root.size())};
-    case Kind::MakeFolder:
-      return {QString::fromStdString(note.Path).sliced(root.size()) + u'/'};
-    case Kind::Rename:
-      return {QString::fromStdString(note.Path).sliced(root.size()),
-              QString::fromStdString(note.To).sliced(root.size())};
-    default:
-      return {};
-  }
+QSet<QString> KeysOf(const DataTree& tree) {
+  return QSet<QString>(tree.keyBegin(), tree.keyEnd());
 }
 
 /// What the calls before the nth have changed in the unharmed course of things.
@@ -102,7 +89,8 @@ QString Sweep::JudgeFailure(const Plan& plan, const Outcome& outcome) const {
 
   const QSet<QString> before = ChangedBefore(m_bench.Unharmed().Notes, outcome.Harmed.Nth, m_bench.Root());
   const QString harmed = FileOf(outcome.Harmed.Path).sliced(m_bench.Root().size());
-  for (const QString& name : m_bench.After().keys()) {
+  const QSet<QString> all = KeysOf(m_bench.Before()).unite(KeysOf(m_bench.After()));
+  for (const QString& name : all) {
     const bool old = files.value(name) == m_bench.Before().value(name);
     const bool isNew = files.value(name) == m_bench.After().value(name);
     if (m_bench.What().Tells == Save::Telling::SkipsRest && !old && !before.contains(name)) {

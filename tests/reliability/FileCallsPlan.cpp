@@ -142,8 +142,8 @@ bool DiesTorn() {
 
 void Leave(long result) {
   desk->Notes.back().Result = result;
-  // A file system of its own that is full does the harm by itself.
-  if (result == -ENOSPC) NoteHarm();
+  // A file system of its own that is full, or takes no writes, does the harm by itself.
+  if (result == -ENOSPC || result == -EROFS) NoteHarm();
 }
 
 void LeaveOpened(int descriptor) {

@@ -53,6 +53,19 @@ DataTree Sweep::Wanted(const DataTree& left) const {
   return m_bench.What().Again ? m_bench.What().Again(left, m_bench.Before(), m_bench.After()) : m_bench.After();
 }
 
+/// Where the user takes it for done, only what the save names may be as it was before.
+QString Sweep::JudgeDone(const DataTree& files) const {
+  QString lines;
+  for (const DataTree& tree : {files, m_bench.After()}) {
+    for (const QString& name : tree.keys()) {
+      const bool same =
+          files.contains(name) == m_bench.After().contains(name) && files.value(name) == m_bench.After().value(name);
+      if (!same && !m_bench.What().MayLag.contains(name)) lines += u"  it counts as done, and %1 isn't\n"_s.arg(name);
+    }
+  }
+  return lines;
+}
+
 void Sweep::StartAgain(const DataTree& left, const QString& what) {
   const QByteArray fingerprint = FingerprintOf(left);
   if (m_restarted.contains(fingerprint)) return;
@@ -64,7 +77,7 @@ void Sweep::StartAgain(const DataTree& left, const QString& what) {
   const Outcome outcome = m_bench.Restart(left, !done);
   QString lines = outcome.Broken;
   for (const QString& box : FailuresOf(outcome.Boxes)) lines += u"  told: "_s + box + u'\n';
-  lines += done ? m_bench.TornIn(outcome.Tree) : Differences(Wanted(files), outcome.Tree);
+  lines += done ? JudgeDone(files) + Differences(left, outcome.Tree) : Differences(Wanted(files), outcome.Tree);
   m_findings.Add(m_bench, what + u", then started again"_s, lines);
 }
 
@@ -93,8 +106,10 @@ void Sweep::Kill() {
     const QString call = u"call %1 (%2 %3)"_s.arg(note.Nth).arg(QString::fromLatin1(FileCalls::NameOf(note.What)),
                                                                 QString::fromStdString(note.Path));
     if (isNew) cases.push_back({{Harm::Kill, note.Nth, 0, 0}, u"killed before "_s + call});
-    // A write in place is one call of less than a page: the system does it whole or not at all.
-    if (note.What != FileCalls::Kind::Write || !QString::fromStdString(note.Path).endsWith(".new"_L1)) continue;
+    if (note.What != FileCalls::Kind::Write) continue;
+    // A record's write in place is one call of less than a page: the system does it whole or not at all.
+    const int record = RecordLengthOf(QString::fromStdString(note.Path).sliced(m_bench.Root().size()));
+    if (record > 0 && note.Size == record) continue;
     for (const long size : std::set<long>{1, note.Size / 2, note.Size - 1}) {
       if (size > 0 && size < note.Size)
         cases.push_back({{Harm::KillTorn, note.Nth, 0, size}, u"killed %1 bytes into "_s.arg(size) + call});

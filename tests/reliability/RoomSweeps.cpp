@@ -1,4 +1,4 @@
-// Too little room: short writes, a full disk by count, and a real one.
+// Too little room: short writes, a full disk by count, and a real one; and a real disk that takes no writes at all.
 #include <cerrno>
 #include <set>
 
@@ -72,4 +72,22 @@ void Sweep::SmallFileSystem() {
     m_findings.Add(m_bench, what, JudgeFailure({}, outcome));
     GoOn(outcome, what);
   }
+}
+
+void Sweep::ReadOnly() {
+  const SmallDisk disk(m_bench.Root());
+  if (!disk.IsThere()) return;
+  const QString what = u"a real disk that takes no writes"_s;
+  m_findings.Counts[u"read-only"_s] += 2;
+  const Outcome outcome = m_bench.TryReadOnly(disk);
+  QString lines = JudgeFailure({Harm::FailFromOn, 1, EROFS, 0}, outcome);
+  if (outcome.Broken.isEmpty()) lines += Differences(m_bench.Before(), outcome.Tree);
+  m_findings.Add(m_bench, what, lines);
+  GoOn(outcome, what);
+  // A start either has nothing to write, or says what it can't.
+  const Outcome start = m_bench.StartReadOnly(disk);
+  lines = start.Broken + (start.Broken.isEmpty() ? Differences(m_bench.Before(), start.Tree) : QString());
+  const bool told = !FailuresOf(start.Boxes).isEmpty();
+  if (told != (start.Harmed.Nth > 0)) lines += u"  told: "_s + start.Boxes.join(u" | ") + u'\n';
+  m_findings.Add(m_bench, u"a start on "_s + what, lines);
 }

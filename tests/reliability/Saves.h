@@ -35,7 +35,8 @@ struct Save {
   Telling Tells = Telling::Box;
   /// Whether the user sees at the next start that it was done. By default the tree is the one after it.
   std::function<bool(const DataTree& left, const DataTree& after)> IsDone{};
-  Continued Again{};  ///< By default the tree after it.
+  QSet<QString> MayLag{};  ///< What may still be as it was before when it was done.
+  Continued Again{};       ///< By default the tree after it.
 
   bool AtStart() const { return Prepare == nullptr; }
   bool WasDone(const DataTree& left, const DataTree& after) const {

@@ -71,6 +71,7 @@ Save CustomerDelete() {
   save.IsDone = [](const DataTree& left, const DataTree& after) {
     return left.value(CustomerFile) == after.value(CustomerFile);
   };
+  save.MayLag = {u"/Backup"_s + CustomerFile, u"/KVActiveAccounts/1003.txt"_s, u"/Backup/KVActiveAccounts/1003.txt"_s};
   return save;
 }
 
@@ -108,6 +109,7 @@ Save SpeedNumbers() {
   save.IsDone = [](const DataTree& left, const DataTree& after) {
     return left.value(u"/SpeedNumbers.txt"_s) == after.value(u"/SpeedNumbers.txt"_s);
   };
+  save.MayLag = {u"/Backup/SpeedNumbers.txt"_s};
   return save;
 }
 
@@ -137,6 +139,7 @@ Save CompletedPurge() {
   save.IsDone = [](const DataTree& left, const DataTree&) {
     return !left.contains(u"/CompletedInvoices/900.txt"_s) && !left.contains(u"/CompletedInvoices/901.txt"_s);
   };
+  save.MayLag = {u"/KarvexInvoicer/Narratives/900.txt"_s, u"/KarvexInvoicer/Narratives/901.txt"_s};
   return save;
 }
 

@@ -105,6 +105,7 @@ Save Template(const QString& name, const QByteArray& older) {
 /// A box that asks whether to print a draft is answered by yes as well.
 Save PartialSave() {
   Save save = OnInvoice(u"partial-save"_s, PostLines, u"cmdSave"_s);
+  save.MayLag = {u"/Backup"_s + Number};
   save.IsDone = [](const DataTree& left, const DataTree& after) { return left.value(Number) == after.value(Number); };
   return save;
 }
@@ -149,6 +150,7 @@ Save Commit(const QString& name, std::function<void(Desk&)> prepare, const QStri
   save.FromMenu = true;
   save.Tells = Save::Telling::SkipsRest;
   save.Again = CommittedAgain;
+  save.MayLag = {u"/Backup"_s + Number};
   save.IsDone = [](const DataTree& left, const DataTree& after) { return left.value(Number) == after.value(Number); };
   return save;
 }

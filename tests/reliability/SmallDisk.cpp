@@ -3,7 +3,9 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/statvfs.h>
+#include <unistd.h>
 #include <QByteArray>
+#include <QFile>
 
 #include "reliability/FileCalls.h"
 
@@ -11,10 +13,23 @@ namespace {
 
 constexpr const char* Plenty = "size=16m";
 
+void Tell(const char* file, const QByteArray& text) {
+  QFile out(QString::fromLatin1(file));
+  if (out.open(QIODevice::WriteOnly)) out.write(text);
+}
+
 }  // namespace
 
 void KeepMountsToOneself() {
-  if (::unshare(CLONE_NEWNS) == 0) ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
+  const auto user = ::getuid(), group = ::getgid();
+  if (::unshare(CLONE_NEWNS) != 0) {
+    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return;
+    // In there the user is who he was.
+    Tell("/proc/self/uid_map", QByteArray::number(user) + ' ' + QByteArray::number(user) + " 1");
+    Tell("/proc/self/setgroups", "deny");
+    Tell("/proc/self/gid_map", QByteArray::number(group) + ' ' + QByteArray::number(group) + " 1");
+  }
+  ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
 }
 
 SmallDisk::SmallDisk(QString folder) : m_folder(std::move(folder)) {
@@ -31,6 +46,10 @@ bool SmallDisk::Mount(unsigned long flags, const QByteArray& size) const {
 
 void SmallDisk::MakeRoom() const {
   if (!Mount(MS_REMOUNT, Plenty)) qFatal("the small disk can't be made larger");
+}
+
+void SmallDisk::RefuseWrites() const {
+  if (!Mount(MS_REMOUNT | MS_RDONLY, Plenty)) qFatal("the small disk can't be made read-only");
 }
 
 void SmallDisk::LeaveBlocks(int blocks) const {

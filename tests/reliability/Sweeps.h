@@ -46,6 +46,9 @@ class Sweep {
   void FullDisk();
   /// The same on a real file system of so many blocks, where this user may make one.
   void SmallFileSystem();
+  /// On a file system that can only be read, where this user may make one: the save is told of or goes as its place has
+  /// it, and so is a start; nothing changes, and the save works when the disk takes writes again.
+  void ReadOnly();
   /// From the unharmed trace: what is published was flushed before, and its folder behind it, before the user hears.
   void Order();
 
@@ -55,6 +58,7 @@ class Sweep {
   void Fail(const FileCalls::Plan& plan, const QString& what);
   QString JudgeFailure(const FileCalls::Plan& plan, const Outcome& outcome) const;
   QString JudgeTelling(const Outcome& outcome) const;
+  QString JudgeDone(const DataTree& files) const;
   QString JudgePublished(const FileCalls::Note& harmed, const Outcome& outcome) const;
   void GoOn(const Outcome& outcome, const QString& what);
   DataTree Wanted(const DataTree& left) const;

@@ -49,6 +49,7 @@ Findings SweepOf(const Save& save, const QString& folder, Effort effort) {
   sweep.Order();
   sweep.FullDisk();
   sweep.SmallFileSystem();
+  sweep.ReadOnly();
   sweep.ShortWrites();
   // Of a limited time the two long ones take half each.
   const auto end = effort.Deadline;
@@ -101,9 +102,9 @@ void Work(const Order& order, const QString& folder, std::atomic<std::size_t>& n
 }
 
 int Print(const Order& order, const QString& folder) {
-  const QStringList columns{u"calls"_s,           u"kills"_s,      u"restarts"_s,    u"errors"_s,
-                            u"short writes"_s,    u"full disks"_s, u"small disks"_s, u"saves done again"_s,
-                            u"renames followed"_s};
+  const QStringList columns{
+      u"calls"_s,      u"kills"_s,       u"restarts"_s,  u"errors"_s,           u"short writes"_s,
+      u"full disks"_s, u"small disks"_s, u"read-only"_s, u"saves done again"_s, u"renames followed"_s};
   std::printf("%-22s", "");
   for (const QString& column : columns) std::printf(" %16s", qPrintable(column));
   std::printf("\n");
@@ -125,6 +126,9 @@ int Print(const Order& order, const QString& folder) {
   std::printf("%-22s", "all");
   for (const QString& column : columns) std::printf(" %16d", sum[column]);
   std::printf("\n\n");
+  if (sum[u"read-only"_s] == 0) {
+    std::printf("NOT DONE: this user may mount nothing, so no real disk was filled and none was made read-only.\n");
+  }
   for (const QString& failure : failures) std::printf("%s\n", qPrintable(failure));
   if (failures.isEmpty()) {
     std::printf("Every promise held.\n");
