@@ -21,7 +21,9 @@ enum class Neglect {
   Telling,
   ClearingAway,   ///< Leaves the new file beside the old one when it fails.
   OrderOfBackup,  ///< Drops the older copy first.
-  RestOfSave      ///< Tells of a failure, and can't save afterwards.
+  RestOfSave,     ///< Tells of a failure, and can't save afterwards.
+  SeenCalls,      ///< Drops the older copy by a call that nobody looks after.
+  Doing           ///< Lets the user take for done what isn't.
 };
 
 const QString File = u"/InvoiceMemo.txt"_s;
@@ -45,7 +47,9 @@ class Writer {
       Tell();
       return;
     }
-    if (::unlink(Backup().constData()) != 0 && errno != ENOENT) Tell(u"/Backup"_s + File);
+    const int dropped =
+        Omits(Neglect::SeenCalls) ? ::unlinkat(AT_FDCWD, Backup().constData(), 0) : ::unlink(Backup().constData());
+    if (dropped != 0 && errno != ENOENT) Tell(u"/Backup"_s + File);
   }
 
  private:
@@ -99,6 +103,7 @@ CarelessSave Careless(const QString& name, Neglect neglect, const QString& found
     *failed = desk.Boxes.size() > boxes;
   };
   save.Screen = u"frmStartup"_s;
+  if (neglect == Neglect::Doing) save.IsDone = [](const DataTree&, const DataTree&) { return true; };
   return {save, found};
 }
 
@@ -115,5 +120,7 @@ std::vector<CarelessSave> CarelessSaves() {
       Careless(u"without-telling"_s, Neglect::Telling, u"the user wasn't told"_s),
       Careless(u"without-clearing-away"_s, Neglect::ClearingAway, u"left behind"_s),
       Careless(u"backup-dropped-first"_s, Neglect::OrderOfBackup, u"had its copy in the Backup folder dropped"_s),
-      Careless(u"without-a-second-try"_s, Neglect::RestOfSave, u"then saved again"_s)};
+      Careless(u"without-a-second-try"_s, Neglect::RestOfSave, u"then saved again"_s),
+      Careless(u"by-an-unseen-call"_s, Neglect::SeenCalls, u"changes by no call that is seen"_s),
+      Careless(u"taken-for-done"_s, Neglect::Doing, u"it counts as done, and"_s)};
 }
