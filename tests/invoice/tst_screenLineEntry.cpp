@@ -6,6 +6,17 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// So many hammers, the price picked from the list.
+void EnterHammersAtThePriceOfPaint(const InvoiceBench& bench, const QString& units) {
+  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
+  bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
+  bench.On().Fill(u"txtUnits"_s, units);
+}
+
+}  // namespace
+
 class ScreenLineEntry : public QObject {
   Q_OBJECT
 
@@ -67,9 +78,7 @@ void ScreenLineEntry::aServicePriceMayBeTyped() {
 void ScreenLineEntry::aPricePickedFromItsListIsTheOnePosted() {
   InvoiceBench bench;
   bench.OpenAt(u"mnuItems"_s);
-  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
-  bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
-  bench.On().Fill(u"txtUnits"_s, u"2"_s);
+  EnterHammersAtThePriceOfPaint(bench, u"2"_s);
   QCOMPARE(bench.Text(u"cboPrice_1"_s), u"$33.34"_s);
   bench.On().Click(u"cmdPost_1"_s);
   QCOMPARE(bench.Row(1), (QStringList{u"2"_s, u"Hammer"_s, QString(), u"$33.34"_s, u"$66.68"_s, u"True"_s}));
@@ -79,15 +88,11 @@ void ScreenLineEntry::theBreakFollowsThePickedPrice() {
   InvoiceBench bench;
   bench.OpenAt(u"mnuItems"_s);
   bench.On().Click(u"ckApplyVolumeDiscount"_s);
-  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
-  bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
   // Enough for the hammers' break of 5, not for the paint's of 10, whose price this is.
-  bench.On().Fill(u"txtUnits"_s, u"9"_s);
+  EnterHammersAtThePriceOfPaint(bench, u"9"_s);
   bench.On().Click(u"cmdPost_1"_s);
   QCOMPARE(bench.Row(1), (QStringList{u"9"_s, u"Hammer"_s, QString(), u"$33.34"_s, u"$300.06"_s, u"True"_s}));
-  bench.On().PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
-  bench.On().PickEntry(u"cboPrice_1"_s, u"$33.34"_s);
-  bench.On().Fill(u"txtUnits"_s, u"10"_s);
+  EnterHammersAtThePriceOfPaint(bench, u"10"_s);
   bench.On().Click(u"cmdPost_1"_s);
   QCOMPARE(bench.Row(2), (QStringList{u"10"_s, u"Hammer"_s, QString(), u"$30.00"_s, u"$300.00"_s, u"True"_s}));
 }

@@ -91,9 +91,8 @@ class ScreenTemplates : public QObject {
   void theRowThatTheTabKeyComesToIsNotSelected();
   void savingALoadedTemplateCutsThePricesFirstDigit();
   void aTemplateOfNoRecordsLoadsAnEmptyInvoice();
-  void aPriceThatIsNoNumberIsError13AndLeavesNoLines();
-  void aProductThatIsTooLargeIsError6AndLeavesNoLines();
-  void moreLinesThanTheGridHoldsAreError9AndLeaveNoLines();
+  void aTemplateThatCannotBeLoadedLeavesNoLines_data();
+  void aTemplateThatCannotBeLoadedLeavesNoLines();
   void deleteAsksAndDeletesTheListedFile();
   void deletingOneOfTwoKeepsTheButtonsEnabled();
   void cancelKeepsTheTemplate();
@@ -468,36 +467,26 @@ void ScreenTemplates::aTemplateOfNoRecordsLoadsAnEmptyInvoice() {
   QVERIFY(!bench.On().IsEnabled(u"cmdPrint"_s));
 }
 
-void ScreenTemplates::aPriceThatIsNoNumberIsError13AndLeavesNoLines() {
-  InvoiceBench bench;
-  WriteTemplate(bench, Line("3", "Hammer", "12.00", "True") + Line("1", "Crate", "cheap", "True"));
-  bench.Open();
-  ClickTemplate(bench, 0);
-  bench.On().Click(Load);
-  QCOMPARE(bench.Around.Errors, QList<int>{13});
-  QCOMPARE(bench.Invoice.LineCount, 0);
-  QCOMPARE(bench.Row(1), Blank);
+void ScreenTemplates::aTemplateThatCannotBeLoadedLeavesNoLines_data() {
+  QTest::addColumn<QByteArray>("records");
+  QTest::addColumn<int>("error");
+  const QByteArray hammer = Line("3", "Hammer", "12.00", "True");
+  QTest::newRow("a price that is no number") << hammer + Line("1", "Crate", "cheap", "True") << 13;
+  QTest::newRow("a product that is too large") << hammer + Line("1E9", "Crate", "1E300", "True") << 6;
+  QTest::newRow("more lines than the grid holds") << hammer.repeated(101) << 9;
 }
 
-void ScreenTemplates::aProductThatIsTooLargeIsError6AndLeavesNoLines() {
+void ScreenTemplates::aTemplateThatCannotBeLoadedLeavesNoLines() {
+  QFETCH(const QByteArray, records);
+  QFETCH(const int, error);
   InvoiceBench bench;
-  WriteTemplate(bench, Line("3", "Hammer", "12.00", "True") + Line("1E9", "Crate", "1E300", "True"));
+  WriteTemplate(bench, records);
   bench.Open();
   ClickTemplate(bench, 0);
   bench.On().Click(Load);
-  QCOMPARE(bench.Around.Errors, QList<int>{6});
+  QCOMPARE(bench.Around.Errors, QList<int>{error});
   QCOMPARE(bench.Invoice.LineCount, 0);
   QCOMPARE(bench.Row(1), Blank);
-}
-
-void ScreenTemplates::moreLinesThanTheGridHoldsAreError9AndLeaveNoLines() {
-  InvoiceBench bench;
-  WriteTemplate(bench, Line("3", "Hammer", "12.00", "True").repeated(101));
-  bench.Open();
-  ClickTemplate(bench, 0);
-  bench.On().Click(Load);
-  QCOMPARE(bench.Around.Errors, QList<int>{9});
-  QCOMPARE(bench.Invoice.LineCount, 0);
   QCOMPARE(bench.Row(100), Blank);
 }
 
