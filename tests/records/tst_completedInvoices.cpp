@@ -146,6 +146,21 @@ class CompletedInvoicesTest : public QObject {
     QVERIFY(!OpenCompletedInvoice(shown, m_desk->Disk, QString(), u"3/7/2026"_s));
     QCOMPARE(shown.InvoiceNo, u"1"_s);
   }
+
+  void anImageOfMoreLinesThanTheInvoiceScreenHoldsIsShown() {
+    const QByteArray head = Image("1", "Bay", "3/7/2026", "$1.00");
+    const qsizetype control = head.indexOf("Ann\r\n") + 5;
+    QByteArray many = head.first(control) + "120\r\n";
+    for (int line = 1; line <= 120; ++line)
+      many += QByteArray::number(line) + "\r\nBolt\r\n\r\n$1.00\r\n$1.00\r\nTrue\r\n";
+    Save(u"1.txt"_s, many + head.sliced(head.lastIndexOf("\"$1,024.00\"")));
+    CompletedInvoice shown;
+    QVERIFY(OpenCompletedInvoice(shown, m_desk->Disk, u"1"_s, u"3/7/2026"_s));
+    QCOMPARE(shown.fgItems.Rows(), 121);
+    QCOMPARE(shown.fgItems.Text(120, 0), u"120"_s);
+    QCOMPARE(PageOf(shown, true).LineCount, 120);
+    QCOMPARE(shown.Amounts.front(), u"$1,024.00"_s);
+  }
 };
 
 QTEST_GUILESS_MAIN(CompletedInvoicesTest)
