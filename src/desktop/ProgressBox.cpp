@@ -18,6 +18,10 @@ ProgressBox::ProgressBox(QString text, LongWork patience, Since since)
   if (since == Since::Now) m_start = m_patience.Now();
 }
 
+ProgressBox ProgressBox::OfReport(const LongWork& patience) {
+  return {u"Putting the report on its pages ..."_s, patience, Since::FirstStep};
+}
+
 ProgressBox::~ProgressBox() = default;
 
 Progress ProgressBox::Teller() {

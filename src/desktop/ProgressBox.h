@@ -19,6 +19,8 @@ class ProgressBox {
 
   /// Comes up once the work is long.
   ProgressBox(QString text, LongWork patience, Since since = Since::Now);
+  /// A report's, which counts from behind its printer dialog.
+  static ProgressBox OfReport(const LongWork& patience);
   ~ProgressBox();
   ProgressBox(const ProgressBox&) = delete;
   ProgressBox& operator=(const ProgressBox&) = delete;

@@ -123,6 +123,16 @@ bool PrinterRoutines::RunPrintJob(Dialogs& dialogs, const std::function<void()>&
   return false;
 }
 
+void PrinterRoutines::PrintRows(qint64 count, const Progress& progress,
+                                const std::function<void(const Progress& rows)>& putRows) {
+  BeginPrintJob();
+  const Progress rows = PartOf(progress, 0, 2);
+  // The first step stands behind the dialog.
+  TellStep(rows, 0, count);
+  putRows(rows);
+  m_printer.EndDoc(PartOf(progress, 1, 2));
+}
+
 void PrinterRoutines::TellStep(const Progress& progress, qint64 done, qint64 total) {
   if (!GoesOn(progress, done, total)) throw RuntimeError(ErrorNumber::DialogCancelled, {});
 }

@@ -67,6 +67,9 @@ class PrinterRoutines {
   /// Runs one job under the trap of the print routines: a cancelled dialog ends it silently, any other error with the
   /// box "A Print Error has occurred"; nothing of it stays on the surface. Answers whether it ran to its end.
   bool RunPrintJob(Dialogs& dialogs, const std::function<void()>& job);
+  /// A job of `count` rows from the printer dialog on: `putRows` puts them on their pages and tells that, then the
+  /// pages are drawn.
+  void PrintRows(qint64 count, const Progress& progress, const std::function<void(const Progress& rows)>& putRows);
   /// A step of a job of many rows. Where `progress` says to stop, RuntimeError 32755 ends the job silently.
   static void TellStep(const Progress& progress, qint64 done, qint64 total);
   /// Runs the drawing of a job; what an error leaves on the surface is dropped, and the error goes on to the caller.

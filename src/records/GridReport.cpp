@@ -24,13 +24,10 @@ GridReport::GridReport(PrinterRoutines& routines, KVPrint& pages, const Clock& c
 
 void GridReport::PrintGridReport(const ReportKind& kind, const TextMatrix& grid, const Progress& progress) {
   m_routines.DrawJob([&] {
-    m_routines.BeginPrintJob();
-    // The rows are put on their pages, then the pages are drawn. The first step stands behind the dialog.
-    const Progress rows = PartOf(progress, 0, 2);
-    PrinterRoutines::TellStep(rows, 0, grid.Rows());
-    PrintReportHeading(kind);
-    PrintReportRows(kind, grid, rows);
-    m_routines.Surface().EndDoc(PartOf(progress, 1, 2));
+    m_routines.PrintRows(grid.Rows(), progress, [&](const Progress& rows) {
+      PrintReportHeading(kind);
+      PrintReportRows(kind, grid, rows);
+    });
   });
 }
 

@@ -24,13 +24,10 @@ SalesReport::SalesReport(PrinterRoutines& routines, KVPrint& pages, const Clock&
     : m_routines(routines), m_pages(pages), m_clock(clock) {}
 
 void SalesReport::PrintItemSales(const ItemSales& sales, const SalesRange& range, const Progress& progress) {
-  m_routines.BeginPrintJob();
-  // The rows are put on their pages, then the pages are drawn. The first step stands behind the dialog.
-  const Progress rows = PartOf(progress, 0, 2);
-  PrinterRoutines::TellStep(rows, 0, sales.fgSalesItems.Rows());
-  PrintSalesHeading(range);
-  PrintSalesBody(sales, rows);
-  m_routines.Surface().EndDoc(PartOf(progress, 1, 2));
+  m_routines.PrintRows(sales.fgSalesItems.Rows(), progress, [&](const Progress& rows) {
+    PrintSalesHeading(range);
+    PrintSalesBody(sales, rows);
+  });
 }
 
 void SalesReport::PrintSalesHeading(const SalesRange& range) {

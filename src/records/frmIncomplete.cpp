@@ -93,7 +93,7 @@ void frmIncomplete::PurgeSelected() {
 
 void frmIncomplete::cmdReport() {
   try {
-    ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
+    ProgressBox progress = ProgressBox::OfReport(m_desk.Patience);
     m_desk.Reports.PrintGridReport({u"Incomplete Invoices Report"_s}, m_desk.Partials.fgIncomplete, progress.Teller());
   } catch (const RuntimeError& error) {
     // Alone among the print buttons this one has no message of its own; only a cancelled dialog, or a stop, is nothing

@@ -187,7 +187,7 @@ void frmReprint::cmdPrint() {
 
 void frmReprint::cmdReport() {
   m_desk.Routines.RunPrintJob(m_desk.Boxes, [this] {
-    ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
+    ProgressBox progress = ProgressBox::OfReport(m_desk.Patience);
     m_desk.Reports.PrintGridReport({u"Invoices Report"_s, ReportAmounts::Printed}, m_desk.Completed.fgReceivables,
                                    progress.Teller());
   });

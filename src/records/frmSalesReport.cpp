@@ -135,7 +135,7 @@ bool frmSalesReport::LoadGrid() {
 
 void frmSalesReport::PrintReport() {
   const bool printed = m_desk.Routines.RunPrintJob(m_desk.Boxes, [this] {
-    ProgressBox progress(u"Putting the report on its pages ..."_s, m_desk.Patience, ProgressBox::Since::FirstStep);
+    ProgressBox progress = ProgressBox::OfReport(m_desk.Patience);
     m_desk.Report.PrintItemSales(m_desk.Sales, m_desk.Range, progress.Teller());
   });
   if (printed) m_cmdSales[4]->setEnabled(false);
