@@ -138,7 +138,7 @@ void MeasureCompleted() {
       MustHold(UpdateMainMenu(context).Visible[2], u"the menu offers the completed invoices"_s);
     });
   };
-  Report(u"200 times the menu's first tests after a start, over the same calls raw"_s,
+  Report(u"200 times the menu's first tests at 10,000, over the raw calls"_s,
          MediansOf(
              7, [&] { firstMenu(large); }, [&] { Repeat([&] { LookByTheSystemAlone(large.Tree.path()); }); }),
          2);
