@@ -18,6 +18,7 @@ class PlainPrinter final : public Printer {
   float TextWidth(const QString& text) const override { return 120.0F * static_cast<float>(text.size()); }
   float TextHeight(const QString&) const override { return 240; }
   void PrintLine(const QString&) override {
+    ++m_lines;
     CurrentX = 0;
     CurrentY += 240;
   }
@@ -35,10 +36,12 @@ class PlainPrinter final : public Printer {
   using Printer::EndDoc;
   void EndDoc(const Progress&) override {}
   void KillDoc() override {}
+  qsizetype Lines() const { return m_lines; }
 
  private:
   int m_size = 10;
   bool m_bold = false;
+  qsizetype m_lines = 0;
   int m_page = 1;
   quint32 m_color = 0;
 };

@@ -1,5 +1,8 @@
 // Wrapped text on the recording surface. At 10 points a digit is 111.21875 twips wide and a blank 55.5625, so that
 // "00 " is 278 twips exactly; a line is 223.453125 high.
+#include <QElapsedTimer>
+
+#include "fuzz/PlainPrinter.h"
 #include "runtime/RuntimeError.h"
 #include "support/PageFixture.h"
 
@@ -18,6 +21,7 @@ class TestWrapping : public QObject {
   void aFirstWordThatIsTooWideIsPrintedAlone();
   void aWideWordInTheMiddleIsPrintedAlone();
   void emptyTextPrintsOneBlankLine();
+  void aMillionLinesOfOneTextWrapAtOnce();
   void linesAddUpUnrounded();
   void theCursorIsRoundedToWholeTwips();
   void aCursorBeyond16BitsIsAnOverflow();
@@ -85,6 +89,20 @@ void TestWrapping::emptyTextPrintsOneBlankLine() {
   QCOMPARE(static_cast<double>(f.Paper.CurrentY), 1223.453125);
   f.Paper.EndDoc();
   QCOMPARE(f.Paper.Words(1), QStringList());
+}
+
+void TestWrapping::aMillionLinesOfOneTextWrapAtOnce() {
+  // Two words of 240 twips with their blanks to a line of 490. What is left of the text is never copied line by line.
+  PlainPrinter paper;
+  PrintAppearance look;
+  CommonDialog dialog;
+  PrinterRoutines routines(paper, look, dialog);
+  constexpr qsizetype lines = 1'000'000;
+  QElapsedTimer time;
+  time.start();
+  routines.PrintWrapped(500, 1000, 510, u"0 1 "_s.repeated(lines));
+  QVERIFY2(time.elapsed() < 10'000, qPrintable(QString::number(time.elapsed())));
+  QCOMPARE(paper.Lines(), lines);
 }
 
 void TestWrapping::linesAddUpUnrounded() {
