@@ -59,7 +59,7 @@ void Try(Act act) {
 /// The lines of the file as the texts that boxes and cells hold.
 void Convert(ReaderDesk& desk) {
   ListReader file = desk.Disk().OpenInputFile(u"/Numbers.txt"_s);
-  for (int line = 0; line < 100 && !file.AtEnd(); ++line) {
+  for (int line = 0; line < 20 && !file.AtEnd(); ++line) {
     const QString text = file.ReadLine();
     IsNumeric(text);
     const double number = ParseLeadingNumber(text);
