@@ -50,12 +50,15 @@ QString FromCodePage(QByteArrayView bytes) {
 
 std::array<char, 256> CapitalsOfCodePage() {
   std::array<char, 256> capitals{};
-  for (std::size_t i = 0; i < capitals.size(); ++i) {
-    const char byte = static_cast<char>(i);
-    const QString letter = FromCodePage(QByteArrayView(&byte, 1));
-    const QString capital = letter.toUpper();
-    const QByteArray bytes = ToCodePage(capital);
-    capitals[i] = bytes.size() == 1 && FromCodePage(bytes) == capital ? bytes[0] : byte;
+  QByteArray all;
+  for (int i = 0; i < 256; ++i) all.append(static_cast<char>(i));
+  // All at a time: each conversion has its price, whatever its length.
+  QString letters = FromCodePage(all);
+  for (QChar& letter : letters) letter = letter.toUpper();
+  const QByteArray bytes = ToCodePage(letters);
+  const QString readBack = FromCodePage(bytes);
+  for (qsizetype i = 0; i < all.size(); ++i) {
+    capitals[static_cast<std::size_t>(i)] = readBack[i] == letters[i] ? bytes[i] : all[i];
   }
   return capitals;
 }
