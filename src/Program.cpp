@@ -132,7 +132,7 @@ void Program::UserClosed() {
 void Program::UnhandledError(const RuntimeError& error) {
   if (m_ended) return;
   const bool ends = m_starting || error.From() == RuntimeError::Origin::FileContent;
-  m_platform.Boxes->ShowMessage(ErrorBoxText(error, ends));
+  m_platform.Boxes->ShowMessage(ErrorBoxText(error, ends, m_platform.DataRoot));
   // Without the exit backup: it would overwrite good copies with what may be damaged.
   if (ends) {
     EndProcess();

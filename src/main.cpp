@@ -32,7 +32,7 @@ int main(int argc, char* argv[]) {
     root = ChooseDataRoot(files, programFile.absolutePath(),
                           QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
   } catch (const RuntimeError& error) {
-    dialogs.ShowMessage(ErrorBoxText(error, true));
+    dialogs.ShowMessage(ErrorBoxText(error, true, root));
     return 1;
   }
 

@@ -95,7 +95,7 @@ void PaperPrinter::SendToPdf(const PaperJob& job, const QString& path, const Pro
   try {
     m_store.ReplaceWhole(path, content);
   } catch (const RuntimeError& error) {
-    throw RuntimeError(ErrorNumber::PrinterError, path, error.Text());
+    throw RuntimeError::AtPath(ErrorNumber::PrinterError, path, error.Text());
   }
 }
 

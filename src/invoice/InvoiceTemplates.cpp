@@ -87,7 +87,7 @@ bool IsSelected(const TemplateDesk& desk, const QString& fileName) {
 RuntimeError LoadFailure(const RuntimeError& error, const CommonDiskRoutines& disk, const QString& fileName) {
   const QString opened = disk.PathOf(OpenedName(fileName));
   const QString counted = disk.PathOf(CountedName(fileName));
-  QString subject = error.Subject().startsWith(u'\\') ? disk.PathOf(error.Subject()) : error.Subject();
+  QString subject = error.ShownSubject(disk.DataRoot());
   QString text = error.Text();
   QString advice;
   switch (error.Number()) {
@@ -112,7 +112,7 @@ RuntimeError LoadFailure(const RuntimeError& error, const CommonDiskRoutines& di
     default:
       advice = UsualRemedy(error);
   }
-  return RuntimeError(error.Number(), subject, text)
+  return RuntimeError::AtPath(error.Number(), subject, text)
       .WithAdvice(advice + u" The invoice was cleared for the load: enter again what it held."_s);
 }
 

@@ -60,7 +60,7 @@ QString FolderOf(const QString& path) {
 }
 
 void RaiseFileError(qint64 result, const QString& path) {
-  throw RuntimeError(NumberOf(static_cast<int>(-result), path), path);
+  throw RuntimeError::AtPath(NumberOf(static_cast<int>(-result), path), path);
 }
 
 void CheckFile(qint64 result, const QString& path) {
@@ -68,8 +68,9 @@ void CheckFile(qint64 result, const QString& path) {
 }
 
 void RaiseLinkedFolder(const QString& path) {
-  throw RuntimeError(ErrorNumber::PathFileAccess, path,
-                     u"It is a link to another place, and the program changes nothing outside its own folder."_s)
+  throw RuntimeError::AtPath(
+      ErrorNumber::PathFileAccess, path,
+      u"It is a link to another place, and the program changes nothing outside its own folder."_s)
       .WithAdvice(u"Put a folder with what the link leads to in the link's place, then try again. Nothing was lost."_s);
 }
 
@@ -79,6 +80,6 @@ void CheckNoLink(const QString& path) {
 }
 
 void CheckFolder(qint64 result, const QString& path) {
-  if (result == -ENOENT) throw RuntimeError(ErrorNumber::PathNotFound, path);
+  if (result == -ENOENT) throw RuntimeError::AtPath(ErrorNumber::PathNotFound, path);
   CheckFile(result, path);
 }

@@ -166,7 +166,8 @@ QByteArray FileStore::ReadWhole(const QString& path) const {
   const qint64 size = Size(path);
   // Refused by its name, and not by memory that runs out while it is read.
   if (size > LargestWholeFile) {
-    throw RuntimeError(ErrorNumber::Overflow, path, u"The file is larger than any that the program can read."_s);
+    throw RuntimeError::AtPath(ErrorNumber::Overflow, path,
+                               u"The file is larger than any that the program can read."_s);
   }
   return ReadPart(path, 0, size);
 }
@@ -264,7 +265,7 @@ void FileStore::WriteInPlace(const QString& path, qint64 offset, const QByteArra
   if (isNew) {
     Discard(path);
   } else if (taken > 0 && !PutBack(path, before, offset, lengthBefore)) {
-    throw RuntimeError(ErrorNumber::DeviceError, path);
+    throw RuntimeError::AtPath(ErrorNumber::DeviceError, path);
   }
   RaiseFileError(failed, path);
 }

@@ -51,6 +51,21 @@ RuntimeError::RuntimeError(int number, QString subject, QString text, Origin ori
   m_what = u"error %1, %2: %3"_s.arg(m_number).arg(m_subject, m_text).toUtf8();
 }
 
+RuntimeError RuntimeError::AtPath(int number, const QString& path) {
+  return AtPath(number, path, TextOf(number));
+}
+
+RuntimeError RuntimeError::AtPath(int number, const QString& path, const QString& text) {
+  RuntimeError error(number, path, text);
+  error.m_isFullPath = true;
+  return error;
+}
+
+QString RuntimeError::ShownSubject(const QString& dataRoot) const {
+  if (m_isFullPath || !IsAboutFile()) return m_subject;
+  return dataRoot + QString(m_subject).replace(u'\\', u'/');
+}
+
 RuntimeError RuntimeError::WithAdvice(const QString& advice) const {
   RuntimeError advised = *this;
   advised.m_advice = advice;

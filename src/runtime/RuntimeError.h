@@ -30,14 +30,21 @@ class RuntimeError : public std::exception {
   /// ends the event only.
   enum class Origin { Event, FileContent };
 
-  /// `subject` names the file (root-relative name or full path) or the box; empty where there is none.
+  /// `subject` names the file (by its root-relative name) or the box; empty where there is none.
   RuntimeError(int number, QString subject, Origin origin = Origin::Event);
   RuntimeError(int number, QString subject, QString text, Origin origin = Origin::Event);
+
+  /// About a file or folder that is named by its full path, inside the data root or not.
+  static RuntimeError AtPath(int number, const QString& path);
+  static RuntimeError AtPath(int number, const QString& path, const QString& text);
 
   int Number() const { return m_number; }
   const QString& Subject() const { return m_subject; }
   /// Whether the subject is a file: its name or path begins with a separator, which no box's name does.
   bool IsAboutFile() const { return m_subject.startsWith(u'/') || m_subject.startsWith(u'\\'); }
+  /// The subject as the user reads it: a file always by its full path, so that it is found where several businesses
+  /// have their folders; a box by its name.
+  QString ShownSubject(const QString& dataRoot) const;
   /// One sentence for the user, without the subject.
   const QString& Text() const { return m_text; }
   Origin From() const { return m_origin; }
@@ -55,6 +62,7 @@ class RuntimeError : public std::exception {
  private:
   int m_number;
   QString m_subject;
+  bool m_isFullPath = false;
   QString m_text;
   QString m_advice;
   Origin m_origin;

@@ -38,7 +38,7 @@ void LoadLogo(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTes
 
 void LoadPicture(CommonDiskRoutines& disk, PrintAppearance& print, const QString& path, const PictureTest& isPicture) {
   const QByteArray content = disk.Store().ReadWhole(path);
-  if (!isPicture(content)) throw RuntimeError(ErrorNumber::InvalidPicture, path);
+  if (!isPicture(content)) throw RuntimeError::AtPath(ErrorNumber::InvalidPicture, path);
   print.Logo = content;
 }
 

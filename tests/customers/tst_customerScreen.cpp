@@ -300,9 +300,9 @@ class CustomerScreenTest : public QObject {
   void aFullFileTakesNoMoreAndOffersNoCancel() {
     CustomerDesk desk(BusinessRecord("1", "One") + QByteArray(328 * 32766, ' '));
     desk.Open();
-    desk.Program.Answers.Ok(
-        u"/CustomerData.txt: The customer file is full: it holds 32,767 customers. (error 6)\n\n"
-        "Delete one first. Nothing was lost."_s);
+    desk.Program.Answers.Ok(desk.Program.Tree.Path(u"/CustomerData.txt"_s) +
+                            u": The customer file is full: it holds 32,767 customers. (error 6)\n\n"
+                            "Delete one first. Nothing was lost."_s);
     desk.Driver().Trigger(u"mnuAdd"_s);
     QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
     QCOMPARE(desk.Box(0), u"1"_s);

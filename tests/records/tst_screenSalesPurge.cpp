@@ -143,9 +143,10 @@ class ScreenSalesPurge : public QObject {
     QVERIFY(desk.Open());
     desk.Agree();
     desk.Program.Answers.Ok(
-        u"/SoldItems.txt: A number is too large for its place. (error 6)\n\nIt holds more than 32,767 records, and "
-        u"from so "
-        u"many none can be deleted. Nothing was lost."_s,
+        desk.Program.Tree.Path(u"/SoldItems.txt"_s) +
+            u": A number is too large for its place. (error 6)\n\nIt holds more than 32,767 records, and "
+            u"from so "
+            u"many none can be deleted. Nothing was lost."_s,
         u"Karvex Invoicer"_s);
     Desk::Purge();
     QCOMPARE(desk.Program.Tree.Bytes(File), full);

@@ -379,7 +379,7 @@ void Mirror::CheckDamaged(ProgramFixture& program, const Subject& subject, QMap<
   QVERIFY(!program.Start());
   QVERIFY(program.Running().HasEnded());
   const QString text = program.Answers.Last().Text;
-  QVERIFY2(text.startsWith(subject.File + u": "_s), qPrintable(text));
+  QVERIFY2(text.startsWith(program.Tree.Path(subject.File) + u": "_s), qPrintable(text));
   QVERIFY2(text.contains(u"The program ends and leaves all files as they are."_s), qPrintable(text));
   QCOMPARE(program.Tree.Everything(), expected);
 }
@@ -420,7 +420,7 @@ void Mirror::aFileThatIsFoundUnreadableLaterEndsTheProgramWithoutTheExitBackup()
   program.Answers.Ok({}, u"Karvex Invoicer"_s);
   ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdCustomer_1"_s);
   const QString text = program.Answers.Last().Text;
-  QVERIFY2(text.startsWith(file + u": "_s), qPrintable(text));
+  QVERIFY2(text.startsWith(program.Tree.Path(file) + u": "_s), qPrintable(text));
   QVERIFY(program.Running().HasEnded());
   QCOMPARE(program.Tree.Bytes(file), bytes);
   QCOMPARE(program.Tree.Bytes(u"/Backup"_s + file), "the good copy");

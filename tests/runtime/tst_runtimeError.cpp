@@ -47,6 +47,30 @@ class RuntimeErrorTest : public QObject {
     QCOMPARE(error.what(), "error 62, /Other.txt: Words of its own.");
   }
 
+  void theUserReadsEveryFileByItsFullPath() {
+    const QString root = u"/home/me/oranges"_s;
+    const auto shown = [&](const RuntimeError& error) { return error.ShownSubject(root); };
+    QCOMPARE(shown(RuntimeError(62, u"/Phone.txt"_s)), u"/home/me/oranges/Phone.txt"_s);
+    QCOMPARE(shown(RuntimeError(62, u"\\SoldItems.txt"_s)), u"/home/me/oranges/SoldItems.txt"_s);
+    QCOMPARE(shown(RuntimeError(13, {}).AsFileContent(u"\\KarvexProposals\\b.txt"_s)),
+             u"/home/me/oranges/KarvexProposals/b.txt"_s);
+    QCOMPARE(shown(RuntimeError::AtPath(70, u"/home/me/oranges/Phone.txt"_s)), u"/home/me/oranges/Phone.txt"_s);
+    // A file elsewhere stays what it is, whatever its path begins with.
+    QCOMPARE(shown(RuntimeError::AtPath(481, u"/pictures/logo.png"_s)), u"/pictures/logo.png"_s);
+    QCOMPARE(shown(RuntimeError::AtPath(61, u"/a\\b.pdf"_s).WithAdvice(u"Make room."_s)), u"/a\\b.pdf"_s);
+    QCOMPARE(shown(RuntimeError(13, u"txtUnits"_s)), u"txtUnits"_s);
+    QCOMPARE(shown(RuntimeError(9, {})), QString());
+  }
+
+  void anErrorAtAPathSaysTheUsualOrItsOwn() {
+    const RuntimeError usual = RuntimeError::AtPath(61, u"/a/b"_s);
+    QCOMPARE(usual.Number(), 61);
+    QCOMPARE(usual.Subject(), u"/a/b"_s);
+    QCOMPARE(usual.Text(), u"The disk is full."_s);
+    QCOMPARE(usual.From(), RuntimeError::Origin::Event);
+    QCOMPARE(RuntimeError::AtPath(61, u"/a/b"_s, u"Own."_s).Text(), u"Own."_s);
+  }
+
   void theWholeErrorCanBeRead() {
     QCOMPARE(RuntimeError(61, u"/Labor.txt"_s).what(), "error 61, /Labor.txt: The disk is full.");
     QCOMPARE(RuntimeError(13, u"%2 %1"_s, u"%1."_s).what(), "error 13, %2 %1: %1.");

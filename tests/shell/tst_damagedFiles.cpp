@@ -99,7 +99,7 @@ void DamagedFiles::aLogoThatIsNoPictureEndsTheStartAndChangesNothing() {
   // The file of the tree that names it comes first: the picture is the user's own, and stays his.
   QCOMPARE(
       program.Answers.Last().Text,
-      u"/CompanyLogo.txt: It names "_s + path +
+      program.Tree.Path(u"/CompanyLogo.txt"_s) + u": It names "_s + path +
           u" as the logo, and that file can't be read as a picture. (error 481)\n\nThe program ends and leaves all "
           u"files as they are. Put a picture in that place, or move what stands there elsewhere; or remove "
           u"CompanyLogo.txt and its copy in the Backup folder. Then start the program again."_s);
@@ -169,7 +169,8 @@ void DamagedFiles::theTreeAndItsCustomersComeBeforeTheSettings() {
   program.Answers.Ok();
   QVERIFY(!program.Start());
   QCOMPARE(program.Answers.Boxes().size(), 1);
-  QVERIFY2(program.Answers.Last().Text.startsWith(u"/CustomerData.txt: "_s), qPrintable(program.Answers.Last().Text));
+  QVERIFY2(program.Answers.Last().Text.startsWith(program.Tree.Path(u"/CustomerData.txt"_s) + u": "_s),
+           qPrintable(program.Answers.Last().Text));
 }
 
 void DamagedFiles::aDamagedSettingLeavesTheWholeTreeMade() {
@@ -177,7 +178,8 @@ void DamagedFiles::aDamagedSettingLeavesTheWholeTreeMade() {
   program.Tree.Write(u"/MyBusinessData.txt"_s, "");
   program.Answers.Ok();
   QVERIFY(!program.Start());
-  QVERIFY2(program.Answers.Last().Text.startsWith(u"/MyBusinessData.txt: "_s), qPrintable(program.Answers.Last().Text));
+  QVERIFY2(program.Answers.Last().Text.startsWith(program.Tree.Path(u"/MyBusinessData.txt"_s) + u": "_s),
+           qPrintable(program.Answers.Last().Text));
   QStringList folders;
   QDirIterator tree(program.Tree.Root(), QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
   while (tree.hasNext()) folders.append(tree.next().mid(program.Tree.Root().size()));

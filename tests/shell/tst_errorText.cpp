@@ -5,35 +5,42 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const QString Root = u"/home/me/oranges"_s;
+
+}  // namespace
+
 class ErrorTextTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void itTellsWhatHappenedToWhichFileAndWhatToDo() {
-    QCOMPARE(ErrorBoxText(RuntimeError(61, u"/data/Labor.txt"_s), false),
+    QCOMPARE(ErrorBoxText(RuntimeError::AtPath(61, u"/data/Labor.txt"_s), false, Root),
              u"/data/Labor.txt: The disk is full. (error 61)\n\nMake room on it and try again. Nothing was lost."_s);
   }
 
   void anErrorOfNoFileOrBoxBeginsWithWhatHappened() {
-    QVERIFY(ErrorBoxText(RuntimeError(9, {}), false)
+    QVERIFY(ErrorBoxText(RuntimeError(9, {}), false, Root)
                 .startsWith(u"A line or entry was asked for that isn't there. (error 9)\n\n"_s));
   }
 
   void noErrorOfAFileTellsThatItIsAsItWas() {
     // The new file may stand already, when only its folder couldn't be flushed.
     for (const int number : {61, 70, 75}) {
-      const QString text = ErrorBoxText(RuntimeError(number, u"/data/Labor.txt"_s), false);
+      const QString text = ErrorBoxText(RuntimeError::AtPath(number, u"/data/Labor.txt"_s), false, Root);
       QVERIFY2(text.endsWith(u" Nothing was lost."_s) && !text.contains(u"unchanged"_s), qPrintable(text));
     }
   }
 
   void aRecordThatMayBeDamagedIsNotCalledSafe() {
-    QVERIFY(!ErrorBoxText(RuntimeError(57, u"/data/SoldItems.txt"_s), false).contains(u"Nothing was lost"_s));
+    QVERIFY(
+        !ErrorBoxText(RuntimeError::AtPath(57, u"/data/SoldItems.txt"_s), false, Root).contains(u"Nothing was lost"_s));
   }
 
   void damageTellsThatTheProgramEndsAndHowToMendIt() {
-    const QString text = ErrorBoxText(RuntimeError(62, u"/Phone.txt"_s).AsFileContent(u"/Phone.txt"_s), true);
-    QVERIFY(text.startsWith(u"/Phone.txt: The file ends too early. (error 62)\n\n"_s));
+    const QString text = ErrorBoxText(RuntimeError(62, u"/Phone.txt"_s).AsFileContent(u"/Phone.txt"_s), true, Root);
+    QVERIFY(text.startsWith(u"/home/me/oranges/Phone.txt: The file ends too early. (error 62)\n\n"_s));
     QVERIFY(text.contains(u"The program ends"_s));
     QVERIFY(text.contains(u"Backup"_s));
   }
@@ -42,43 +49,46 @@ class ErrorTextTest : public QObject {
     const RuntimeError damage =
         RuntimeError(62, u"/SpeedNumbers.txt"_s, u"It is cut."_s, RuntimeError::Origin::FileContent)
             .WithAdvice(u"Remove it."_s);
-    QCOMPARE(ErrorBoxText(damage, true),
-             u"/SpeedNumbers.txt: It is cut. (error 62)\n\nThe file can't be read as what it must be. The program ends "
+    QCOMPARE(ErrorBoxText(damage, true, Root),
+             u"/home/me/oranges/SpeedNumbers.txt: It is cut. (error 62)\n\nThe file can't be read as what it must be. "
+             u"The program ends "
              u"and leaves all files as they are. Remove it."_s);
   }
 
   void aLogoThatIsNoPictureIsNotAdvisedAway() {
     const RuntimeError damage(481, u"/CompanyLogo.txt"_s, u"It names /home/me/logo.png."_s,
                               RuntimeError::Origin::FileContent);
-    QCOMPARE(ErrorBoxText(damage, true),
-             u"/CompanyLogo.txt: It names /home/me/logo.png. (error 481)\n\nThe program ends and leaves all files as "
+    QCOMPARE(ErrorBoxText(damage, true, Root),
+             u"/home/me/oranges/CompanyLogo.txt: It names /home/me/logo.png. (error 481)\n\nThe program ends and "
+             u"leaves all files as "
              u"they are. Put a picture in that place, or move what stands there elsewhere; or remove CompanyLogo.txt "
              u"and its copy in the Backup folder. Then start the program again."_s);
   }
 
   void aFileThatWasAskedForAndCannotBeReadIsToBeMended() {
     for (const int number : {6, 9, 13, 62}) {
-      const QString text = ErrorBoxText(RuntimeError(number, u"/a/20260001.txt"_s), false);
+      const QString text = ErrorBoxText(RuntimeError(number, u"/a/20260001.txt"_s), false, Root);
       QVERIFY2(text.endsWith(u"\n\nMend the file or remove it, then try again. Nothing was lost."_s), qPrintable(text));
     }
   }
 
   void theAdviceIsThatOfAFileHoweverItIsNamed() {
     for (const QString& subject : {u"/Labor.txt"_s, u"\\Labor.txt"_s}) {
-      QVERIFY(ErrorBoxText(RuntimeError(13, subject), false).contains(u"Mend the file or remove it"_s));
+      QVERIFY(ErrorBoxText(RuntimeError(13, subject), false, Root).contains(u"Mend the file or remove it"_s));
     }
-    QVERIFY(ErrorBoxText(RuntimeError(13, u"txtUnits"_s), false).contains(u"Correct what was typed"_s));
+    QVERIFY(ErrorBoxText(RuntimeError(13, u"txtUnits"_s), false, Root).contains(u"Correct what was typed"_s));
   }
 
   void anErrorAtTheStartTellsThatNothingWasChanged() {
-    const QString text = ErrorBoxText(RuntimeError(70, u"/data/AuxFiles"_s), true);
+    const QString text = ErrorBoxText(RuntimeError::AtPath(70, u"/data/AuxFiles"_s), true, Root);
     QVERIFY(text.contains(u"can't start"_s));
     QVERIFY(!text.contains(u"Backup"_s));
   }
 
   void anErrorsOwnAdviceStandsInPlaceOfTheUsualOne() {
     const RuntimeError error = RuntimeError(6, u"/Services.txt"_s, u"It is full."_s).WithAdvice(u"Delete one."_s);
-    QCOMPARE(ErrorBoxText(error, false), u"/Services.txt: It is full. (error 6)\n\nDelete one."_s);
+    QCOMPARE(ErrorBoxText(error, false, Root),
+             u"/home/me/oranges/Services.txt: It is full. (error 6)\n\nDelete one."_s);
   }
 
   void everyErrorSaysWhatToDo_data() {
@@ -100,7 +110,7 @@ class ErrorTextTest : public QObject {
   void everyErrorSaysWhatToDo() {
     QFETCH(int, number);
     QFETCH(QString, advice);
-    QVERIFY(ErrorBoxText(RuntimeError(number, u"x"_s), false).contains(advice));
+    QVERIFY(ErrorBoxText(RuntimeError(number, u"x"_s), false, Root).contains(advice));
   }
 };
 

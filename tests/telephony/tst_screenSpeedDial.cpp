@@ -301,7 +301,8 @@ void ScreenSpeedDial::elevenPairsNameTheFileAndChangeNothing() {
   desk.Program.Answers.Ok();
   PhoneDesk::Customers().Click(u"Image1_1"_s);
   const QString text = desk.Program.Answers.Last().Text;
-  QVERIFY2(text.startsWith(u"/SpeedNumbers.txt: It holds more than 10 speed-dial numbers. (error 9)"_s),
+  QVERIFY2(text.startsWith(desk.Program.Tree.Path(u"/SpeedNumbers.txt"_s) +
+                           u": It holds more than 10 speed-dial numbers. (error 9)"_s),
            qPrintable(text));
   // A data file beyond its limit ends the program, without the exit backup.
   QVERIFY(desk.Program.Running().HasEnded());
@@ -317,10 +318,11 @@ void ScreenSpeedDial::aNameWithoutItsNumberTellsWhatToDo() {
   PhoneDesk::Customers().Click(u"Image1_1"_s);
   QCOMPARE(
       desk.Program.Answers.Last().Text,
-      u"/SpeedNumbers.txt: Its last name has no number. (error 62)\n\n"
-      "The file can't be read as what it must be. The program ends and leaves all files as they are. "
-      "Remove SpeedNumbers.txt from the program's data folder, which empties the speed-dial buttons, or mend it: "
-      "two lines for each entry, its name and its number, and 10 entries at most. Then start the program again."_s);
+      desk.Program.Tree.Path(u"/SpeedNumbers.txt"_s) +
+          u": Its last name has no number. (error 62)\n\n"
+          "The file can't be read as what it must be. The program ends and leaves all files as they are. "
+          "Remove SpeedNumbers.txt from the program's data folder, which empties the speed-dial buttons, or mend it: "
+          "two lines for each entry, its name and its number, and 10 entries at most. Then start the program again."_s);
   QVERIFY(desk.Program.Running().HasEnded());
   QCOMPARE(desk.Bytes(), damaged);
   // What it advises helps.
