@@ -2,8 +2,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "desktop/Logo.h"
 #include "desktop/PaperPrinter.h"
-#include "desktop/Pictures.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/SerialLine.h"
 #include "desktop/Style.h"

@@ -36,7 +36,12 @@ void PictureButton::paintEvent(QPaintEvent* event) {
     painter.setOpacity(isEnabled() ? (isDown() ? 0.8 : 1.0) : 0.4);
     QRect target(QPoint(), m_picture.deviceIndependentSize().toSize().scaled(room.size(), Qt::KeepAspectRatio));
     target.moveCenter(room.center());
-    painter.drawPixmap(target, m_picture);
+    // To scale a picture, even by nothing, the toolkit starts threads.
+    if (target.size() == m_picture.deviceIndependentSize().toSize()) {
+      painter.drawPixmap(target.topLeft(), m_picture);
+    } else {
+      painter.drawPixmap(target, m_picture);
+    }
     painter.setOpacity(1.0);
   }
   if (hasFocus()) {

@@ -1,11 +1,9 @@
-/// The program's own drawing, shipped inside the program file, and the signs on its clickable pictures.
+/// The signs on the clickable pictures.
 #pragma once
 
 #include <QPixmap>
 
 class QPalette;
-
-QPixmap LogoPicture();
 
 enum class Picture { Next, Clear, Reload, Telephone };
 

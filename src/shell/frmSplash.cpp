@@ -1,6 +1,6 @@
 #include "shell/frmSplash.h"
 
-#include "desktop/Pictures.h"
+#include "desktop/Logo.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/DataTree.h"
 #include "shell/Screens.h"

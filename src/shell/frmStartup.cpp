@@ -3,7 +3,7 @@
 #include <QButtonGroup>
 #include <QMouseEvent>
 
-#include "desktop/Pictures.h"
+#include "desktop/Logo.h"
 #include "runtime/Dialogs.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/frmOrderMenu.h"
