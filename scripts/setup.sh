@@ -15,17 +15,20 @@ for package in $wanted; do
 done
 [ -n "$missing" ] || exit 0
 echo "Installing Debian packages:$missing"
-as_root=
+as_root=env
 if [ "$(id -u)" -ne 0 ]; then
   command -v sudo >/dev/null 2>&1 || { echo "Please run as root: apt-get install$missing" >&2; exit 1; }
-  as_root=sudo
+  as_root='sudo env'
 fi
 log=$(mktemp)
-export DEBIAN_FRONTEND=noninteractive
+trap 'rm -f "$log"' EXIT
+# Handed over by env: sudo drops what is merely exported, and a package's question would wait for an answer unseen.
 # shellcheck disable=SC2086
-if ! { $as_root apt-get update && $as_root apt-get install -y --no-install-recommends $missing; } >"$log" 2>&1; then
+if ! {
+  $as_root apt-get update &&
+    $as_root DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends $missing
+} >"$log" 2>&1; then
   cat "$log" >&2
   echo "The packages could not be installed." >&2
   exit 1
 fi
-rm -f "$log"
