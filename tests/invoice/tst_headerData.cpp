@@ -39,6 +39,15 @@ class HeaderDataTest : public QObject {
     QCOMPARE(invoice.lblCustomer, (std::array<QString, 12>{}));
   }
 
+  void anotherCustomerLeavesTheShipToBlockAsItStands() {
+    WorkingInvoice& invoice = m_desk->Invoice;
+    const std::array<QString, 7> before{u"Barn"_s, u"2 Hay Ln"_s, u""_s, u"Lynn"_s, u"MA"_s, u"01901"_s, u"Ann"_s};
+    invoice.txtShipto = before;
+    TakeSoldTo(invoice, {u"1001"_s, {u"Bay Farm"_s, u"1 Dock Rd"_s, u""_s, u"Salem"_s, u"MA"_s, u"01970"_s, u"555"_s}});
+    ShowCustomer(invoice);
+    QCOMPARE(invoice.txtShipto, before);
+  }
+
   void sameAsSoldToCopiesSixLinesAndNotTheAttentionLine() {
     WorkingInvoice& invoice = m_desk->Invoice;
     for (size_t i = 0; i < 12; ++i) invoice.lblCustomer[i] = QString::number(i);
