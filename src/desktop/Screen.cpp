@@ -6,7 +6,9 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <vector>
 
@@ -79,6 +81,7 @@ void Screen::keyPressEvent(QKeyEvent* event) {
 
 bool Screen::event(QEvent* event) {
   if (event->type() == QEvent::Polish) {
+    LeaveRoomForMenuBar();
     // The Tab key goes from box to box, also out of boxes of several lines.
     for (QPlainTextEdit* lines : findChildren<QPlainTextEdit*>()) {
       lines->setTabChangesFocus(true);
@@ -91,6 +94,14 @@ bool Screen::event(QEvent* event) {
     }
   }
   return QMainWindow::event(event);
+}
+
+void Screen::LeaveRoomForMenuBar() {
+  const bool isTitled = findChild<QLabel*>(QStringLiteral("lblHeading")) != nullptr;
+  if (menuWidget() != nullptr || !isTitled) return;
+  QMenuBar bar;
+  bar.addMenu(objectName());
+  setContentsMargins(0, bar.sizeHint().height(), 0, 0);
 }
 
 void Screen::OnEnter(QWidget* control, std::function<void()> handler) {

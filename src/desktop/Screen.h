@@ -119,6 +119,8 @@ class Screen : public QMainWindow {
  private:
   struct State;
   TypedText& Typed(QWidget* box);
+  /// So that the titles of all screens stand at one height, with a menu bar above them or without.
+  void LeaveRoomForMenuBar();
   /// Sets the focus that the activation asked for, now that the window is visible.
   void ApplyPendingFocus();
 

@@ -12,10 +12,11 @@
 ///   "primary"      the button of the way forward, one per view
 ///   "destructive"  a button that deletes; it stands apart from the others
 ///
-/// All screens are built alike, top to bottom: a title row (title left), the form or grid, which takes the room that is
-/// left, and the row of actions: "Menu" at its left end, a spacer, the others, and the way forward at its right end.
-/// The style gives a margin of 16 around a window and on a tab's page, 8 inside, and a spacing of 8; a group that has
-/// the room takes 16. Boxes and buttons are as high as the style makes them; sizes of text come from the looks.
+/// All screens are built alike, top to bottom: a menu bar or its room, a title row (title left), the form or grid,
+/// which takes the room that is left, and the row of actions: "Menu" at its left end, a spacer, the others, and the way
+/// forward at its right end. The style gives a margin of 16 around a window and on a tab's page, 8 inside, and a
+/// spacing of 8; a group that has the room takes 16. Boxes and buttons are as high as the style makes them; sizes of
+/// text come from the looks.
 #pragma once
 
 class QApplication;
