@@ -19,6 +19,8 @@ namespace {
 constexpr int DrainMilliseconds = 100;
 /// Between two looks at what the driver still holds: half a character at the usual speed.
 constexpr unsigned long LookMicroseconds = 500;
+/// What is kept of a line that nobody reads: more than any reply, and no more of a device that talks all day.
+constexpr qint64 InputLimit = 4096;
 /// The longest pass of the event loop without bytes: short enough that a click in it is answered at once.
 constexpr int PassMilliseconds = 20;
 
@@ -30,12 +32,15 @@ bool CanBeOpened(const QString& device) {
 
 /// Waits until the driver has put everything on the wire. Its queue is asked rather than waited for, since a line that
 /// stands still would keep such a wait for ever; what is left then are the few characters in the device itself.
-void Drain(int line, const QDeadlineTimer& limit) {
+/// False where it stands still.
+bool Drain(int line, const QDeadlineTimer& limit) {
   int queued = 1;
   while (ioctl(line, TIOCOUTQ, &queued) == 0 && queued > 0 && !limit.hasExpired()) {
     QThread::usleep(LookMicroseconds);
   }
-  if (queued == 0) tcdrain(line);
+  if (queued != 0) return false;
+  tcdrain(line);
+  return true;
 }
 
 }  // namespace
@@ -61,6 +66,8 @@ bool SerialLine::PortOpen() const {
 
 void SerialLine::SetPortOpen(bool open) {
   if (open == PortOpen()) return;
+  // The system would wait half a minute, as it closes, for the rest to go out on a line that stands still.
+  if (PortOpen() && m_standsStill) m_port->clear(QSerialPort::Output);
   m_port.reset();
   if (open) Open();
 }
@@ -71,7 +78,9 @@ void SerialLine::Open() {
   if (!CanBeOpened(device)) return;
   auto port = std::make_unique<QSerialPort>(device);
   if (!port->open(QIODevice::ReadWrite)) return;
+  port->setReadBufferSize(InputLimit);
   m_dropped = false;
+  m_standsStill = false;
   m_port = std::move(port);
   const auto watch = [this, line = m_port.get()](QSerialPort::SerialPortError error) {
     const bool gone =
@@ -87,12 +96,13 @@ void SerialLine::Open() {
 void SerialLine::Output(const QString& text) {
   if (!PortOpen()) return;
   const QDeadlineTimer limit(DrainMilliseconds, Qt::PreciseTimer);
+  m_standsStill = true;
   m_port->write(ToCodePage(text));
   while (m_port->bytesToWrite() > 0) {
     if (!m_port->waitForBytesWritten(static_cast<int>(limit.remainingTime()))) return;
   }
   // Only now is it the other end's turn, and the time that it has to answer in begins.
-  Drain(m_port->handle(), limit);
+  m_standsStill = !Drain(m_port->handle(), limit);
 }
 
 int SerialLine::InBufferCount() {
@@ -100,7 +110,10 @@ int SerialLine::InBufferCount() {
 }
 
 void SerialLine::ClearInBuffer() {
-  if (PortOpen()) m_port->clear(QSerialPort::Input);
+  if (!PortOpen()) return;
+  m_port->clear(QSerialPort::Input);
+  // A buffer that was full is filled again only once it has been read.
+  m_port->readAll();
 }
 
 QString SerialLine::Input() {

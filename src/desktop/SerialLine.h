@@ -39,4 +39,5 @@ class SerialLine final : public SerialPort {
   int m_commPort = 1;
   std::unique_ptr<QSerialPort> m_port;  ///< While a port is open, its line perhaps dropped.
   bool m_dropped = false;
+  bool m_standsStill = false;  ///< What was sent last didn't go out in time.
 };

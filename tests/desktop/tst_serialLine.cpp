@@ -20,7 +20,7 @@ namespace {
 /// A driver that hasn't put on the wire yet what it was given; a pseudo-terminal never says so by itself.
 struct Driver {
   int Queued = 0;    ///< One less with each look; below zero it stands still.
-  QStringList Done;  ///< The looks at the queue, and the wait for what is in the device.
+  QStringList Done;  ///< The looks at the queue, the wait for what is in the device, and what was thrown away.
 };
 Driver* played = nullptr;
 
@@ -44,6 +44,11 @@ extern "C" int tcdrain(int line) {
   if (played != nullptr) played->Done.append(u"drained"_s);
   // A wait without end where the line stands still; on a pseudo-terminal it is over at once.
   return static_cast<int>(syscall(SYS_ioctl, line, TCSBRK, 1));
+}
+
+extern "C" int tcflush(int line, int queues) noexcept {
+  if (played != nullptr && queues == TCOFLUSH) played->Done.append(u"thrown away"_s);
+  return static_cast<int>(syscall(SYS_ioctl, line, TCFLSH, queues));
 }
 
 class SerialLineTest : public QObject {
@@ -117,6 +122,53 @@ class SerialLineTest : public QObject {
     timer.start();
     m_line->SetPortOpen(false);
     QVERIFY(timer.elapsed() < 30'000);
+  }
+
+  void whatALineThatStandsStillHoldsIsThrownAwayAsItCloses() {
+    Driver driver;
+    driver.Queued = -3;
+    played = &driver;
+    m_line->Output(u"ATH\r"_s);
+    QVERIFY(!driver.Done.contains(u"thrown away"_s));
+    // Else the system waits for it.
+    m_line->SetPortOpen(false);
+    QCOMPARE(driver.Done.last(), u"thrown away"_s);
+    QVERIFY(!m_line->PortOpen());
+  }
+
+  void aLineThatTookAllIsClosedAsItIs() {
+    Driver driver;
+    driver.Queued = -3;
+    played = &driver;
+    m_line->Output(u"ATH\r"_s);
+    driver.Queued = 0;
+    m_line->Output(u"ATH\r"_s);
+    m_line->SetPortOpen(false);
+    QVERIFY(!driver.Done.contains(u"thrown away"_s));
+  }
+
+  void aDeviceThatTalksAllDayFillsNoMemoryAndIsHeardAfterAClear() {
+    const auto talk = [this] {
+      m_modem->Say(QByteArray(1024, 'x'));
+      QCoreApplication::processEvents();
+    };
+    // As much as is kept of it; what comes then stays in the driver, and is lost in the end.
+    QTRY_VERIFY_WITH_TIMEOUT((talk(), m_line->InBufferCount() == 4096), 20'000);
+    m_modem->Say(QByteArray(1024, 'x'));
+    m_line->WaitForBytes(4097, 20);
+    QCOMPARE(m_line->InBufferCount(), 4096);
+    m_line->ClearInBuffer();
+    QCOMPARE(m_line->InBufferCount(), 0);
+    m_modem->Say("OK");
+    QTRY_COMPARE(m_line->InBufferCount(), 2);
+    QCOMPARE(m_line->Input(), u"OK"_s);
+    // Read is as good as cleared.
+    QTRY_VERIFY_WITH_TIMEOUT((talk(), m_line->InBufferCount() == 4096), 20'000);
+    QCOMPARE(m_line->Input(), QString(4096, u'x'));
+    m_line->ClearInBuffer();
+    m_modem->Say("OK");
+    QTRY_COMPARE(m_line->InBufferCount(), 2);
+    QCOMPARE(m_line->Input(), u"OK"_s);
   }
 
   void whatTheUserDoesWaitsUntilAPortWasLookedAt() {

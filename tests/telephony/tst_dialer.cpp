@@ -1,9 +1,11 @@
 // The dialer's rules on a line that the test plays pass by pass.
 #include <QtTest>
 
+#include "desktop/SerialLine.h"
 #include "runtime/SerialPort.h"
 #include "support/DataFolder.h"
 #include "support/ErrorOf.h"
+#include "support/PlayedModem.h"
 #include "support/ScriptedDialogs.h"
 #include "telephony/Dialer.h"
 #include "telephony/PhoneSettings.h"
@@ -131,6 +133,38 @@ class DialerTest : public QObject {
     desk.Line.Passes = {[] {}};
     desk.Call.NewDial();
     QCOMPARE(desk.Log.last(), u"unload"_s);
+  }
+
+  /// At the modem itself.
+  void aCancelledDialHangsUpFreesTheLineAndCanBeDialedAgain() {
+    QStringList log;
+    DataFolder folder;
+    ScriptedDialogs boxes;
+    PhoneSettings phone;
+    phone.txtModemPort = u"2"_s;
+    PlayedModem modem;
+    SerialLine line(PortsOn({{2, modem.Device()}}));
+    NotedView view(log);
+    Dialer call(DialerDesk{line, folder.Disk, boxes, phone}, view);
+    call.SetRecipient(u"Ann"_s, u"555"_s);
+    call.Activate();
+    modem.Answer = [&](const QByteArray& command) {
+      if (command.startsWith("ATDT")) call.Cancel();
+      return QByteArray();
+    };
+    call.NewDial();
+    QCOMPARE(modem.Take(), (QByteArrayList{"ATDT555;", "ATH"}));
+    QVERIFY(!line.PortOpen());
+    SerialLine other(PortsOn({{2, modem.Device()}}));
+    other.SetCommPort(2);
+    other.SetPortOpen(true);
+    QVERIFY(other.PortOpen());
+    other.SetPortOpen(false);
+    call.Activate();
+    modem.Answer = [](const QByteArray&) { return QByteArray("OK"); };
+    call.NewDial();
+    QCOMPARE(log.last(), u"Pickup Receiver - Then Click Hangup"_s);
+    QCOMPARE(modem.Take(), QByteArrayList{"ATDT555;"});
   }
 
   void anActivationClearsTheCancellation() {

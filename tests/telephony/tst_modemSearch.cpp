@@ -174,16 +174,34 @@ class ModemSearch : public QObject {
     QVERIFY(other.PortOpen());
   }
 
-  void aModemThatAnswersLateIsPassedOver() {
+  void aModemThatAnswersWhenTheSearchHasGoneOnIsPassedOver() {
     PlayedModem slow;
     slow.Answer = Silence;
-    SerialLine line(PortsOn({{2, slow.Device()}}));
+    PlayedModem modem;
+    modem.Answer = [&slow](const QByteArray&) {
+      slow.Say("\r\nOK\r\n");
+      return QByteArray("\r\nOK\r\n");
+    };
+    SerialLine line(PortsOn({{2, slow.Device()}, {3, modem.Device()}}));
     PhoneSettings phone;
     FindModemPort(line, phone);
-    slow.Say("\r\nOK\r\n");
-    ExpectPort(phone, 1);
-    QVERIFY(!line.PortOpen());
+    ExpectPort(phone, 3);
     QCOMPARE(slow.Commands(), QByteArrayList{"AT"});
+  }
+
+  void aModemOnPortOneThatAnswersLateIsClaimedAllTheSame() {
+    PlayedModem slow;
+    slow.Answer = Silence;
+    SerialLine line(PortsOn({{1, slow.Device()}}));
+    PhoneSettings phone;
+    FindModemPort(line, phone);
+    // Port 1 is gone on with whether anybody answered on it or not.
+    ExpectPort(phone, 1);
+    QVERIFY(line.PortOpen());
+    QCOMPARE(slow.Commands(), (QByteArrayList{"AT", "AT#CID=1"}));
+    slow.Say("\r\nOK\r\n");
+    line.WaitForBytes(6, 20'000);
+    QCOMPARE(line.InBufferCount(), 6);
   }
 
   void theLookAtAnOpenPortLastsAsLongAsAskedAndNoLonger() {
