@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScopeGuard>
+#include <QToolButton>
 
 #include "catalogue/Catalogue.h"
 #include "desktop/ListCombo.h"
@@ -97,6 +98,11 @@ bool frmInvoice::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonDblClick && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
     if (watched == ui->txtShip) Do([this] { ClearShip(m_invoice); });
     if (watched == ui->txtMisc) Do([this] { ClearMisc(m_invoice); });
+  }
+  if (auto* button = qobject_cast<QToolButton*>(watched); button != nullptr && event->type() == QEvent::Shortcut) {
+    // The toolkit would only click it after a while.
+    button->click();
+    return true;
   }
   if (event->type() == QEvent::KeyPress && watched == ui->txtMemo) Do([this] { TypeInMemo(m_invoice); });
   return Screen::eventFilter(watched, event);

@@ -72,7 +72,9 @@ class frmInvoice final : public Screen {
   /// Enter in a box does the obvious next thing: as Enter on the button would.
   void EnterRuns(QLineEdit* box, QAbstractButton* button);
   void FilterNumber(QLineEdit* box, QAbstractButton* onEnter);
-  void Choose(QAction* entry, QToolButton* button, void (frmInvoice::*view)());
+  void Choose(QAction* entry, void (frmInvoice::*view)());
+  /// A button of the strip of views, which its key runs as well; it is enabled as the menu's entry is.
+  void OnStrip(QToolButton* button, QAction* entry, void (frmInvoice::*view)());
 
   // Showing the invoice.
   void BindHeader();

@@ -15,16 +15,23 @@
 using namespace Qt::StringLiterals;
 
 void frmInvoice::WireViews() {
-  Choose(ui->mnuSetup, ui->btnSetup, &frmInvoice::mnuSetup);
-  Choose(ui->mnuCreate, ui->btnCreate, &frmInvoice::mnuCreate);
-  Choose(ui->mnuPrint, ui->btnPrint, &frmInvoice::mnuPrint);
-  Choose(ui->mnuServices, ui->btnServices, &frmInvoice::mnuServices);
-  Choose(ui->mnuItems, ui->btnItems, &frmInvoice::mnuItems);
-  Choose(ui->mnuCItems, ui->btnCItems, &frmInvoice::mnuCItems);
-  Choose(ui->mnuManual, ui->btnManual, &frmInvoice::mnuManual);
-  Choose(ui->mnuLabor, ui->btnLabor, &frmInvoice::mnuLabor);
-  Choose(ui->mnuMemo, ui->btnMemo, &frmInvoice::mnuMemo);
-  Choose(ui->mnuNarrative, ui->btnNarrative, &frmInvoice::mnuNarrative);
+  using View = void (frmInvoice::*)();
+  for (const auto& [entry, button, view] :
+       {std::tuple<QAction*, QToolButton*, View>(ui->mnuSetup, ui->btnSetup, &frmInvoice::mnuSetup),
+        {ui->mnuCreate, ui->btnCreate, &frmInvoice::mnuCreate},
+        {ui->mnuServices, ui->btnServices, &frmInvoice::mnuServices},
+        {ui->mnuItems, ui->btnItems, &frmInvoice::mnuItems},
+        {ui->mnuCItems, ui->btnCItems, &frmInvoice::mnuCItems},
+        {ui->mnuManual, ui->btnManual, &frmInvoice::mnuManual},
+        {ui->mnuLabor, ui->btnLabor, &frmInvoice::mnuLabor},
+        {ui->mnuMemo, ui->btnMemo, &frmInvoice::mnuMemo},
+        {ui->mnuNarrative, ui->btnNarrative, &frmInvoice::mnuNarrative}}) {
+    Choose(entry, view);
+    OnStrip(button, entry, view);
+  }
+  Choose(ui->mnuPrint, &frmInvoice::mnuPrint);
+  // As the button Ready to Print, so that no discount of an earlier invoice is deducted; the menu's entry keeps it.
+  OnStrip(ui->btnPrint, ui->mnuPrint, &frmInvoice::cmdPrint);
   On(ui->mnuClose, &QAction::triggered, Doing([this] { HideFrames(); }));
   for (QWidget* frame : EntryFrames()) {
     auto* escape = new QShortcut(Qt::Key_Escape, frame);
@@ -33,10 +40,15 @@ void frmInvoice::WireViews() {
   }
 }
 
-void frmInvoice::Choose(QAction* entry, QToolButton* button, void (frmInvoice::*view)()) {
+void frmInvoice::Choose(QAction* entry, void (frmInvoice::*view)()) {
   entry->setCheckable(true);
-  button->setDefaultAction(entry);
   On(entry, &QAction::triggered, Doing([this, view] { (this->*view)(); }));
+}
+
+void frmInvoice::OnStrip(QToolButton* button, QAction* entry, void (frmInvoice::*view)()) {
+  button->installEventFilter(this);
+  On(button, &QToolButton::clicked, Doing([this, view] { (this->*view)(); }));
+  On(entry, &QAction::changed, [entry, button] { button->setEnabled(entry->isEnabled()); });
 }
 
 std::vector<QWidget*> frmInvoice::EntryFrames() const {
@@ -68,19 +80,22 @@ void frmInvoice::ShowViewButtons() {
   ui->cmdPrint->setVisible(!setup);
   ui->cmdPrint->setPalette(printReady ? ui->cmdSave->palette() : ui->cmdInvoiceContinue->palette());
   bool none = true;
-  for (const auto& [entry, frame] : {std::pair<QAction*, QWidget*>(ui->mnuSetup, ui->fraSetup),
-                                     {ui->mnuPrint, ui->fraPrintReady},
-                                     {ui->mnuServices, ui->fraServices},
-                                     {ui->mnuItems, ui->fraItems},
-                                     {ui->mnuCItems, ui->fraCItems},
-                                     {ui->mnuManual, ui->fraManual},
-                                     {ui->mnuLabor, ui->fraLabor},
-                                     {ui->mnuMemo, ui->fraMemo},
-                                     {ui->mnuNarrative, ui->fraNarrative}}) {
+  for (const auto& [entry, button, frame] :
+       {std::tuple<QAction*, QToolButton*, QWidget*>(ui->mnuSetup, ui->btnSetup, ui->fraSetup),
+        {ui->mnuPrint, ui->btnPrint, ui->fraPrintReady},
+        {ui->mnuServices, ui->btnServices, ui->fraServices},
+        {ui->mnuItems, ui->btnItems, ui->fraItems},
+        {ui->mnuCItems, ui->btnCItems, ui->fraCItems},
+        {ui->mnuManual, ui->btnManual, ui->fraManual},
+        {ui->mnuLabor, ui->btnLabor, ui->fraLabor},
+        {ui->mnuMemo, ui->btnMemo, ui->fraMemo},
+        {ui->mnuNarrative, ui->btnNarrative, ui->fraNarrative}}) {
     entry->setChecked(Shows(frame));
+    button->setChecked(Shows(frame));
     none = none && !Shows(frame);
   }
   ui->mnuCreate->setChecked(none);
+  ui->btnCreate->setChecked(none);
   for (auto* button : ui->fraViews->findChildren<QToolButton*>()) {
     QPalette look = ui->cmdSave->palette();
     if (button->isChecked()) look = ui->cmdInvoiceContinue->palette();

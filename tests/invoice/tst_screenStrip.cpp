@@ -1,0 +1,131 @@
+// The strip of views above the lines, by its buttons and by their keys.
+
+#include <QtWidgets>
+
+#include "support/InvoiceBench.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first invoice of the day, left by Menu with a flat discount of $5.00 deducted.
+void LeaveWithAFlatDiscount(InvoiceBench& bench) {
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_1"_s);
+  bench.On().Type(u"5"_s);
+  bench.On().Click(u"cmdAddDiscount"_s);
+  QCOMPARE(bench.Text(u"txtDiscount"_s), u"$5.00"_s);
+  bench.On().Click(u"cmdInvoice_1"_s);
+  bench.Customer[1] = u"Other Ltd"_s;
+  bench.Reopen();
+  bench.On().Click(u"cmdInvoice_0"_s);
+  bench.PostManual(u"Crate"_s, u"3"_s, u"10"_s);
+}
+
+}  // namespace
+
+class ScreenStrip : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void printReadyDeductsNoDiscountOfTheInvoiceBefore_data();
+  void printReadyDeductsNoDiscountOfTheInvoiceBefore();
+  void theEntryOfTheMenuKeepsADeductedDiscount();
+  void eachButtonAndItsKeyShowTheView_data();
+  void eachButtonAndItsKeyShowTheView();
+  void aButtonIsLiveAsTheEntryOfTheMenuIs();
+};
+
+void ScreenStrip::printReadyDeductsNoDiscountOfTheInvoiceBefore_data() {
+  QTest::addColumn<bool>("byKey");
+  QTest::newRow("button") << false;
+  QTest::newRow("F12") << true;
+}
+
+void ScreenStrip::printReadyDeductsNoDiscountOfTheInvoiceBefore() {
+  QFETCH(const bool, byKey);
+  InvoiceBench bench;
+  LeaveWithAFlatDiscount(bench);
+  if (byKey) {
+    bench.On().PressKey(Qt::Key_F12);
+  } else {
+    bench.On().Click(u"btnPrint"_s);
+  }
+  QVERIFY(bench.On().IsVisible(u"fraPrintReady"_s));
+  QVERIFY(bench.Invoice.Controls.Enabled.cmdAddDiscount);
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$30.00"_s);
+}
+
+void ScreenStrip::theEntryOfTheMenuKeepsADeductedDiscount() {
+  InvoiceBench bench;
+  LeaveWithAFlatDiscount(bench);
+  bench.On().Trigger(u"mnuPrint"_s);
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$25.00"_s);
+}
+
+void ScreenStrip::eachButtonAndItsKeyShowTheView_data() {
+  QTest::addColumn<QString>("button");
+  QTest::addColumn<int>("key");
+  QTest::addColumn<bool>("control");
+  QTest::addColumn<QString>("frame");
+  QTest::newRow("setup") << u"btnSetup"_s << int(Qt::Key_F2) << false << u"fraSetup"_s;
+  QTest::newRow("services") << u"btnServices"_s << int(Qt::Key_F5) << false << u"fraServices"_s;
+  QTest::newRow("items") << u"btnItems"_s << int(Qt::Key_F6) << false << u"fraItems"_s;
+  QTest::newRow("custom items") << u"btnCItems"_s << int(Qt::Key_F7) << false << u"fraCItems"_s;
+  QTest::newRow("manual") << u"btnManual"_s << int(Qt::Key_F8) << false << u"fraManual"_s;
+  QTest::newRow("labor") << u"btnLabor"_s << int(Qt::Key_F9) << false << u"fraLabor"_s;
+  QTest::newRow("memo") << u"btnMemo"_s << int(Qt::Key_M) << true << u"fraMemo"_s;
+  QTest::newRow("narrative") << u"btnNarrative"_s << int(Qt::Key_T) << true << u"fraNarrative"_s;
+  QTest::newRow("print ready") << u"btnPrint"_s << int(Qt::Key_F12) << false << u"fraPrintReady"_s;
+}
+
+void ScreenStrip::eachButtonAndItsKeyShowTheView() {
+  QFETCH(const QString, button);
+  QFETCH(const int, key);
+  QFETCH(const bool, control);
+  QFETCH(const QString, frame);
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  for (const bool byKey : {false, true}) {
+    if (byKey) {
+      bench.On().PressKey(Qt::Key(key), control ? Qt::ControlModifier : Qt::NoModifier);
+    } else {
+      bench.On().Click(button);
+    }
+    QVERIFY2(bench.On().IsVisible(frame), qPrintable(frame));
+    QVERIFY(bench.Ticked(button));
+    QVERIFY(!bench.Ticked(u"btnCreate"_s));
+    // Once more changes nothing.
+    bench.On().Click(button);
+    QVERIFY(bench.On().IsVisible(frame));
+    QVERIFY(bench.Ticked(button));
+    bench.On().PressKey(Qt::Key_F3);
+    QVERIFY(!bench.On().IsVisible(frame));
+    QVERIFY(!bench.Ticked(button));
+    QVERIFY(bench.Ticked(u"btnCreate"_s));
+  }
+}
+
+void ScreenStrip::aButtonIsLiveAsTheEntryOfTheMenuIs() {
+  InvoiceBench bench;
+  bench.Tree.Remove(u"/Services.txt"_s);
+  bench.OpenAtLines();
+  QVERIFY(!bench.On().IsEnabled(u"btnServices"_s));
+  QVERIFY(bench.On().IsEnabled(u"btnItems"_s));
+  bench.On().PressKey(Qt::Key_F5);
+  QVERIFY(!bench.On().IsVisible(u"fraServices"_s));
+  bench.Tree.Write(u"/Services.txt"_s, Field("Repair", 60) + Field("$80.00", 10) + Bytes16(4));
+  bench.Reopen();
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QVERIFY(bench.On().IsEnabled(u"btnServices"_s));
+  bench.On().PressKey(Qt::Key_F5);
+  QVERIFY(bench.On().IsVisible(u"fraServices"_s));
+}
+
+QTEST_MAIN(ScreenStrip)
+#include "tst_screenStrip.moc"
