@@ -37,6 +37,7 @@ void ClearCustomer(WorkingInvoice& invoice) {
   invoice.lblAcct.clear();
   invoice.lblAcctNo.clear();
   invoice.lblCustomer.fill(QString());
+  invoice.txtShipto.fill(QString());
 }
 
 void CopySoldToIntoShipTo(WorkingInvoice& invoice) {

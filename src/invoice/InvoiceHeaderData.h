@@ -15,7 +15,7 @@ struct WorkingInvoice;
 void TakeSoldTo(WorkingInvoice& invoice, const SoldTo& customer);
 /// `ClearCustomer`, then account and sold-to block from what was handed in; the focus goes to the attention line.
 void ShowCustomer(WorkingInvoice& invoice);
-/// Empties the account labels and both sold-to blocks.
+/// Empties the account labels, both sold-to blocks, and the ship-to block with its attention line.
 void ClearCustomer(WorkingInvoice& invoice);
 /// "Same as Sold to"; the focus goes to the first ship-to box.
 void CopySoldToIntoShipTo(WorkingInvoice& invoice);

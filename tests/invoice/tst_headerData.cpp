@@ -29,23 +29,24 @@ class HeaderDataTest : public QObject {
     QCOMPARE(m_desk->Focus(), u"txtShipto_6"_s);
   }
 
-  void clearingTheCustomerEmptiesLabelsAndBlocks() {
+  void clearingTheCustomerEmptiesLabelsBlocksAndShipTo() {
     WorkingInvoice& invoice = m_desk->Invoice;
     invoice.lblAcct = invoice.lblAcctNo = u"1001"_s;
     invoice.lblCustomer.fill(u"x"_s);
+    invoice.txtShipto.fill(u"x"_s);
     ClearCustomer(invoice);
     QVERIFY(invoice.lblAcct.isEmpty());
     QVERIFY(invoice.lblAcctNo.isEmpty());
     QCOMPARE(invoice.lblCustomer, (std::array<QString, 12>{}));
+    QCOMPARE(invoice.txtShipto, (std::array<QString, 7>{}));
   }
 
-  void anotherCustomerLeavesTheShipToBlockAsItStands() {
+  void anotherCustomerEmptiesTheShipToBlock() {
     WorkingInvoice& invoice = m_desk->Invoice;
-    const std::array<QString, 7> before{u"Barn"_s, u"2 Hay Ln"_s, u""_s, u"Lynn"_s, u"MA"_s, u"01901"_s, u"Ann"_s};
-    invoice.txtShipto = before;
+    invoice.txtShipto = {u"Barn"_s, u"2 Hay Ln"_s, u""_s, u"Lynn"_s, u"MA"_s, u"01901"_s, u"Ann"_s};
     TakeSoldTo(invoice, {u"1001"_s, {u"Bay Farm"_s, u"1 Dock Rd"_s, u""_s, u"Salem"_s, u"MA"_s, u"01970"_s, u"555"_s}});
     ShowCustomer(invoice);
-    QCOMPARE(invoice.txtShipto, before);
+    QCOMPARE(invoice.txtShipto, (std::array<QString, 7>{}));
   }
 
   void sameAsSoldToCopiesSixLinesAndNotTheAttentionLine() {

@@ -71,7 +71,9 @@ class ScreenFlow : public QObject {
   void namesFromTheFilesStandOnTheLabelsAsTheyAre();
   void openingAgainEndsADraft();
   void readyToPrintStaysEnabledForTheNextInvoiceOfTheSession();
-  void anExemptionAndAShipToAddressOutlastTheWayToTheMenu();
+  void anExemptionOutlastsTheWayToTheMenu();
+  void theNextInvoiceBearsNoShipToAddressOfTheCustomerBefore();
+  void aRecalledInvoiceKeepsItsShipToAddress();
   void redoLeavesAnEntryFrameOpen();
 };
 
@@ -510,10 +512,9 @@ void ScreenFlow::readyToPrintStaysEnabledForTheNextInvoiceOfTheSession() {
   QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
 }
 
-void ScreenFlow::anExemptionAndAShipToAddressOutlastTheWayToTheMenu() {
+void ScreenFlow::anExemptionOutlastsTheWayToTheMenu() {
   InvoiceBench bench;
   bench.Open();
-  bench.On().Click(u"cmdShipToAddress_0"_s);
   bench.On().Trigger(u"mnuPrint"_s);
   bench.On().Click(u"ckExempt"_s);
   bench.On().Click(u"cmdInvoice_1"_s);
@@ -521,8 +522,29 @@ void ScreenFlow::anExemptionAndAShipToAddressOutlastTheWayToTheMenu() {
   bench.Reopen();
   QVERIFY(bench.Ticked(u"ckExempt"_s));
   QCOMPARE(bench.Text(u"lblCustomer_6"_s), u"Other Ltd"_s);
-  const QStringList block{u"Acme Tools"_s, u"1 Main Street"_s, QString(), u"Springfield"_s, u"IL"_s, u"62701"_s};
-  for (int i = 0; i < 6; ++i) QCOMPARE(bench.Text(u"txtShipto_%1"_s.arg(i)), block[i]);
+}
+
+void ScreenFlow::theNextInvoiceBearsNoShipToAddressOfTheCustomerBefore() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Click(u"cmdShipToAddress_0"_s);
+  bench.On().Fill(u"txtShipto_6"_s, u"Ms Jones"_s);
+  QCOMPARE(bench.Text(u"txtShipto_0"_s), u"Acme Tools"_s);
+  bench.On().Click(u"cmdInvoice_1"_s);
+  bench.Customer[1] = u"Other Ltd"_s;
+  bench.Reopen();
+  for (int i = 0; i < 7; ++i) QCOMPARE(bench.Text(u"txtShipto_%1"_s.arg(i)), QString());
+  QCOMPARE(bench.On().FocusName(), u"txtShipto_6"_s);
+}
+
+void ScreenFlow::aRecalledInvoiceKeepsItsShipToAddress() {
+  InvoiceBench bench;
+  bench.Open();
+  Recall(bench);
+  bench.Invoice.txtShipto = {u"Barn"_s, u"2 Hay Ln"_s, u""_s, u"Lynn"_s, u"MA"_s, u"01901"_s, u"Ann"_s};
+  bench.Reopen();
+  QCOMPARE(bench.Text(u"txtShipto_0"_s), u"Barn"_s);
+  QCOMPARE(bench.Text(u"txtShipto_6"_s), u"Ann"_s);
 }
 
 void ScreenFlow::redoLeavesAnEntryFrameOpen() {
