@@ -92,6 +92,7 @@ class frmInvoice final : public Screen {
 
   // The views.
   void WireViews();
+  void GoByStrip(void (frmInvoice::*view)());
   void HideFrames();
   void ShowInstructions(int index);
   std::vector<QWidget*> EntryFrames() const;
@@ -151,7 +152,8 @@ class frmInvoice final : public Screen {
   void WireFlow();
   void WireSave();
   void ShowInvoiceMode();
-  void Continue();
+  /// Answers whether the invoice goes on, to its lines; where its number is refused, `refused` shows another view.
+  bool Continue(const std::function<void()>& refused);
   void cmdRedo();
   void cmdExit();
   void ReturnToMenu();

@@ -21,7 +21,7 @@
 using namespace Qt::StringLiterals;
 
 void frmInvoice::WireFlow() {
-  Click(m_cmdInvoice[0], [this] { Continue(); });
+  Click(m_cmdInvoice[0], [this] { Continue([this] { mnuCreate(); }); });
   Click(m_cmdInvoice[1], [this] {
     LoadSettings(m_desk.Disk, m_desk.Settings);
     m_invoice.RecalledInvoice = false;
@@ -68,13 +68,14 @@ void frmInvoice::ShowInvoiceMode() {
   }
 }
 
-void frmInvoice::Continue() {
+bool frmInvoice::Continue(const std::function<void()>& refused) {
   TakeOverInvoiceNo(m_invoice);
-  if (!CheckInvoiceNo(m_invoice, m_desk.Boxes, [this] { mnuCreate(); })) return;
+  if (!CheckInvoiceNo(m_invoice, m_desk.Boxes, refused)) return false;
   FillReference(m_invoice, m_desk.Today);
   ui->cmdTemplate_2->setEnabled(true);
   mnuCreate();
   if (!m_invoice.fgInvoice.Text(1, LineColumn::Description).isEmpty()) m_invoice.Controls.Enabled.cmdPrint = true;
+  return true;
 }
 
 void frmInvoice::cmdRedo() {

@@ -22,7 +22,7 @@ void frmInvoice::WireTemplates() {
     ui->cmdTemplate_1->setEnabled(true);
   });
   Click(ui->cmdTemplate_0, [this, desk, selected] {
-    if (LoadTemplate(desk(), selected())) Continue();
+    if (LoadTemplate(desk(), selected())) Continue([this] { mnuCreate(); });
   });
   Click(ui->cmdTemplate_1, [this, desk, selected] {
     if (!DeleteTemplate(desk(), selected())) return;

@@ -47,8 +47,15 @@ void frmInvoice::Choose(QAction* entry, void (frmInvoice::*view)()) {
 
 void frmInvoice::OnStrip(QToolButton* button, QAction* entry, void (frmInvoice::*view)()) {
   button->installEventFilter(this);
-  On(button, &QToolButton::clicked, Doing([this, view] { (this->*view)(); }));
+  On(button, &QToolButton::clicked, Doing([this, view] { GoByStrip(view); }));
   On(entry, &QAction::changed, [entry, button] { button->setEnabled(entry->isEnabled()); });
+}
+
+/// The way out of the setup view is Continue, which takes the number over: passed by, the invoice would be recorded
+/// under another one. The entries of the menu do pass it by, which is meant.
+void frmInvoice::GoByStrip(void (frmInvoice::*view)()) {
+  if (Shows(ui->fraSetup) && view != &frmInvoice::mnuSetup && !Continue({})) return;
+  (this->*view)();
 }
 
 std::vector<QWidget*> frmInvoice::EntryFrames() const {

@@ -36,6 +36,11 @@ class ScreenStrip : public QObject {
   void theEntryOfTheMenuKeepsADeductedDiscount();
   void eachButtonAndItsKeyShowTheView_data();
   void eachButtonAndItsKeyShowTheView();
+  void outOfSetupTheStripContinuesFirst_data();
+  void outOfSetupTheStripContinuesFirst();
+  void whatARecalledInvoiceSoldIsRecordedUnderItsOwnNumber();
+  void whereContinueIsRefusedTheSetupViewStays();
+  void theEntriesOfTheMenuPassContinueBy();
   void aButtonIsLiveAsTheEntryOfTheMenuIs();
 };
 
@@ -109,6 +114,78 @@ void ScreenStrip::eachButtonAndItsKeyShowTheView() {
     QVERIFY(!bench.Ticked(button));
     QVERIFY(bench.Ticked(u"btnCreate"_s));
   }
+}
+
+void ScreenStrip::outOfSetupTheStripContinuesFirst_data() {
+  QTest::addColumn<QString>("button");
+  QTest::addColumn<QString>("frame");
+  for (const char* view : {"Services", "Items", "CItems", "Manual", "Labor", "Memo", "Narrative"}) {
+    QTest::newRow(view) << u"btn%1"_s.arg(QLatin1StringView(view)) << u"fra%1"_s.arg(QLatin1StringView(view));
+  }
+  QTest::newRow("print ready") << u"btnPrint"_s << u"fraPrintReady"_s;
+  QTest::newRow("lines") << u"btnCreate"_s << u"fraInstructions_1"_s;
+}
+
+void ScreenStrip::outOfSetupTheStripContinuesFirst() {
+  QFETCH(const QString, button);
+  QFETCH(const QString, frame);
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Fill(u"txtInvoiceNo"_s, u"500"_s);
+  bench.On().Click(button);
+  QVERIFY2(bench.On().IsVisible(frame), qPrintable(frame));
+  QVERIFY(!bench.On().IsVisible(u"fraSetup"_s));
+  QCOMPARE(bench.Invoice.InvoiceNo, 500);
+  QCOMPARE(bench.Text(u"txtReference"_s), u"Prepared 3/7/2026"_s);
+  QVERIFY(bench.On().Control(u"cmdTemplate_2"_s)->isEnabledTo(bench.On().Window()));
+}
+
+void ScreenStrip::whatARecalledInvoiceSoldIsRecordedUnderItsOwnNumber() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.Invoice.RecalledInvoice = true;
+  bench.Invoice.InvoiceDate = QDate(2026, 2, 3);
+  bench.Invoice.txtInvoiceNo = u"20260009"_s;
+  bench.FillGrid(1);
+  bench.Invoice.fgInvoice.SetText(1, LineColumn::Description, u"Hammer"_s);
+  bench.Reopen();
+  bench.On().PressKey(Qt::Key_F12);
+  QVERIFY(bench.On().IsEnabled(u"cmdPrint"_s));
+  bench.On().Click(u"cmdInvoice_9"_s);
+  bench.Answers.Yes();
+  bench.On().Click(u"cmdInvoiceContinue"_s);
+  QCOMPARE(bench.Tree.Bytes(u"/SoldItems.txt"_s).mid(68, 20), Field("20260009", 20));
+}
+
+void ScreenStrip::whereContinueIsRefusedTheSetupViewStays() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Fill(u"txtInvoiceNo"_s, QString());
+  for (const bool byKey : {false, true}) {
+    bench.Answers.Ok(u"You have not entered an Invoice Number"_s, u"Karvex Invoicer"_s);
+    if (byKey) {
+      bench.On().PressKey(Qt::Key_F12);
+    } else {
+      bench.On().Click(u"btnServices"_s);
+    }
+    QVERIFY(bench.Answers.AllUsed());
+    QVERIFY(bench.On().IsVisible(u"fraSetup"_s));
+    QVERIFY(bench.Ticked(u"btnSetup"_s));
+    QVERIFY(!bench.Ticked(byKey ? u"btnPrint"_s : u"btnServices"_s));
+    QCOMPARE(bench.On().FocusName(), u"txtInvoiceNo"_s);
+  }
+  // The setup view itself needs no number.
+  bench.On().PressKey(Qt::Key_F2);
+  QVERIFY(bench.On().IsVisible(u"fraSetup"_s));
+}
+
+void ScreenStrip::theEntriesOfTheMenuPassContinueBy() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Fill(u"txtInvoiceNo"_s, u"500"_s);
+  bench.On().Trigger(u"mnuPrint"_s);
+  QVERIFY(bench.On().IsVisible(u"fraPrintReady"_s));
+  QCOMPARE(bench.Invoice.InvoiceNo, 20260001);
 }
 
 void ScreenStrip::aButtonIsLiveAsTheEntryOfTheMenuIs() {
