@@ -192,6 +192,10 @@ void ListCombo::Complete(const QString& typed) {
   }
 }
 
+int ListCombo::EntryInSight() const {
+  return m_autoComplete && ListIndex() < 0 ? FindPrefix(Text()) : -1;
+}
+
 void ListCombo::showPopup() {
   auto* list = qobject_cast<QListView*>(view());
   if (list != nullptr) {
@@ -203,11 +207,21 @@ void ListCombo::showPopup() {
     list->setMinimumWidth(std::clamp(wanted, width(), std::max(width(), WidestPopup)));
   }
   QComboBox::showPopup();
+  if (const int found = EntryInSight(); found >= 0) {
+    view()->setCurrentIndex(m_entries->index(found, 0));
+  }
 }
 
 void ListCombo::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete) {
     m_skipAutoComplete = true;
+  }
+  const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  if (arrow && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+    if (const int found = EntryInSight(); found >= 0) {
+      RunInScreen(this, [this, found] { SelectEntry(found); });
+      return;
+    }
   }
   QComboBox::keyPressEvent(event);
 }

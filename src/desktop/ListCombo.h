@@ -44,7 +44,8 @@ class ListCombo : public QComboBox {
   /// What typing the whole of an entry does: select it, which runs its click, or leave it as text.
   enum class WhenWhole { Select, Leave };
   /// Completes what is typed with the first entry that begins with it, the added tail selected. After Backspace or
-  /// Delete the next change completes nothing and runs no `Change`. `Change` runs before the completion.
+  /// Delete the next change completes nothing and runs no `Change`. `Change` runs before the completion. From a text
+  /// that isn't picked, the arrow keys and the open list begin at the first entry that begins with it.
   void SetAutoComplete(bool on, WhenWhole whole = WhenWhole::Select);
 
   void showPopup() override;
@@ -58,6 +59,8 @@ class ListCombo : public QComboBox {
   void TakeOverLine();
   void Edited(const QString& text);
   void Complete(const QString& typed);
+  /// The entry that a text typed so far would complete to; -1 where one is picked, or none begins so.
+  int EntryInSight() const;
   void Place(int index, const QString& text);
 
   QPointer<QLineEdit> m_line;  ///< Before the entries: making them is an event of this box already.

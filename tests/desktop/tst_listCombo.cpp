@@ -174,6 +174,54 @@ class ListCombos : public QObject {
     QCOMPARE(bench.log, (QStringList{u"change p -1"_s, u"change pl -1"_s, u"change pla -1"_s}));
   }
 
+  void theArrowKeysTakeWhatTheTypedTextCompletesTo_data() {
+    QTest::addColumn<int>("key");
+    QTest::newRow("Down") << int{Qt::Key_Down};
+    QTest::newRow("Up") << int{Qt::Key_Up};
+  }
+  void theArrowKeysTakeWhatTheTypedTextCompletesTo() {
+    QFETCH(int, key);
+    Bench bench;
+    bench.combo->SetAutoComplete(true);
+    bench.Fill({u"Carpet"_s, u"Gutter"_s, u"Travel"_s, u"Window"_s});
+    bench.driver->Click(u"combo"_s);
+    bench.driver->Type(u"tr"_s);
+    QCOMPARE(bench.combo->ListIndex(), -1);
+    bench.log.clear();
+    bench.driver->PressKey(Qt::Key(key));
+    QCOMPARE(bench.combo->ListIndex(), 2);
+    QCOMPARE(bench.combo->Text(), u"Travel"_s);
+    QCOMPARE(bench.log, QStringList{u"click 2"_s});
+    // From there on the keys go through the list.
+    bench.driver->PressKey(Qt::Key(key));
+    QCOMPARE(bench.combo->ListIndex(), key == Qt::Key_Down ? 3 : 1);
+  }
+
+  void theOpenListBeginsAtWhatTheTypedTextCompletesTo() {
+    Bench bench;
+    bench.combo->SetAutoComplete(true);
+    bench.Fill({u"Carpet"_s, u"Gutter"_s, u"Travel"_s});
+    bench.driver->Click(u"combo"_s);
+    bench.driver->Type(u"tr"_s);
+    bench.driver->PressKey(Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(bench.combo->view()->isVisible());
+    QCOMPARE(bench.combo->view()->currentIndex().row(), 2);
+    QCOMPARE(bench.combo->Text(), u"travel"_s);
+    QTest::keyClick(bench.combo->view(), Qt::Key_Return);
+    QCOMPARE(bench.combo->ListIndex(), 2);
+    QCOMPARE(bench.combo->Text(), u"Travel"_s);
+  }
+
+  void theArrowKeysBeginAtTheFirstEntryWhereNoneBeginsAsTyped() {
+    Bench bench;
+    bench.combo->SetAutoComplete(true);
+    bench.Fill({u"Carpet"_s, u"Travel"_s});
+    bench.driver->Click(u"combo"_s);
+    bench.driver->Type(u"x"_s);
+    bench.driver->PressKey(Qt::Key_Down);
+    QCOMPARE(bench.combo->ListIndex(), 0);
+  }
+
   void typingTheWholeEntrySelectsItOutright() {
     Bench bench;
     bench.combo->SetAutoComplete(true);

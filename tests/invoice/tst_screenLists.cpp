@@ -15,6 +15,8 @@ class ScreenLists : public QObject {
   void backspaceDoesNotComplete();
   void changingTheDescriptionBlanksPriceAndUnits();
   void aCompletedDescriptionCountsThoughItWasNotPicked();
+  void theArrowKeyTakesTheCompletedEntryWithItsPrice_data();
+  void theArrowKeyTakesTheCompletedEntryWithItsPrice();
   void aCategoryNarrowsTheItemsUntilAll();
   void aNarrowedListStaysNarrowedWhenTheFrameIsOpenedAgain();
   void theBreakOfANarrowedListGoesWithIt();
@@ -74,6 +76,35 @@ void ScreenLists::aCompletedDescriptionCountsThoughItWasNotPicked() {
   bench.On().Click(u"cmdPost_0"_s);
   QCOMPARE(bench.Row(1)[1], u"Repair"_s);
   QCOMPARE(bench.Row(1)[3], u"$70.00"_s);
+}
+
+void ScreenLists::theArrowKeyTakesTheCompletedEntryWithItsPrice_data() {
+  QTest::addColumn<QString>("entry");
+  QTest::addColumn<QString>("typed");
+  QTest::addColumn<int>("element");
+  QTest::addColumn<QStringList>("picked");
+  QTest::addColumn<QString>("focus");
+  QTest::newRow("service") << u"mnuServices"_s << u"re"_s << 0 << QStringList{u"Repair"_s, u"$80.00"_s}
+                           << u"cboDescription_0"_s;
+  QTest::newRow("item") << u"mnuItems"_s << u"pa"_s << 1 << QStringList{u"Paint"_s, u"$33.34"_s} << u"txtUnits"_s;
+  QTest::newRow("custom item") << u"mnuCItems"_s << u"si"_s << 2 << QStringList{u"Sign"_s, u"$25.00"_s}
+                               << u"txtCUnits"_s;
+}
+
+void ScreenLists::theArrowKeyTakesTheCompletedEntryWithItsPrice() {
+  QFETCH(const QString, entry);
+  QFETCH(const QString, typed);
+  QFETCH(const int, element);
+  QFETCH(const QStringList, picked);
+  QFETCH(const QString, focus);
+  InvoiceBench bench;
+  bench.OpenAt(entry);
+  bench.On().Type(typed);
+  QCOMPARE(bench.Text(u"cboPrice_%1"_s.arg(element)), QString());
+  bench.On().PressKey(Qt::Key_Down);
+  QCOMPARE(bench.Text(u"cboDescription_%1"_s.arg(element)), picked[0]);
+  QCOMPARE(bench.Text(u"cboPrice_%1"_s.arg(element)), picked[1]);
+  QCOMPARE(bench.On().FocusName(), focus);
 }
 
 void ScreenLists::aCategoryNarrowsTheItemsUntilAll() {
