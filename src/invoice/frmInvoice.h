@@ -94,6 +94,7 @@ class frmInvoice final : public Screen {
   void WireViews();
   void GoByStrip(void (frmInvoice::*view)());
   void HideFrames();
+  void EscapeEntryFrame();
   void ShowInstructions(int index);
   std::vector<QWidget*> EntryFrames() const;
   void ShowViewButtons();
@@ -173,6 +174,7 @@ class frmInvoice final : public Screen {
   std::vector<std::function<void()>> m_shown;
   bool m_showing = false;
   bool m_showAgain = false;
+  bool m_typed = false;    ///< Into the entry frame that is open, and not posted or saved since.
   bool m_picking = false;  ///< A category is being picked; the list of them stays.
   int m_depth = 0;         ///< Events inside one another.
 };

@@ -36,7 +36,9 @@ void frmInvoice::WireLineEntry() {
         cmdPost[kind],
         [this, kind] {
           const bool shows = kind == LineKind::Manual || Shows(m_cboDescription[ElementOf(kind)]);
+          const auto lines = m_invoice.LineCount;
           PostLine(EntryDesk(), kind, shows);
+          if (m_invoice.LineCount > lines) m_typed = false;
         },
         WhenLeaveRefused::Dropped);
   }

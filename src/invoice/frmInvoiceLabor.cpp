@@ -22,6 +22,7 @@ void frmInvoice::WireLabor() {
       ui->cmdLabor_1,
       [this] {
         PostLabor(m_invoice, m_desk.Prices.Labor, m_desk.Settings.Tax);
+        m_typed = false;
         if (ui->mnuServices->isEnabled()) mnuServices();
       },
       WhenLeaveRefused::Dropped);

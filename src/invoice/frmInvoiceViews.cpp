@@ -1,4 +1,6 @@
 // The views: frames that are shown one at a time above the grid, and the help that goes with each.
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QShortcut>
 
 #include "catalogue/Catalogue.h"
@@ -9,6 +11,7 @@
 #include "invoice/Totals.h"
 #include "invoice/WorkingInvoice.h"
 #include "runtime/Currency.h"
+#include "runtime/Dialogs.h"
 #include "setup/LiveSettings.h"
 #include "ui_frmInvoice.h"
 
@@ -36,7 +39,15 @@ void frmInvoice::WireViews() {
   for (QWidget* frame : EntryFrames()) {
     auto* escape = new QShortcut(Qt::Key_Escape, frame);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
-    On(escape, &QShortcut::activated, Doing([this] { HideFrames(); }));
+    On(escape, &QShortcut::activated, Doing([this] { EscapeEntryFrame(); }));
+    for (const QLineEdit* line : frame->findChildren<QLineEdit*>()) {
+      connect(line, &QLineEdit::textEdited, this, [this] { m_typed = true; });
+    }
+  }
+  for (const QPlainTextEdit* lines : {ui->txtMemo, ui->txtNarrative}) {
+    connect(lines, &QPlainTextEdit::textChanged, this, [this] {
+      if (!m_showing) m_typed = true;
+    });
   }
 }
 
@@ -66,6 +77,16 @@ void frmInvoice::HideFrames() {
   for (QWidget* frame : EntryFrames()) frame->hide();
   ui->fraSetup->hide();
   ui->fraPrintReady->hide();
+  m_typed = false;
+}
+
+/// Escape goes back to the lines, where that loses nothing.
+void frmInvoice::EscapeEntryFrame() {
+  if (m_typed) {
+    m_desk.Boxes.Beep();
+  } else {
+    mnuCreate();
+  }
 }
 
 void frmInvoice::ShowInstructions(int index) {

@@ -52,6 +52,10 @@ class ScreenViews : public QObject {
   void laborThatWasRenamedShowsAtTheNextOpening();
   void openingTheNarrativeGoesToItsText();
   void escapeInAnEntryFrameClosesIt();
+  void escapeLeavesAFrameOpenWhereSomethingWasTyped_data();
+  void escapeLeavesAFrameOpenWhereSomethingWasTyped();
+  void escapeClosesAFrameAgainOnceTheLineIsPosted();
+  void escapeClosesTheMemoAgainOnceItIsSaved();
   void itemsCompleteHidesTheItemsAlone();
   void theHelpButtonsPutOnePanelInPlaceOfAnother();
   void theDiscountHelpCoversTheFirstHelpUntilItIsSentBack();
@@ -204,6 +208,64 @@ void ScreenViews::escapeInAnEntryFrameClosesIt() {
   InvoiceBench bench;
   bench.OpenAtLines();
   bench.On().Trigger(u"mnuServices"_s);
+  bench.On().PressKey(Qt::Key_Escape);
+  QCOMPARE(Shown(bench.On()), QStringList{});
+  QCOMPARE(Help(bench.On()), QList<int>{1});
+}
+
+void ScreenViews::escapeLeavesAFrameOpenWhereSomethingWasTyped_data() {
+  QTest::addColumn<QString>("entry");
+  QTest::addColumn<QString>("frame");
+  QTest::addColumn<QString>("box");
+  QTest::newRow("services") << u"mnuServices"_s << u"fraServices"_s << u"cboDescription_0"_s;
+  QTest::newRow("a price") << u"mnuServices"_s << u"fraServices"_s << u"cboPrice_0"_s;
+  QTest::newRow("items") << u"mnuItems"_s << u"fraItems"_s << u"txtUnits"_s;
+  QTest::newRow("custom items") << u"mnuCItems"_s << u"fraCItems"_s << u"txtCUnits"_s;
+  QTest::newRow("manual") << u"mnuManual"_s << u"fraManual"_s << u"txtManual_0"_s;
+  QTest::newRow("labor") << u"mnuLabor"_s << u"fraLabor"_s << u"txtHours_1"_s;
+  QTest::newRow("memo") << u"mnuMemo"_s << u"fraMemo"_s << u"txtMemo"_s;
+  QTest::newRow("narrative") << u"mnuNarrative"_s << u"fraNarrative"_s << u"txtNarrative"_s;
+}
+
+void ScreenViews::escapeLeavesAFrameOpenWhereSomethingWasTyped() {
+  QFETCH(const QString, entry);
+  QFETCH(const QString, frame);
+  QFETCH(const QString, box);
+  InvoiceBench bench;
+  bench.Tree.Write(u"/Narrative.txt"_s, "Thank you\r\n");
+  bench.Tree.Write(u"/InvoiceMemo.txt"_s, "Open all day\r\n");
+  bench.OpenAt(entry);
+  bench.On().Control(box)->setFocus();
+  bench.On().Type(u"7"_s);
+  bench.On().PressKey(Qt::Key_Escape);
+  QCOMPARE(Shown(bench.On()), QStringList{frame});
+  QCOMPARE(bench.Dialogs.Beeps, 1);
+  // Opened anew, and nothing typed yet.
+  bench.On().Trigger(entry);
+  bench.On().PressKey(Qt::Key_Escape);
+  QCOMPARE(Shown(bench.On()), QStringList{});
+  QCOMPARE(bench.Dialogs.Beeps, 1);
+}
+
+void ScreenViews::escapeClosesAFrameAgainOnceTheLineIsPosted() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().PressKey(Qt::Key_Escape);
+  QCOMPARE(Shown(bench.On()), QStringList{});
+  // A post that was refused posts nothing.
+  bench.On().Trigger(u"mnuManual"_s);
+  bench.On().Fill(u"txtManual_0"_s, u"Crate"_s);
+  bench.On().Click(u"cmdPost_2"_s);
+  bench.On().PressKey(Qt::Key_Escape);
+  QCOMPARE(Shown(bench.On()), QStringList{u"fraManual"_s});
+}
+
+void ScreenViews::escapeClosesTheMemoAgainOnceItIsSaved() {
+  InvoiceBench bench;
+  bench.OpenAt(u"mnuMemo"_s);
+  bench.On().Type(u"Open all day"_s);
+  bench.On().Click(u"cmdInvoiceMemo_2"_s);
   bench.On().PressKey(Qt::Key_Escape);
   QCOMPARE(Shown(bench.On()), QStringList{});
 }
