@@ -55,6 +55,7 @@ class ScreenFlow : public QObject {
   void readyToPrintTotalsTheLines();
   void redoEmptiesTheInvoiceAndLeavesThePrintReadyView();
   void menuReadsTheSettingsAgainAndLeaves();
+  void theMenuButtonTellsThatItDropsTheLines();
   void exitDropsTheInvoice();
   void menuAlwaysRunsThoughTheBoxThatWasLeftIsRefused();
   void theUsersCloseBoxEndsTheProgram();
@@ -303,6 +304,16 @@ void ScreenFlow::menuReadsTheSettingsAgainAndLeaves() {
   QCOMPARE(bench.Around.Asked, (QStringList{u"hide frmInvoice"_s, u"show frmStartup"_s}));
   // The lines stay until the next invoice begins.
   QCOMPARE(bench.Invoice.LineCount, 1);
+}
+
+void ScreenFlow::theMenuButtonTellsThatItDropsTheLines() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  QVERIFY(bench.On().Control(u"cmdInvoice_1"_s)->toolTip().contains(u"lines are dropped"_s));
+  bench.On().Click(u"cmdInvoice_1"_s);
+  bench.Reopen();
+  QCOMPARE(bench.Invoice.LineCount, 0);
 }
 
 void ScreenFlow::exitDropsTheInvoice() {
