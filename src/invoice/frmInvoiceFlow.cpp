@@ -74,6 +74,9 @@ bool frmInvoice::Continue(const std::function<void()>& refused) {
   FillReference(m_invoice, m_desk.Today);
   ui->cmdTemplate_2->setEnabled(true);
   mnuCreate();
+  // Not the number's box, where the next key would replace the number; nor a row without a line, which it would fill.
+  m_invoice.Controls.Focus = u"fgInvoice"_s;
+  if (m_invoice.fgInvoice.Row() > m_invoice.LineCount) m_invoice.fgInvoice.SetRow(0);
   if (!m_invoice.fgInvoice.Text(1, LineColumn::Description).isEmpty()) m_invoice.Controls.Enabled.cmdPrint = true;
   return true;
 }

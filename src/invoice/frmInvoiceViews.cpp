@@ -65,7 +65,10 @@ void frmInvoice::OnStrip(QToolButton* button, QAction* entry, void (frmInvoice::
 /// The way out of the setup view is Continue, which takes the number over: passed by, the invoice would be recorded
 /// under another one. The entries of the menu do pass it by, which is meant.
 void frmInvoice::GoByStrip(void (frmInvoice::*view)()) {
-  if (Shows(ui->fraSetup) && view != &frmInvoice::mnuSetup && !Continue({})) return;
+  if (Shows(ui->fraSetup) && view != &frmInvoice::mnuSetup) {
+    if (!Continue({}) || view == &frmInvoice::mnuCreate) return;
+    m_invoice.Controls.Focus.clear();
+  }
   (this->*view)();
 }
 

@@ -47,6 +47,8 @@ class ScreenFlow : public QObject {
   void openingAgainClearsTheInvoiceBefore();
   void templatesShowWhereTheFolderHoldsAny();
   void continueGoesToTheLines();
+  void continueGivesTheFocusToTheLinesAndTheNextKeyChangesNothing();
+  void continueKeepsTheLineThatWasSelected();
   void continueWithoutANumberShowsBothMessagesAndStaysAtTheNumber();
   void continueFillsAnEmptyReferenceAndKeepsATypedOne();
   void readyToPrintIsEnabledByTheFirstPostNotByContinue();
@@ -206,6 +208,32 @@ void ScreenFlow::continueGoesToTheLines() {
   QVERIFY(!bench.On().IsVisible(u"fraSetup"_s));
   QVERIFY(bench.On().IsVisible(u"fraInstructions_1"_s));
   QVERIFY(bench.On().IsEnabled(u"cmdTemplate_2"_s));
+}
+
+void ScreenFlow::continueGivesTheFocusToTheLinesAndTheNextKeyChangesNothing() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.PostManual(u"Box"_s, u"2"_s, u"10"_s);
+  bench.On().SelectRow(u"fgInvoice"_s, 2);
+  bench.On().Click(u"cmdInvoice_1"_s);
+  bench.Reopen();
+  bench.On().Click(u"cmdInvoice_0"_s);
+  QCOMPARE(bench.On().FocusName(), u"fgInvoice"_s);
+  bench.On().Type(u"5"_s);
+  QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"20260001"_s);
+  for (int row = 1; row <= 3; ++row) QCOMPARE(bench.Row(row), QStringList(6, QString()));
+}
+
+void ScreenFlow::continueKeepsTheLineThatWasSelected() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().SelectRow(u"fgInvoice"_s, 1);
+  bench.On().PressKey(Qt::Key_F2);
+  bench.On().PressKey(Qt::Key_F3);
+  QCOMPARE(bench.On().FocusName(), u"fgInvoice"_s);
+  QCOMPARE(bench.Invoice.fgInvoice.Row(), 1);
 }
 
 void ScreenFlow::continueWithoutANumberShowsBothMessagesAndStaysAtTheNumber() {
