@@ -1,7 +1,7 @@
 // The files that are read while the program is worked on, and can come back from the Backup folder then: with the file
 // and its copy each missing, empty, cut short, damaged, older or good. And the files that a finished invoice is
-// appended to, where they or their copies are there. What is listed from its folder (images, partial invoices, proposals,
-// templates) is never missed, and so never fetched.
+// appended to, where they or their copies are there. What is listed from its folder (images, partial invoices,
+// proposals, templates) is never missed, and so never fetched.
 
 #include <QtWidgets>
 
@@ -9,6 +9,7 @@
 #include "records/SoldItems.h"
 #include "reliability/MemoryDisk.h"
 #include "reliability/OneDay.h"
+#include "support/CompletedImages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +17,7 @@ namespace {
 
 [[maybe_unused]] const MemoryDisk Quick;
 
-/// What a place may hold, and what the user sees of it; one that can't be loaded is told of and ends the program.
+/// What a place may hold, and what the user sees of it.
 struct State {
   const char* Name;
   std::optional<QByteArray> Bytes;  ///< Nothing: no file.
@@ -24,14 +25,17 @@ struct State {
   QString Seen;
 };
 
+/// What comes of a file that can't be loaded: the program tells it and ends, or a print job has its own message.
+enum class Unreadable { EndsIt, FailsThePrint };
 /// What the reading does to the copy.
 enum class Copy { Kept, Dropped };
 
 struct Subject {
   QString File;
+  Unreadable Then;
   Copy Kind;
   std::function<void()> Go;  ///< From the main menu to where it is read.
-  std::function<QString()> See;
+  std::function<QString(const ProgramFixture&)> See;
   QList<State> States;
 };
 
@@ -74,9 +78,10 @@ void OpenSales() {
 Subject SpeedNumbers() {
   const QByteArray good = "\"Ann\"\r\n\"555\"\r\n";
   return {u"/SpeedNumbers.txt"_s,
+          Unreadable::EndsIt,
           Copy::Kept,
           &OpenDialer,
-          [] { return TextOf(u"frmDialer"_s, u"cmdDialer_0"_s); },
+          [](const ProgramFixture&) { return TextOf(u"frmDialer"_s, u"cmdDialer_0"_s); },
           {{"good", good, true, u"Ann"_s},
            {"older", "\"Bob\"\r\n\"444\"\r\n", true, u"Bob"_s},
            {"missing", {}, true, u""_s},
@@ -89,9 +94,10 @@ Subject SpeedNumbers() {
 Subject States() {
   const QByteArray good = QByteArray("\"FL\"\r\n").repeated(50);
   return {u"/StatesList.txt"_s,
+          Unreadable::EndsIt,
           Copy::Kept,
           [] { OneDay::GoToCustomers(); },
-          [] {
+          [](const ProgramFixture&) {
             const auto* states = ScreenDriver(u"frmNewCustomer"_s).Control<QComboBox>(u"cboStates"_s);
             return QString::number(states->count()) + states->itemText(0);
           },
@@ -105,9 +111,10 @@ Subject States() {
 Subject Headings() {
   const QByteArray good = "Gate\r\nDog\r\nc\r\nd\r\ne\r\nf\r\n";
   return {u"/AuxHeadings.txt"_s,
+          Unreadable::EndsIt,
           Copy::Kept,
           &OpenNotes,
-          [] { return TextOf(u"frmNewCustomer"_s, u"txtHeading_0"_s); },
+          [](const ProgramFixture&) { return TextOf(u"frmNewCustomer"_s, u"txtHeading_0"_s); },
           {{"good", good, true, u"Gate"_s},
            {"older", "Door" + good.mid(4), true, u"Door"_s},
            {"missing", {}, true, u""_s},
@@ -118,9 +125,10 @@ Subject Headings() {
 
 Subject Notes() {
   return {u"/AuxFiles/1001/AuxFile0/Data.txt"_s,
+          Unreadable::EndsIt,
           Copy::Kept,
           &OpenNotes,
-          [] { return TextOf(u"frmNewCustomer"_s, u"txtAux_0"_s); },
+          [](const ProgramFixture&) { return TextOf(u"frmNewCustomer"_s, u"txtAux_0"_s); },
           {{"good", "Rings twice\r\n", true, u"Rings twice\n"_s},
            {"older", "Rings\r\n", true, u"Rings\n"_s},
            {"missing", {}, true, u""_s},
@@ -131,9 +139,10 @@ Subject Notes() {
 
 Subject DefaultNarrative() {
   return {u"/Narrative.txt"_s,
+          Unreadable::EndsIt,
           Copy::Kept,
           &OpenNarrative,
-          [] { return TextOf(u"frmInvoice"_s, u"txtNarrative"_s); },
+          [](const ProgramFixture&) { return TextOf(u"frmInvoice"_s, u"txtNarrative"_s); },
           {{"good", "As agreed.\r\n", true, u"As agreed.\n"_s},
            {"older", "As told.\r\n", true, u"As told.\n"_s},
            {"missing", {}, true, u""_s},
@@ -144,9 +153,10 @@ Subject DefaultNarrative() {
 
 Subject Counter() {
   return {u"/KVInvoiceNo.txt"_s,
+          Unreadable::EndsIt,
           Copy::Dropped,
           &OpenInvoice,
-          [] { return TextOf(u"frmInvoice"_s, u"txtInvoiceNo"_s); },
+          [](const ProgramFixture&) { return TextOf(u"frmInvoice"_s, u"txtInvoiceNo"_s); },
           {{"good", "20260017\r\n", true, u"20260017"_s},
            {"older", "20260016\r\n", true, u"20260016"_s},
            {"empty", "", false, {}},
@@ -157,9 +167,10 @@ Subject Counter() {
 Subject Sales() {
   const QByteArray good = Sold("Hammer", Day::Mar1, "20260001", 3) + Sold("Hammer", Day::Feb4, "20260000", 2);
   return {u"/SoldItems.txt"_s,
+          Unreadable::EndsIt,
           Copy::Kept,
           &OpenSales,
-          [] {
+          [](const ProgramFixture&) {
             const auto* totals = ScreenDriver(u"frmSalesReport"_s).Control<QTableView>(u"fgTotals"_s)->model();
             return totals->index(0, 1).data().toString();
           },
@@ -171,8 +182,54 @@ Subject Sales() {
            {"text", Sold("Hammer", Day::Mar1, "20260001", 7), true, u"7"_s}}};
 }
 
+void Reprint() {
+  OpenReprint();
+  const ScreenDriver reprint(u"frmReprint"_s);
+  reprint.SelectRow(u"fgReceivables"_s, 1);
+  reprint.Click(u"cmdPrint"_s);
+}
+
+/// The one of these texts that was printed.
+auto Printed(const QStringList& texts) {
+  return [texts](const ProgramFixture& program) {
+    for (const QString& text : texts) {
+      if (!program.Paper.Find(text).empty()) return text;
+    }
+    return QString();
+  };
+}
+
+Subject WebSite() {
+  return {u"/MyWebSite.txt"_s,
+          Unreadable::FailsThePrint,
+          Copy::Kept,
+          &Reprint,
+          Printed({u"grove.example"_s, u"orchard.example"_s, u"Grove.example"_s, u"gro"_s}),
+          {{"good", "\"grove.example\"\r\n", true, u"grove.example"_s},
+           {"older", "\"orchard.example\"\r\n", true, u"orchard.example"_s},
+           {"missing", {}, true, u""_s},
+           {"empty", "", false, {}},
+           {"cut", "\"gro", true, u"gro"_s},
+           {"text", "\"Grove.example\"\r\n", true, u"Grove.example"_s}}};
+}
+
+Subject NarrativeOfAnInvoice() {
+  return {u"/KarvexInvoicer/Narratives/20260001.txt"_s,
+          Unreadable::FailsThePrint,
+          Copy::Kept,
+          &Reprint,
+          Printed({u"felled"_s, u"Felled"_s, u"pruned"_s, u"fel"_s}),
+          {{"good", "felled\r\n", true, u"felled"_s},
+           {"older", "pruned\r\n", true, u"pruned"_s},
+           {"missing", {}, true, u""_s},
+           {"empty", "", true, u""_s},
+           {"cut", "fel", true, u"fel"_s},
+           {"text", "Felled\r\n", true, u"Felled"_s}}};
+}
+
 QList<Subject> Subjects() {
-  return {SpeedNumbers(), States(), Headings(), Notes(), DefaultNarrative(), Counter(), Sales()};
+  return {WebSite(), NarrativeOfAnInvoice(), SpeedNumbers(), States(), Headings(),
+          Notes(),   DefaultNarrative(),     Counter(),      Sales()};
 }
 
 void Put(const TemporaryTree& tree, const QString& name, const std::optional<QByteArray>& bytes) {
@@ -227,6 +284,7 @@ void MirrorLater::whatIsToldHappensInEveryState() {
   OneDay::Stock(program.Tree);
   const QByteArray witness = "an older copy of another file";
   program.Tree.Write(u"/Backup/Services.txt"_s, witness);
+  program.Tree.Write(u"/CompletedInvoices/20260001.txt"_s, Image("20260001", "Acme Tools", "3/7/2026", "$25.00"));
   Put(program.Tree, about.File, there.Bytes);
   Put(program.Tree, copyName, kept.Bytes);
   QVERIFY(program.StartAtMenu());
@@ -237,15 +295,16 @@ void MirrorLater::whatIsToldHappensInEveryState() {
   about.Go();
   QCOMPARE(Held(program.Tree, about.File), read.Bytes);
   if (read.Loads) {
-    QCOMPARE(about.See(), read.Seen);
+    QCOMPARE(about.See(program), read.Seen);
     QVERIFY(!program.Running().HasEnded());
     QCOMPARE(Held(program.Tree, copyName), about.Kind == Copy::Dropped ? std::nullopt : kept.Bytes);
     return;
   }
   const QString text = program.Answers.Last().Text;
-  QVERIFY2(text.contains(about.File), qPrintable(text));
+  const bool ends = about.Then == Unreadable::EndsIt;
+  QVERIFY2(text.contains(ends ? about.File : u"A Print Error has occurred"_s), qPrintable(text));
   QCOMPARE(Held(program.Tree, copyName), kept.Bytes);
-  QVERIFY(program.Running().HasEnded());
+  QCOMPARE(program.Running().HasEnded(), ends);
   // The good copies aren't written over by such an end.
   QCOMPARE(program.Tree.Bytes(u"/Backup/Services.txt"_s), witness);
 }
