@@ -79,11 +79,18 @@ void frmInvoice::Leave(QWidget* box, const std::function<void()>& handler) {
   OnLeave(box, Doing(handler));
 }
 
-void frmInvoice::EnterRuns(QLineEdit* box, QAbstractButton* button) {
-  On(box, &QLineEdit::returnPressed, [button] {
-    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    if (button->isVisible()) QCoreApplication::sendEvent(button, &enter);
-  });
+void frmInvoice::EnterRuns(QWidget* box, QAbstractButton* button) {
+  m_enterRuns[box] = button;
+  box->installEventFilter(this);
+}
+
+/// The key ends there: passed on, it would run the button of the view as well.
+bool frmInvoice::RunByEnter(QObject* box, const QKeyEvent& key) {
+  const auto runs = m_enterRuns.find(box);
+  if (runs == m_enterRuns.end() || (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)) return false;
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  if (!key.isAutoRepeat() && runs->second->isVisible()) QCoreApplication::sendEvent(runs->second, &enter);
+  return true;
 }
 
 void frmInvoice::FilterNumber(QLineEdit* box, QAbstractButton* onEnter) {
@@ -104,6 +111,7 @@ bool frmInvoice::eventFilter(QObject* watched, QEvent* event) {
     button->click();
     return true;
   }
+  if (event->type() == QEvent::KeyPress && RunByEnter(watched, *static_cast<QKeyEvent*>(event))) return true;
   if (event->type() == QEvent::KeyPress && watched == ui->txtMemo) Do([this] { TypeInMemo(m_invoice); });
   return Screen::eventFilter(watched, event);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <QString>
 #include <vector>
@@ -19,6 +20,7 @@ class ListCombo;
 class PrinterRoutines;
 class QAction;
 class QCheckBox;
+class QKeyEvent;
 class QLabel;
 class QPlainTextEdit;
 class QRadioButton;
@@ -70,7 +72,8 @@ class frmInvoice final : public Screen {
   void Enter(QWidget* box, const std::function<void()>& handler);
   void Leave(QWidget* box, const std::function<void()>& handler);
   /// Enter in a box does the obvious next thing: as Enter on the button would.
-  void EnterRuns(QLineEdit* box, QAbstractButton* button);
+  void EnterRuns(QWidget* box, QAbstractButton* button);
+  bool RunByEnter(QObject* box, const QKeyEvent& key);
   void FilterNumber(QLineEdit* box, QAbstractButton* onEnter);
   void Choose(QAction* entry, void (frmInvoice::*view)());
   /// A button of the strip of views, which its key runs as well; it is enabled as the menu's entry is.
@@ -174,6 +177,7 @@ class frmInvoice final : public Screen {
   std::vector<std::function<void()>> m_shown;
   bool m_showing = false;
   bool m_showAgain = false;
+  std::map<QObject*, QAbstractButton*> m_enterRuns;  ///< What Enter in a box runs.
   bool m_typed = false;    ///< Into the entry frame that is open, and not posted or saved since.
   bool m_picking = false;  ///< A category is being picked; the list of them stays.
   int m_depth = 0;         ///< Events inside one another.

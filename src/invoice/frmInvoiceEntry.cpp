@@ -24,8 +24,8 @@ void frmInvoice::WireLineEntry() {
     WireDescription(element);
   }
   // A service needs no units: Enter on its description or price posts it.
-  EnterRuns(m_cboDescription[0]->lineEdit(), ui->cmdPost_0);
-  EnterRuns(m_cboPrice[0]->lineEdit(), ui->cmdPost_0);
+  EnterRuns(m_cboDescription[0], ui->cmdPost_0);
+  EnterRuns(m_cboPrice[0], ui->cmdPost_0);
   WireCategories();
   WireUnits();
   WireManual();

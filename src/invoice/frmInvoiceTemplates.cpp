@@ -21,6 +21,7 @@ void frmInvoice::WireTemplates() {
     ui->cmdTemplate_0->setEnabled(true);
     ui->cmdTemplate_1->setEnabled(true);
   });
+  EnterRuns(ui->flstInvoiceTemplates, ui->cmdTemplate_0);
   Click(ui->cmdTemplate_0, [this, desk, selected] {
     if (LoadTemplate(desk(), selected())) Continue([this] { mnuCreate(); });
   });

@@ -107,6 +107,7 @@ void frmInvoice::ShowViewButtons() {
   const bool printReady = Shows(ui->fraPrintReady);
   m_cmdInvoice[0]->setVisible(setup);
   for (QWidget* button : {m_cmdInvoice[9], ui->cmdInvoiceContinue, ui->cmdCancelPrint}) button->setVisible(printReady);
+  SetEnterButton(setup ? m_cmdInvoice[0] : nullptr);
   // The button that stands out is the way forward of the view.
   ui->cmdPrint->setVisible(!setup);
   ui->cmdPrint->setPalette(printReady ? ui->cmdSave->palette() : ui->cmdInvoiceContinue->palette());

@@ -48,6 +48,9 @@ class ScreenFlow : public QObject {
   void templatesShowWhereTheFolderHoldsAny();
   void continueGoesToTheLines();
   void continueGivesTheFocusToTheLinesAndTheNextKeyChangesNothing();
+  void enterInABoxOfTheSetupViewContinues_data();
+  void enterInABoxOfTheSetupViewContinues();
+  void enterOnAButtonOfTheSetupViewRunsThatButtonAlone();
   void continueKeepsTheLineThatWasSelected();
   void continueWithoutANumberShowsBothMessagesAndStaysAtTheNumber();
   void continueFillsAnEmptyReferenceAndKeepsATypedOne();
@@ -223,6 +226,37 @@ void ScreenFlow::continueGivesTheFocusToTheLinesAndTheNextKeyChangesNothing() {
   bench.On().Type(u"5"_s);
   QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"20260001"_s);
   for (int row = 1; row <= 3; ++row) QCOMPARE(bench.Row(row), QStringList(6, QString()));
+}
+
+void ScreenFlow::enterInABoxOfTheSetupViewContinues_data() {
+  QTest::addColumn<QString>("box");
+  for (const char* box : {"txtInvoiceNo", "DTPicker1", "txtShipto_0", "txtShipto_6", "txtReference", "ckShipto"}) {
+    QTest::newRow(box) << QString::fromLatin1(box);
+  }
+}
+
+void ScreenFlow::enterInABoxOfTheSetupViewContinues() {
+  QFETCH(const QString, box);
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Control(box)->setFocus();
+  bench.On().PressKey(Qt::Key_Return);
+  QVERIFY(!bench.On().IsVisible(u"fraSetup"_s));
+  QCOMPARE(bench.Text(u"txtReference"_s), u"Prepared 3/7/2026"_s);
+  QCOMPARE(bench.On().FocusName(), u"fgInvoice"_s);
+  // Beside the lines the key has no button to run.
+  bench.On().Control(u"txtInvoiceNo"_s)->setFocus();
+  bench.On().PressKey(Qt::Key_Return);
+  QVERIFY(!bench.On().IsVisible(u"fraPrintReady"_s));
+}
+
+void ScreenFlow::enterOnAButtonOfTheSetupViewRunsThatButtonAlone() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Control(u"cmdShipToAddress_0"_s)->setFocus();
+  bench.On().PressKey(Qt::Key_Return);
+  QVERIFY(bench.On().IsVisible(u"fraSetup"_s));
+  QCOMPARE(bench.Text(u"txtShipto_0"_s), u"Acme Tools"_s);
 }
 
 void ScreenFlow::continueKeepsTheLineThatWasSelected() {
