@@ -59,6 +59,11 @@ class ScreenTotals : public QObject {
 
  private Q_SLOTS:
   void finalizeShowsEverythingAndEnablesPrint();
+  void theButtonThatStandsOutIsFinalizeUntilItHasRunThenPrint();
+  void enterInTheSummaryFinalizesAndNeverPrints();
+  void enterInAChargeBoxRunsFinalizeOnce();
+  void enterDoesNothingWhileThePaymentIsAskedFor();
+  void theTabKeyGoesFromShippingToTheAdditionalCharge();
   void anExemptCustomerPaysNoTax();
   void theSecondTaxIsTheInvoicesOwnTick();
   void atTheThresholdTheFirstRateStands();
@@ -546,6 +551,17 @@ void ScreenTotals::thePrintEntryOfTheMenuTotalsTheLines() {
   QCOMPARE(bench.Text(u"txtTotal"_s), u"$0.00"_s);
   bench.On().Trigger(u"mnuPrint"_s);
   QCOMPARE(bench.Text(u"txtTotal"_s), u"$600.00"_s);
+}
+
+void ScreenTotals::theTabKeyGoesFromShippingToTheAdditionalCharge() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().PressKey(Qt::Key_Tab);
+  QCOMPARE(bench.On().FocusName(), u"txtMisc"_s);
+  QCOMPARE(bench.Text(u"txtShip"_s), u"$5.00"_s);
 }
 
 QTEST_MAIN(ScreenTotals)
