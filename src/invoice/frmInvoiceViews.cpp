@@ -107,8 +107,12 @@ void frmInvoice::ShowViewButtons() {
   const bool printReady = Shows(ui->fraPrintReady);
   m_cmdInvoice[0]->setVisible(setup);
   for (QWidget* button : {m_cmdInvoice[9], ui->cmdInvoiceContinue, ui->cmdCancelPrint}) button->setVisible(printReady);
-  SetEnterButton(setup ? m_cmdInvoice[0] : nullptr);
+  // Enter never prints, though Print stands out then: Cancel in the printer dialog drops the invoice.
+  const bool paying = m_invoice.Controls.Visible.fraPrePaid;
+  SetEnterButton(setup ? m_cmdInvoice[0] : printReady && !paying ? m_cmdInvoice[9] : nullptr);
   // The button that stands out is the way forward of the view.
+  const bool finalized = m_invoice.Controls.Enabled.cmdInvoiceContinue;
+  m_cmdInvoice[9]->setPalette(finalized ? ui->cmdSave->palette() : ui->cmdInvoiceContinue->palette());
   ui->cmdPrint->setVisible(!setup);
   ui->cmdPrint->setPalette(printReady ? ui->cmdSave->palette() : ui->cmdInvoiceContinue->palette());
   bool none = true;

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "desktop/Style.h"
 #include "support/InvoiceBench.h"
 
 using namespace Qt::StringLiterals;
@@ -551,6 +552,81 @@ void ScreenTotals::thePrintEntryOfTheMenuTotalsTheLines() {
   QCOMPARE(bench.Text(u"txtTotal"_s), u"$0.00"_s);
   bench.On().Trigger(u"mnuPrint"_s);
   QCOMPARE(bench.Text(u"txtTotal"_s), u"$600.00"_s);
+}
+
+void ScreenTotals::theButtonThatStandsOutIsFinalizeUntilItHasRunThenPrint() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  const auto standsOut = [&bench](const QString& name) {
+    const QWidget* button = bench.On().Control(name);
+    const QColor ground = button->palette().color(QPalette::Active, QPalette::Button);
+    return button->isEnabled() && ground == PrimaryGround();
+  };
+  QVERIFY(standsOut(u"cmdInvoice_9"_s));
+  QVERIFY(!standsOut(u"cmdInvoiceContinue"_s));
+  QVERIFY(!standsOut(u"cmdPrint"_s));
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QVERIFY(!standsOut(u"cmdInvoice_9"_s));
+  QVERIFY(standsOut(u"cmdInvoiceContinue"_s));
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().PressKey(Qt::Key_Tab);
+  QVERIFY(standsOut(u"cmdInvoice_9"_s));
+}
+
+void ScreenTotals::enterInTheSummaryFinalizesAndNeverPrints() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  for (const auto& box : {u"cboTerms"_s, u"ckExempt"_s}) {
+    bench.Invoice.Controls.Enabled.cmdInvoiceContinue = false;
+    bench.Invoice.txtGrandTotal.clear();
+    bench.Invoice.Show();
+    bench.On().Control(box)->setFocus();
+    bench.On().PressKey(Qt::Key_Return);
+    QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$20.00"_s);
+    QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+    // Again, now that it could be printed: no printer dialog, no question.
+    bench.On().Control(box)->setFocus();
+    bench.On().PressKey(Qt::Key_Return);
+    QVERIFY(bench.On().IsVisible(u"fraPrintReady"_s));
+    QVERIFY(!bench.Tree.Exists(u"/InvoiceSalesJournal.txt"_s));
+    QVERIFY(bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+  }
+}
+
+void ScreenTotals::enterInAChargeBoxRunsFinalizeOnce() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.On().Fill(u"txtShip"_s, u"5"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$25.00"_s);
+  // In the box of the flat discount it deducts, and doesn't finalize as well.
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_1"_s);
+  bench.On().Type(u"4"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"txtDiscount"_s), u"$4.00"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$25.00"_s);
+  QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+}
+
+void ScreenTotals::enterDoesNothingWhileThePaymentIsAskedFor() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.On().Click(u"ckPrepaid"_s);
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QCOMPARE(bench.On().FocusName(), u"cboPrepaid"_s);
+  bench.On().Type(u"Check 17"_s);
+  bench.On().PressKey(Qt::Key_Return);
+  QCOMPARE(bench.Text(u"cboPrepaid"_s), u"Check 17"_s);
+  QVERIFY(bench.On().IsVisible(u"fraPrePaid"_s));
 }
 
 void ScreenTotals::theTabKeyGoesFromShippingToTheAdditionalCharge() {
