@@ -63,6 +63,11 @@ void DrawEdge(QPainter* painter, const QStyleOption& option, bool round) {
   painter->restore();
 }
 
+/// A box that is only read lies flat on the window, as what can't be used does.
+bool IsOnlyRead(const QStyleOption& option, const QWidget* widget) {
+  return option.state.testFlag(QStyle::State_ReadOnly) && !IsInsideOfBox(widget);
+}
+
 /// The frame of a group of controls, which the toolkit draws too faint on a dark palette.
 void DrawQuietEdge(QPainter* painter, const QStyleOption& option) {
   painter->save();
@@ -156,6 +161,10 @@ void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
   }
   if (element == PE_FrameGroupBox) {
     return DrawGroupEdge(painter, *option, widget);
+  }
+  if (element == PE_PanelLineEdit && IsOnlyRead(*option, widget)) {
+    painter->fillRect(option->rect, option->palette.brush(QPalette::Window));
+    return option->state.testFlag(State_HasFocus) ? DrawEdge(painter, *option, false) : DrawQuietEdge(painter, *option);
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   switch (element) {

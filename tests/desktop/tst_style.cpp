@@ -229,6 +229,25 @@ class Styles : public QObject {
     }
   }
 
+  void aBoxThatIsOnlyReadLiesFlatOnTheWindow_data() { everyTextIsReadableOnItsGround_data(); }
+  void aBoxThatIsOnlyReadLiesFlatOnTheWindow() {
+    QFETCH(QPalette, palette);
+    FamilyStyle style;
+    QLineEdit box(u"1"_s);
+    box.setStyle(&style);
+    box.setPalette(palette);
+    box.resize(120, 28);
+    const auto drawn = [&box] { return box.grab().toImage(); };
+    const QColor open = drawn().pixelColor(60, 14);
+    QCOMPARE(open, palette.color(QPalette::Base));
+    const QColor openEdge = drawn().pixelColor(60, 0);
+    box.setReadOnly(true);
+    QCOMPARE(drawn().pixelColor(60, 14), palette.color(QPalette::Window));
+    QVERIFY(open != palette.color(QPalette::Window));
+    QVERIFY(drawn().pixelColor(60, 0) != openEdge);
+    QVERIFY(Contrast(palette.color(QPalette::Text), palette.color(QPalette::Window)) >= 4.5);
+  }
+
   void datesFollowTheUnitedStatesWhateverTheMachineDoes() {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     ApplyStyle(*qApp);
