@@ -66,6 +66,7 @@ class ScreenViews : public QObject {
   void everyViewFitsTheSmallestScreen();
   void everyBoxHasAnAccessibleName();
   void accessKeysOfAViewDifferFromEachOther();
+  void theSetupViewSaysWhereCommasDoHarm();
   void theNextInvoiceLeavesThePrintReadyViewForSetup();
   void theCaptionsStandAsTheUserKnowsThem();
   void theListsHoldTheirEntriesInOrder();
@@ -421,6 +422,15 @@ void ScreenViews::accessKeysOfAViewDifferFromEachOther() {
       QVERIFY2(!used.contains(key), qPrintable(entry + u": "_s + text + u" and "_s + used.value(key)));
       used[key] = text;
     }
+  }
+}
+
+void ScreenViews::theSetupViewSaysWhereCommasDoHarm() {
+  InvoiceBench bench;
+  bench.Open();
+  QVERIFY(bench.Text(u"lblInstructions_0"_s).contains(u"Leave commas out of the reference and the attention line"_s));
+  for (const auto& box : {u"txtShipto_6"_s, u"txtReference"_s}) {
+    QVERIFY2(bench.On().Control(box)->toolTip().contains(u"ithout commas"_s), qPrintable(box));
   }
 }
 
