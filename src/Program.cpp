@@ -132,13 +132,25 @@ void Program::UserClosed() {
 void Program::UnhandledError(const RuntimeError& error) {
   if (m_ended) return;
   const bool ends = m_starting || error.From() == RuntimeError::Origin::FileContent;
-  m_platform.Boxes->ShowMessage(ErrorBoxText(error, ends, m_platform.DataRoot));
+  m_platform.Boxes->ShowMessage(ErrorBoxText(error, ends, m_platform.DataRoot, NameOfBox(error.Subject())));
   // Without the exit backup: it would overwrite good copies with what may be damaged.
   if (ends) {
     EndProcess();
   } else {
     KeepAWindow();
   }
+}
+
+/// What its screen calls a box; nothing for one of a screen that isn't built, or for no box.
+QString Program::NameOfBox(const QString& objectName) const {
+  if (objectName.isEmpty()) return {};
+  const QWidget* found = nullptr;
+  for (const auto& [name, screen] : m_screens) {
+    const auto* box = screen ? screen->findChild<QWidget*>(objectName) : nullptr;
+    // Two screens may have one of that name: the one in sight is meant.
+    if (box != nullptr && (found == nullptr || screen->isVisible())) found = box;
+  }
+  return found != nullptr ? found->accessibleName() : QString();
 }
 
 /// A screen may have gone before the next one failed to show: without a window the user couldn't go on.

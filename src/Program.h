@@ -52,6 +52,7 @@ class Program final : public Screens, public ScreenHost {
   /// Makes the screen if it isn't there.
   Screen& Build(ScreenName screen);
   void Open(Screen& screen);
+  QString NameOfBox(const QString& objectName) const;
   void KeepAWindow();
   void HideAll();
   void EndProcess();

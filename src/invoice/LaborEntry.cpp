@@ -19,7 +19,7 @@ constexpr size_t Total = 3;  ///< Element of `lblLaborCharge`.
 /// A rate that isn't an amount stops the invoice, so the error tells where rates are entered.
 Currency RateOf(const LaborRates& rates, size_t slot) {
   if (!IsNumeric(rates.txtLaborRate[slot])) {
-    throw RuntimeError(ErrorNumber::TypeMismatch, u"txtLaborRate_%1"_s.arg(slot),
+    throw RuntimeError(ErrorNumber::TypeMismatch, QString(),
                        u"The rate of \"%1\" isn't an amount."_s.arg(rates.txtLabor[slot]))
         .WithAdvice(u"Enter it on the Labor Rates tab of Create and Manage, then open the invoice again."_s);
   }

@@ -22,10 +22,10 @@ void SumLines(WorkingInvoice& invoice) {
 
 /// Above the limit the second rate applies to the whole amount and the surcharge is a second, fixed tax.
 void ComputeGraduatedTax(WorkingInvoice& invoice, const TaxConfiguration& tax) {
-  const Currency limit = Currency::FromText(tax.txtGradulated[0], u"txtGradulated_0"_s);
+  const Currency limit = Currency::FromText(tax.txtGradulated[0], u"Limit of the graduated tax in Setup"_s);
   if (invoice.TaxableAmount > limit) {
     invoice.Tax1 = PercentOf(invoice.TaxableAmount, ParseLeadingNumber(tax.cboRate2));
-    invoice.Tax2 = Currency::FromText(tax.txtGradulated[1], u"txtGradulated_1"_s);
+    invoice.Tax2 = Currency::FromText(tax.txtGradulated[1], u"Tax surcharge in Setup"_s);
   } else {
     invoice.Tax1 = PercentOf(invoice.TaxableAmount, ParseLeadingNumber(tax.cboRate1));
   }

@@ -49,9 +49,10 @@ QString UsualRemedy(const RuntimeError& error) {
   return WhatToDo(error).remove(u"Nothing was lost."_s).trimmed();
 }
 
-QString ErrorBoxText(const RuntimeError& error, bool ends, const QString& dataRoot) {
+QString ErrorBoxText(const RuntimeError& error, bool ends, const QString& dataRoot, const QString& box) {
   QString text = error.Text();
-  if (!error.Subject().isEmpty()) text = error.ShownSubject(dataRoot) + u": "_s + text;
+  const QString subject = error.IsAboutFile() || box.isEmpty() ? error.ShownSubject(dataRoot) : box;
+  if (!subject.isEmpty()) text = subject + u": "_s + text;
   text += u" (error "_s + QString::number(error.Number()) + u")\n\n"_s;
   if (error.Number() == ErrorNumber::InvalidPicture && ends) {
     // The picture is the user's own, and a path that is removed alone comes back from the Backup folder.

@@ -20,6 +20,13 @@ class ErrorTextTest : public QObject {
              u"/data/Labor.txt: The disk is full. (error 61)\n\nMake room on it and try again. Nothing was lost."_s);
   }
 
+  void aBoxGoesByTheNameThatItsScreenCallsItAFileByItsPath() {
+    QCOMPARE(ErrorBoxText(RuntimeError(13, u"txtUnits"_s, u"It isn't a number."_s), false, Root, u"Quantity"_s)
+                 .section(u'\n', 0, 0),
+             u"Quantity: It isn't a number. (error 13)"_s);
+    QVERIFY(ErrorBoxText(RuntimeError(61, u"/Labor.txt"_s), false, Root, u"Quantity"_s).startsWith(Root));
+  }
+
   void anErrorOfNoFileOrBoxBeginsWithWhatHappened() {
     QVERIFY(ErrorBoxText(RuntimeError(9, {}), false, Root)
                 .startsWith(u"A line or entry was asked for that isn't there. (error 9)\n\n"_s));

@@ -61,6 +61,7 @@ class ProgramTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  void anErrorOfABoxNamesItAsItsScreenDoes();
   void anEndInTheMiddleOfAnEndIsTheSameEnd();
   void aScreenWhoseActivationEndsTheProgramDoesNotComeUp();
   void allScreensAreHiddenBeforeTheFirstOneGoes();
@@ -82,6 +83,19 @@ void ProgramTest::aScreenThatWasUnloadedGoesWithTheProgramAtTheLatest() {
     QVERIFY(bench.Running.Built(ScreenName::frmSplash) == nullptr);
   }
   QVERIFY(splash == nullptr);
+}
+
+void ProgramTest::anErrorOfABoxNamesItAsItsScreenDoes() {
+  Bench bench;
+  QVERIFY(bench.Running.Start());
+  bench.Running.Show(ScreenName::frmSetup);
+  bench.Running.UnhandledError(RuntimeError(ErrorNumber::TypeMismatch, u"txtGradulated_1"_s));
+  QCOMPARE(bench.Boxes.Said.size(), 1);
+  QVERIFY2(bench.Boxes.Said.last().contains(u"Apply a Surcharge of: What stands there"_s),
+           qPrintable(bench.Boxes.Said.last()));
+  // What is no box's name stands as it is.
+  bench.Running.UnhandledError(RuntimeError(ErrorNumber::TypeMismatch, u"Unit Price"_s));
+  QVERIFY(bench.Boxes.Said.last().contains(u"Unit Price: What stands there"_s));
 }
 
 void ProgramTest::anEndInTheMiddleOfAnEndIsTheSameEnd() {
