@@ -75,12 +75,7 @@ class NameSorter {
     m_texts.append(TextBytes(record, CustomerField::FirstName)).append(' ').append(initial);
   }
   QByteArray Folded() const {
-    std::array<char, 256> fold{};
-    for (int i = 0; i < 256; ++i) {
-      const char byte = static_cast<char>(i);
-      const QByteArray lower = ToCodePage(FromCodePage(QByteArrayView(&byte, 1)).toLower());
-      fold[static_cast<std::size_t>(i)] = lower.size() == 1 ? lower[0] : byte;
-    }
+    const std::array<char, 256> fold = SmallLettersOfCodePage();
     QByteArray folded = m_texts;
     for (char& byte : folded) {
       byte = fold[static_cast<unsigned char>(byte)];

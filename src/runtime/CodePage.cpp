@@ -20,6 +20,23 @@ QByteArray Encode(QStringView text, QStringConverter::Flags flags, bool& failed)
   return bytes;
 }
 
+/// What `turned` makes of each byte of the code page; a byte whose letter becomes one outside stays as it is. All at a
+/// time: each conversion has its price, whatever its length.
+template <typename Turn>
+std::array<char, 256> EachLetter(Turn turned) {
+  QByteArray all;
+  for (int i = 0; i < 256; ++i) all.append(static_cast<char>(i));
+  QString letters = FromCodePage(all);
+  for (QChar& letter : letters) letter = turned(letter);
+  const QByteArray bytes = ToCodePage(letters);
+  const QString readBack = FromCodePage(bytes);
+  std::array<char, 256> result{};
+  for (qsizetype i = 0; i < all.size(); ++i) {
+    result[static_cast<std::size_t>(i)] = readBack[i] == letters[i] ? bytes[i] : all[i];
+  }
+  return result;
+}
+
 }  // namespace
 
 QByteArray ToCodePage(QStringView text) {
@@ -49,16 +66,9 @@ QString FromCodePage(QByteArrayView bytes) {
 }
 
 std::array<char, 256> CapitalsOfCodePage() {
-  std::array<char, 256> capitals{};
-  QByteArray all;
-  for (int i = 0; i < 256; ++i) all.append(static_cast<char>(i));
-  // All at a time: each conversion has its price, whatever its length.
-  QString letters = FromCodePage(all);
-  for (QChar& letter : letters) letter = letter.toUpper();
-  const QByteArray bytes = ToCodePage(letters);
-  const QString readBack = FromCodePage(bytes);
-  for (qsizetype i = 0; i < all.size(); ++i) {
-    capitals[static_cast<std::size_t>(i)] = readBack[i] == letters[i] ? bytes[i] : all[i];
-  }
-  return capitals;
+  return EachLetter([](QChar letter) { return letter.toUpper(); });
+}
+
+std::array<char, 256> SmallLettersOfCodePage() {
+  return EachLetter([](QChar letter) { return letter.toLower(); });
 }

@@ -12,3 +12,4 @@ QString FromCodePage(QByteArrayView bytes);
 
 /// The capital of each byte. One whose capital the code page lacks, or writes with two letters, is its own.
 std::array<char, 256> CapitalsOfCodePage();
+std::array<char, 256> SmallLettersOfCodePage();

@@ -72,6 +72,18 @@ class CodePageTest : public QObject {
     // A sharp s has two capitals; those of the micro sign and the florin aren't in the code page.
     for (const char own : {'\xdf', '\xb5', '\x83', '\xd7', '\xf7', '\x81', '\0'}) QCOMPARE(capitalOf(own), own);
   }
+
+  void everyByteHasItsSmallLetter() {
+    const std::array<char, 256> letters = SmallLettersOfCodePage();
+    const auto smallOf = [&](char byte) { return letters[static_cast<unsigned char>(byte)]; };
+    const QByteArray capital("AZ09 ?\xc0\xc9\xde\x8a\x8c\x8e\x9f");
+    const QByteArray small("az09 ?\xe0\xe9\xfe\x9a\x9c\x9e\xff");
+    for (qsizetype i = 0; i < capital.size(); ++i) {
+      QCOMPARE(smallOf(capital[i]), small[i]);
+      QCOMPARE(smallOf(small[i]), small[i]);
+    }
+    for (const char own : {'\xdf', '\xb5', '\x83', '\xd7', '\xf7', '\x81', '\0'}) QCOMPARE(smallOf(own), own);
+  }
 };
 
 QTEST_GUILESS_MAIN(CodePageTest)
