@@ -3,6 +3,13 @@
 #include <QScreen>
 #include <QWidget>
 
+namespace {
+
+// The window manager's frame isn't known before the first window shows: room for a title bar and for edges.
+constexpr QMargins Frame(8, 40, 8, 8);
+
+}  // namespace
+
 void WindowPlacement::Remember(const QWidget& window) {
   if (!window.isVisible() || window.isMinimized()) {
     return;
@@ -16,14 +23,19 @@ void WindowPlacement::Remember(const QWidget& window) {
   }
 }
 
+QRect WindowPlacement::FirstFrame(const QRect& display) {
+  const QSize framed = QSize(DefaultWidth, DefaultHeight).grownBy(Frame).boundedTo(display.size());
+  return {display.center() - QRect(QPoint(), framed).center(), framed};
+}
+
 void WindowPlacement::Apply(QWidget& window) const {
   if (m_known) {
     window.resize(m_size);
     window.move(m_position);
   } else {
-    const QRect display = window.screen()->availableGeometry();
-    window.resize(QSize(DefaultWidth, DefaultHeight).boundedTo(display.size()));
-    window.move(display.center() - window.rect().center());
+    const QRect framed = FirstFrame(window.screen()->availableGeometry());
+    window.resize(framed.marginsRemoved(Frame).size());
+    window.move(framed.topLeft());
   }
   Qt::WindowStates states = window.windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized);
   states.setFlag(Qt::WindowMaximized, m_maximized);

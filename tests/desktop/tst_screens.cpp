@@ -151,7 +151,28 @@ class ScreensShare : public QObject {
     BenchScreen screen(host);
     screen.show();
     ScreenDriver::ProcessEvents();
-    QCOMPARE(screen.size(), QSize(1180, 760).boundedTo(screen.screen()->availableSize()));
+    const QSize display = screen.screen()->availableSize();
+    QCOMPARE(screen.size(), QSize(1180, 760).boundedTo(display.shrunkBy({8, 40, 8, 8})));
+  }
+
+  void theFirstWindowAndItsFrameStandOnASmallDisplay() {
+    // A panel of 28 at the top, and room left for a title bar.
+    const QRect display(0, 28, 1366, 740);
+    const QRect framed = WindowPlacement::FirstFrame(display);
+    QVERIFY(display.contains(framed));
+    QCOMPARE(framed.height(), 740);
+    QCOMPARE(WindowPlacement::FirstFrame(QRect(0, 0, 1024, 768)).size(), QSize(1024, 768));
+    RecordingHost host;
+    BenchScreen screen(host);
+    screen.show();
+    ScreenDriver::ProcessEvents();
+    const QRect here = screen.screen()->availableGeometry();
+    QVERIFY(here.contains(screen.frameGeometry()));
+    QVERIFY(WindowPlacement::FirstFrame(here).contains(screen.frameGeometry()));
+    // On a large display the whole default size is in the middle.
+    const QRect large = WindowPlacement::FirstFrame(QRect(0, 0, 1920, 1080));
+    QVERIFY(large.height() >= WindowPlacement::DefaultHeight + 24);
+    QCOMPARE(large.center(), QRect(0, 0, 1920, 1080).center());
   }
 
   void aScreenOpensWhereTheLastOneStood() {
