@@ -5,12 +5,16 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "desktop/CharacterCode.h"
 #include "desktop/Screen.h"
 #include "desktop/Style.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,6 +22,14 @@ namespace {
 constexpr int Notch = 120;
 
 constexpr int MeasuredTexts = 2000;
+
+// What stays in sight of a column that gives way.
+constexpr int LeastCharacters = 12;
+
+/// Also where there is no further row, and the key leads to the one that is current already.
+bool LeadsToRow(int key) {
+  return key >= Qt::Key_Home && key <= Qt::Key_PageDown;
+}
 
 int ReleasedCode(const QKeyEvent& event) {
   switch (event.key()) {
@@ -69,6 +81,7 @@ void GridView::SetMatrix(TextMatrix* matrix) {
   m_matrix = matrix;
   setModel(matrix);
   matrix->OnRowChanged(this, [this](int row) {
+    m_byUser = m_takingRow;
     ShowRow();
     if (RowChanged) {
       RowChanged(row);
@@ -118,10 +131,41 @@ void GridView::ShowRow() {
     clearSelection();
     return;
   }
-  if (index.row() != currentIndex().row() || !selectionModel()->isRowSelected(index.row())) {
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  const bool shows = ShowsAsCurrent(index.row() + 1);
+  const bool moved = index.row() != currentIndex().row();
+  if (!moved && selectionModel()->isRowSelected(index.row()) == shows) {
+    return;
+  }
+  const QItemSelectionModel::SelectionFlags shown = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+  selectionModel()->setCurrentIndex(index, shows ? shown : QItemSelectionModel::Clear);
+  if (moved || shows) {
     scrollTo(index.siblingAtColumn(columnAt(0)));
   }
+}
+
+/// A blank row, such as the one behind the last line, is nothing to point at until the user stands on it.
+bool GridView::ShowsAsCurrent(int row) const {
+  if (m_awaitsChoice && !m_byUser) {
+    return false;
+  }
+  for (int col = 0; col < m_matrix->Cols(); ++col) {
+    if (!m_matrix->Text(row, col).isEmpty()) {
+      return true;
+    }
+  }
+  return m_byUser && hasFocus();
+}
+
+void GridView::AwaitChoice() {
+  m_awaitsChoice = true;
+  m_byUser = false;
+  ShowRow();
+}
+
+void GridView::GoneTo() {
+  m_byUser = true;
+  TakeRow();
+  ShowRow();
 }
 
 void GridView::TakeRow() {
@@ -129,6 +173,7 @@ void GridView::TakeRow() {
   if (m_matrix == nullptr || !index.isValid()) {
     return;
   }
+  const QScopedValueRollback<bool> taking(m_takingRow, true);
   if (m_matrix->Col() != index.column()) {
     m_matrix->SetCol(index.column());
   }
@@ -152,7 +197,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
   const QPoint position = event->globalPosition().toPoint();
   const Qt::MouseButton button = event->button();
   RunInScreen(this, [this, position, button] {
-    TakeRow();
+    GoneTo();
     if (button == Qt::RightButton && RightPress) {
       RightPress(position);
     }
@@ -189,6 +234,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     m_pressedKey = event->key();
   }
   if (const std::optional<int> code = CharacterCode(*event)) {
+    if (m_awaitsChoice && (*code == 13 || *code == ' ')) {
+      m_byUser = true;
+      ShowRow();
+    }
     // Letters never search the lines: they are for the cell.
     if (KeyPress) {
       RunInScreen(this, [this, key = *code] { KeyPress(key); });
@@ -198,7 +247,8 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QTableView::keyPressEvent(event);
-  RunInScreen(this, [this] { TakeRow(); });
+  const bool goes = LeadsToRow(event->key());
+  RunInScreen(this, [this, goes] { goes ? GoneTo() : TakeRow(); });
 }
 
 void GridView::keyReleaseEvent(QKeyEvent* event) {
@@ -216,6 +266,24 @@ void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
   // The toolkit makes the first cell current on its own; the matrix knows better.
   ShowRow();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  ShowRow();
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    if (IsCut(index)) {
+      QToolTip::showText(help->globalPos(), u"<p>%1</p>"_s.arg(index.data().toString().toHtmlEscaped()), viewport(),
+                         visualRect(index));
+      return true;
+    }
+  }
+  return QTableView::viewportEvent(event);
 }
 
 bool GridView::event(QEvent* event) {
@@ -261,6 +329,7 @@ void GridView::FitSoon() {
         this,
         [this] {
           m_fitting = false;
+          ShowRow();
           FitColumns();
         },
         Qt::QueuedConnection);
@@ -285,11 +354,47 @@ int GridView::TextsWidth(int col) const {
   return width;
 }
 
+int GridView::CellMargins() const {
+  return 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+}
+
+bool GridView::IsCut(const QModelIndex& index) const {
+  return index.isValid() &&
+         fontMetrics().horizontalAdvance(index.data().toString()) + CellMargins() > columnWidth(index.column());
+}
+
 int GridView::NeededWidth(int col) const {
-  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + Spacing::Small / 2;
+  const int margins = CellMargins() + Spacing::Small / 2;
   const int format = fontMetrics().averageCharWidth() * m_matrix->FormatWidth(col);
   const int header = horizontalHeader()->sectionSizeHint(col);
   return std::max(std::max(format, TextsWidth(col)) + margins, header);
+}
+
+int GridView::LeastWidth(int col) const {
+  const int characters = LeastCharacters * fontMetrics().averageCharWidth() + CellMargins();
+  return std::max(characters, horizontalHeader()->sectionSizeHint(col));
+}
+
+void GridView::GiveWay(std::vector<int>& widths) const {
+  const int room = viewport()->width();
+  std::vector<int> least = widths;
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    const int col = static_cast<int>(i);
+    if (!isColumnHidden(col) && m_matrix->Alignment(col).testFlag(Qt::AlignLeft)) {
+      least[i] = std::min(widths[i], LeastWidth(col));
+      widths[i] = std::max(least[i], std::min(widths[i], room));
+    }
+  }
+  for (int over = std::accumulate(widths.begin(), widths.end(), -room); over > 0; --over) {
+    std::size_t widest = widths.size();
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+      if (widths[i] > least[i] && (widest == widths.size() || widths[i] > widths[widest])) widest = i;
+    }
+    if (widest == widths.size()) {
+      return;
+    }
+    --widths[widest];
+  }
 }
 
 void GridView::FitColumns() {
@@ -300,6 +405,7 @@ void GridView::FitColumns() {
   for (int col = 0; col < m_matrix->Cols(); ++col) {
     widths.push_back(isColumnHidden(col) ? 0 : NeededWidth(col));
   }
+  GiveWay(widths);
   const int used = std::accumulate(widths.begin(), widths.end(), 0);
   const auto widest = std::max_element(widths.begin(), widths.end());
   *widest += std::max(0, viewport()->width() - used);

@@ -37,6 +37,7 @@ bool frmIncomplete::MayShow() {
 }
 
 void frmIncomplete::Activate() {
+  m_ui->fgIncomplete->AwaitChoice();
   m_Command1[1]->setEnabled(false);
   m_Command1[3]->setEnabled(false);
   SetFocusTo(m_ui->fgIncomplete);

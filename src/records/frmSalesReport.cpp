@@ -30,6 +30,8 @@ frmSalesReport::frmSalesReport(ScreenHost& host, const SalesDesk& desk)
   m_ui->fraInstructions_0->hide();
   m_ui->fgSalesItems->SetMatrix(&m_desk.Sales.fgSalesItems);
   m_ui->fgTotals->SetMatrix(&m_desk.Sales.fgTotals);
+  // Nothing is done with a row of these: none stands out that the user didn't go to.
+  for (GridView* grid : {m_ui->fgSalesItems, m_ui->fgTotals}) grid->AwaitChoice();
   WireDates();
   WireCommands();
   On(m_ui->lstSalesItems, &QListWidget::itemChanged, [this](QListWidgetItem* item) {

@@ -1,6 +1,8 @@
 // The grid on a screen: one current row, shared with its matrix, by mouse, keys, wheel and code.
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include "desktop/GridView.h"
 #include "desktop/QtDialogs.h"
@@ -101,6 +103,7 @@ class GridViews : public QObject {
     Bench bench;
     QList<int> told;
     bench.grid->RowChanged = [&](int row) { told.append(row); };
+    bench.matrix.SetText(90, 1, u"Gravel"_s);
     bench.matrix.SetRow(90);
     QCOMPARE(bench.grid->currentIndex().row(), 89);
     QVERIFY(bench.grid->selectionModel()->isRowSelected(89));
@@ -299,6 +302,91 @@ class GridViews : public QObject {
     bench.matrix.SetText(100, 2, wide);
     ScreenDriver::ProcessEvents();
     QVERIFY(bench.grid->columnWidth(2) > bench.grid->fontMetrics().horizontalAdvance(wide));
+  }
+
+  void aLongTextGivesWaySoThatTheFiguresStayInSight() {
+    Bench bench;
+    const QString wide = u"a description that goes on and on "_s.repeated(20) + u"<b>&"_s;
+    bench.matrix.SetText(1, 1, wide);
+    bench.matrix.SetText(2, 2, u"$123,456,789,012.00"_s);
+    for (const int width : {1180, 640}) {
+      bench.screen.resize(width, 700);
+      ScreenDriver::ProcessEvents();
+      QCOMPARE(bench.grid->horizontalHeader()->length(), bench.grid->viewport()->width());
+      QVERIFY(bench.grid->columnWidth(2) > bench.grid->fontMetrics().horizontalAdvance(u"$123,456,789,012.00"_s));
+      QVERIFY(bench.grid->columnWidth(0) > bench.grid->fontMetrics().horizontalAdvance(u"Qty"_s));
+      QVERIFY(!bench.grid->horizontalScrollBar()->isVisible());
+    }
+    QCOMPARE(bench.grid->textElideMode(), Qt::ElideRight);
+    // The whole text is a tool tip, told as it is.
+    const auto help = [&](int row, int col) {
+      const QPoint place = bench.grid->visualRect(bench.grid->model()->index(row, col)).center();
+      QHelpEvent event(QEvent::ToolTip, place, bench.grid->viewport()->mapToGlobal(place));
+      QCoreApplication::sendEvent(bench.grid->viewport(), &event);
+      return QToolTip::text();
+    };
+    QCOMPARE(help(0, 1), u"<p>%1</p>"_s.arg(wide.toHtmlEscaped()));
+    QToolTip::hideText();
+    QVERIFY(help(1, 2) != u"<p>$123,456,789,012.00</p>"_s);
+  }
+
+  void theGridScrollsSidewaysOnlyWhereItsFiguresAloneAreTooWide() {
+    Bench bench;
+    bench.screen.resize(640, 700);
+    bench.matrix.SetText(1, 2, QString(200, u'8'));
+    ScreenDriver::ProcessEvents();
+    QVERIFY(bench.grid->horizontalScrollBar()->isVisible());
+    QVERIFY(bench.grid->columnWidth(2) > bench.grid->fontMetrics().horizontalAdvance(QString(200, u'8')));
+    // A word of the description is still there to be read.
+    QVERIFY(bench.grid->columnWidth(1) >= 12 * bench.grid->fontMetrics().averageCharWidth());
+  }
+
+  void aBlankRowShowsAsCurrentOnlyWhileTheUserStandsOnIt() {
+    Bench bench;
+    const auto shows = [&] { return bench.grid->selectionModel()->hasSelection(); };
+    bench.matrix.SetText(1, 1, u"Gravel"_s);
+    bench.matrix.SetRow(1);
+    QVERIFY(shows());
+    bench.matrix.SetRow(2);
+    QVERIFY(!shows());
+    QCOMPARE(bench.grid->currentIndex().row(), 1);
+    bench.driver->SelectRow(u"grid"_s, 5);
+    QVERIFY(bench.grid->selectionModel()->isRowSelected(4));
+    bench.driver->PressKey(Qt::Key_Down);
+    QVERIFY(bench.grid->selectionModel()->isRowSelected(5));
+    bench.driver->Click(u"box"_s);
+    QVERIFY(!shows());
+    QCOMPARE(bench.matrix.Row(), 6);
+    // What is written there shows it again, and what is cleared hides it.
+    bench.matrix.SetText(6, 1, u"Sand"_s);
+    ScreenDriver::ProcessEvents();
+    QVERIFY(bench.grid->selectionModel()->isRowSelected(5));
+    bench.matrix.Clear();
+    ScreenDriver::ProcessEvents();
+    QVERIFY(!shows());
+  }
+
+  void whereAChoiceIsAwaitedNoRowShowsAsCurrentBeforeIt() {
+    Bench bench(3);
+    const auto shows = [&](int row) { return bench.grid->selectionModel()->isRowSelected(row - 1); };
+    bench.matrix.SetText(1, 1, u"Gravel"_s);
+    bench.matrix.SetText(2, 1, u"Sand"_s);
+    bench.matrix.SetRow(1);
+    bench.grid->setFocus();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Up}) {
+      bench.grid->AwaitChoice();
+      QVERIFY(!shows(1));
+      bench.driver->PressKey(key);
+      QVERIFY2(shows(1), qPrintable(QString::number(key)));
+    }
+    bench.grid->AwaitChoice();
+    bench.driver->SelectRow(u"grid"_s, 2);
+    QVERIFY(shows(2));
+    bench.driver->Click(u"box"_s);
+    QVERIFY(shows(2));
+    bench.matrix.SetRow(1);
+    QVERIFY(!shows(1) && !shows(2));
+    QCOMPARE(bench.matrix.Row(), 1);
   }
 
   void headingsAndNumbersStandAsTheFormatSays() {

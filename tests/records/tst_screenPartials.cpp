@@ -64,13 +64,17 @@ void ScreenPartials::addAndPurgeWaitForAClickOnARow() {
   QCOMPARE(Enabled(), (QList<int>{0, 2}));
   const ScreenDriver partials(u"frmIncomplete"_s);
   QVERIFY(partials.IsEnabled(u"cmdReport"_s));
+  const auto shown = [&] { return partials.Control<QTableView>(u"fgIncomplete"_s)->selectionModel()->hasSelection(); };
+  QVERIFY2(!shown(), "no row looks chosen before one is");
   partials.PressKey(Qt::Key_Down);
   QCOMPARE(Enabled(), (QList<int>{0, 2}));
   partials.SelectRow(u"fgIncomplete"_s, 1);
   QCOMPARE(Enabled(), (QList<int>{0, 1, 2, 3}));
+  QVERIFY(shown());
   partials.Click(u"Command1_0"_s);
   OpenPartials();
   QCOMPARE(Enabled(), (QList<int>{0, 2}));
+  QVERIFY(!shown());
 }
 
 void ScreenPartials::aKeyClicksTheRowToo() {
