@@ -31,6 +31,8 @@ class FocusTracker : public QObject {
   };
   /// Gives the focus to the control, on an inactive window too, and settles what was left for it.
   Outcome MoveTo(QWidget* control, Qt::FocusReason reason);
+  /// How many message boxes and dialogs have stood over the window so far.
+  int BoxesShown() const { return m_boxes; }
   /// Runs what is due now. Does nothing while a handler runs: what that handler leaves is settled after it.
   void Settle();
 

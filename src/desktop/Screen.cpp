@@ -53,7 +53,18 @@ void Screen::OnClick(QAbstractButton* button, std::function<void()> handler, Whe
 }
 
 void Screen::PressButton(QAbstractButton* button) {
+  const QPointer<Screen> alive(this);
+  const QPointer<QAbstractButton> pressed(button);
+  const QPointer<QWidget> from(focusWidget());
+  const int boxes = m_state->focus.BoxesShown();
   m_state->press.Press(button);
+  if (alive == nullptr || from == nullptr || pressed == nullptr || !isVisible()) {
+    return;
+  }
+  if (m_state->focus.BoxesShown() != boxes && focusWidget() == pressed) {
+    SetFocusTo(from);
+    if (auto* line = qobject_cast<QLineEdit*>(from.data())) line->selectAll();
+  }
 }
 
 void Screen::SetEnterButton(QAbstractButton* button) {
@@ -73,7 +84,7 @@ void Screen::keyPressEvent(QKeyEvent* event) {
   }
   const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && !event->isAutoRepeat();
   if (button != nullptr && plain && button->isVisible()) {
-    m_state->press.Press(button);
+    PressButton(button);
     return;
   }
   QMainWindow::keyPressEvent(event);

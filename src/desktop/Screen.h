@@ -67,8 +67,9 @@ class Screen : public QMainWindow {
   void OnClick(QAbstractButton* button, std::function<void()> handler,
                WhenLeaveRefused rule = WhenLeaveRefused::Dropped);
 
-  /// Runs the button as its access key does: where the box that is left takes the focus back or fails, a click that
-  /// would use it is dropped.
+  /// Runs the button for a key pressed elsewhere, as its access key does: where the box that is left takes the focus
+  /// back or fails, a click that would use it is dropped. Where a message came up and the screen sent the focus
+  /// nowhere, it goes back to where the key was pressed, so that what was typed there can be corrected or typed over.
   void PressButton(QAbstractButton* button);
 
   /// The button that Enter runs where no control has a use for that key, and the one that Escape runs: the obvious

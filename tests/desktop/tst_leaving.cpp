@@ -124,6 +124,52 @@ class Leaving : public QObject {
     QCOMPARE(bench.log, (QStringList{u"leave first"_s, u"save"_s, u"save"_s}));
   }
 
+  void afterAMessageTheFocusIsBackWhereEnterWasPressed() {
+    Bench bench;
+    QueuedAnswers answers;
+    bench.screen.SetEnterButton(bench.save);
+    auto* refuse = bench.screen.Add<QPushButton>(u"refuse"_s);
+    bench.screen.OnClick(refuse, [&] { bench.dialogs.ShowMessage(u"No"_s); });
+    bench.driver->Fill(u"second"_s, u"abc"_s);
+    // Without a message the focus stays where the key led it.
+    bench.driver->PressKey(Qt::Key_Return);
+    QCOMPARE(bench.driver->FocusName(), u"save"_s);
+    bench.screen.SetEnterButton(refuse);
+    bench.driver->Click(u"second"_s);
+    answers.Ok(u"No"_s);
+    bench.driver->PressKey(Qt::Key_Return);
+    QCOMPARE(bench.driver->FocusName(), u"second"_s);
+    bench.driver->Type(u"5"_s);
+    QCOMPARE(bench.driver->Text(u"second"_s), u"5"_s);
+    // Pressed on the button itself it stays there.
+    answers.Ok(u"No"_s);
+    bench.driver->Click(u"refuse"_s);
+    answers.Ok(u"No"_s);
+    bench.driver->PressKey(Qt::Key_Return);
+    QCOMPARE(bench.driver->FocusName(), u"refuse"_s);
+  }
+
+  void afterAMessageTheFocusGoesWhereTheScreenSendsIt() {
+    Bench bench;
+    QueuedAnswers answers;
+    auto* refuse = bench.screen.Add<QPushButton>(u"refuse"_s);
+    bench.screen.SetEnterButton(refuse);
+    bench.screen.OnClick(refuse, [&] {
+      bench.dialogs.ShowMessage(u"No"_s);
+      bench.screen.SetFocusTo(bench.third);
+    });
+    bench.driver->Click(u"second"_s);
+    answers.Ok(u"No"_s);
+    bench.driver->PressKey(Qt::Key_Return);
+    QCOMPARE(bench.driver->FocusName(), u"third"_s);
+    // Nor to a box that can't have it any more.
+    bench.screen.OnClick(refuse, [&] { bench.second->setEnabled(false); });
+    bench.driver->Click(u"second"_s);
+    answers.Ok(u"No"_s);
+    bench.driver->PressKey(Qt::Key_Return);
+    QVERIFY(bench.driver->FocusName() != u"second"_s);
+  }
+
   void aCheckThatTakesTheFocusBackDropsTheClickThatWouldUseTheBox() {
     Bench bench;
     bench.leaving = [&] { bench.screen.SetFocusTo(bench.first); };

@@ -15,6 +15,7 @@ class ScreenBlanks : public QObject {
   void enterPrints();
   void thePaperOfSetupDecides();
   void aCountThatIsNoNumberIsAPrintError();
+  void afterAWrongCountTheBoxHasTheFocusAgain();
   void aCancelledDialogLeavesTheScreenAsItIs();
   void returnToMenuHidesItAndShowsTheMenu();
   void escapeReturnsToTheMenu();
@@ -101,6 +102,18 @@ void ScreenBlanks::aCountThatIsNoNumberIsAPrintError() {
   }
   QCOMPARE(program.Paper.DialogsShown, 0);
   QVERIFY(ScreenDriver::IsShown(u"frmBlanks"_s));
+}
+
+void ScreenBlanks::afterAWrongCountTheBoxHasTheFocusAgain() {
+  ProgramFixture program;
+  const ScreenDriver blanks = Open(program);
+  blanks.Type(u"abc"_s);
+  program.Answers.Ok(u"A Print Error has occurred"_s);
+  blanks.PressKey(Qt::Key_Return);
+  QCOMPARE(blanks.FocusName(), u"txtInvoices"_s);
+  blanks.Type(u"2"_s);
+  blanks.PressKey(Qt::Key_Return);
+  QCOMPARE(program.Paper.Jobs.size(), 2U);
 }
 
 void ScreenBlanks::aCancelledDialogLeavesTheScreenAsItIs() {
