@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QUrl>
@@ -90,14 +91,16 @@ quint32 QtDialogs::ChooseColor(quint32 current) {
 
 QString QtDialogs::ChooseFont(const QString& current) {
   const DialogOwner owner;
-  bool accepted = false;
+  // A name that isn't installed has a stand-in: the dialog opens on that, and where it is left there the name stays.
+  const QString shown = QFontInfo(QFont(current)).family();
+  QFontDialog dialog(QFont(shown), owner.Window());
   // Only scalable fonts come out on paper as they look on the screen.
-  const QFont chosen =
-      QFontDialog::getFont(&accepted, QFont(current), owner.Window(), QString(), QFontDialog::ScalableFonts);
-  if (!accepted) {
+  dialog.setOptions(QFontDialog::ScalableFonts);
+  if (dialog.exec() != QDialog::Accepted) {
     ThrowCancelled(u"Font"_s);
   }
-  return chosen.family();
+  const QString chosen = dialog.selectedFont().family();
+  return chosen == shown ? current : chosen;
 }
 
 void QtDialogs::OpenPage(const QString& address) {

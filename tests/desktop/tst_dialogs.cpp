@@ -190,6 +190,18 @@ class UserDialogs : public QObject {
     QCOMPARE(NumberThrownBy([&] { m_dialogs.ChooseFont(u"Arial"_s); }), 32755);
   }
 
+  void aFontThatIsNotInstalledStaysWhereTheUserLeavesItsStandIn() {
+    QueuedAnswers answers;
+    for (const QString& name : {u"Arial"_s, u"No Such Letters"_s}) {
+      answers.Dialog([&](QDialog& dialog) {
+        // The dialog opens on what the name prints as.
+        QCOMPARE(dynamic_cast<QFontDialog&>(dialog).currentFont().family(), QFontInfo(QFont(name)).family());
+        dialog.accept();
+      });
+      QCOMPARE(m_dialogs.ChooseFont(name), name);
+    }
+  }
+
   void aPageOnTheDiskOpensWhateverStandsInItsPath_data() {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("address");
