@@ -90,9 +90,16 @@ void frmSetup::ConnectTabs() {
   const auto step = [](QTabWidget* tabs) { tabs->setCurrentIndex((tabs->currentIndex() + 1) % tabs->count()); };
   OnClick(
       m_ui->Image1_0, [this, step] { step(m_ui->tabInfo); }, WhenLeaveRefused::Always);
-  // Steps also while another tab hides the sub-tabs, which is meant.
   OnClick(
       m_ui->Image1_1, [this, step] { step(m_ui->SSTab2); }, WhenLeaveRefused::Always);
+  // A step among sub-tabs that are out of sight would go unseen.
+  const auto showStep = [this] {
+    const bool hasSubTabs = m_ui->tabInfo->currentWidget()->isAncestorOf(m_ui->SSTab2);
+    m_ui->lblNextSubTab->setVisible(hasSubTabs);
+    m_ui->Image1_1->setVisible(hasSubTabs);
+  };
+  On(m_ui->tabInfo, &QTabWidget::currentChanged, showStep);
+  showStep();
   OnClick(
       m_ui->cmdQuit, [this] { SaveAndReturn(); }, WhenLeaveRefused::Always);
 

@@ -45,13 +45,13 @@ class ScreenTextsTest : public QObject {
     Row(Business, "Image4", AnyText, "Clear All business Data");
     Row(Business, "Image5", AnyText, "Reload Business Data");
     Row(Business, "Image1_0", AnyText, "Toggles the Tab Selection");
-    Row(Business, "Image1_1", AnyText, "Toggles the Sub-Tab Selection");
     Row(Business, "cmdQuit", "&Save Settings / Return to Menu", "Returns to Main Menu");
     Row(Help, "lblHelp_0",
         "Enter the Information needed at each Tab. Click Save Settings / Return to Menu when complete.");
   }
 
   static void PrintingRows() {
+    Row(Printing, "Image1_1", AnyText, "Toggles the Sub-Tab Selection");
     Row(Printing, "lblBorders", "Border / Frame Color");
     Row(Printing, "lblData", "Text Color");
     Row(Printing, "lblFontName", "Document Font");
