@@ -85,6 +85,8 @@ void frmSetup::GraduatedTaxClick(int index) {
     const int refused = CloseGraduatedTax(tax);
     ShowTaxes();
     if (refused < 0) {
+      // The frame that held the focus goes: without this it would go to the way out.
+      SetFocusTo(m_ui->cmdGraduatedTax_0);
       m_ui->fraGraduated->hide();
       return;
     }

@@ -125,6 +125,8 @@ class ScreenTaxesTest : public QObject {
     setup.Fill(u"txtGradulated_1"_s, u"5"_s);
     setup.Click(u"cmdGraduatedTax_1"_s);
     QVERIFY(!setup.IsVisible(u"fraGraduated"_s));
+    // One more Enter opens it again, and doesn't leave Setup.
+    QCOMPARE(setup.FocusName(), u"cmdGraduatedTax_0"_s);
     QCOMPARE(setup.Text(u"txtGradulated_0"_s), u"$1,000.00"_s);
     QCOMPARE(setup.Text(u"txtGradulated_1"_s), u"$5.00"_s);
     QVERIFY(Ticked(setup, u"ckApplyGraduated"_s));
