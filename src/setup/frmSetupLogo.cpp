@@ -42,6 +42,7 @@ void frmSetup::ShowLogo() {
   if (print.Logo.isEmpty() || !picture.loadFromData(print.Logo)) {
     m_ui->Image2->clear();
     m_ui->Image3->clear();
+    m_ui->lblLogoSize->clear();
     return;
   }
   const qreal ratio = devicePixelRatioF();
@@ -50,6 +51,9 @@ void frmSetup::ShowLogo() {
   const QSize onPaper(qRound(print.LogoWidth * static_cast<float>(logicalDpiX()) / TwipsPerInch),
                       qRound(print.LogoHeight * static_cast<float>(logicalDpiY()) / TwipsPerInch));
   m_ui->Image3->setPixmap(Scaled(picture, onPaper.boundedTo(Largest).expandedTo({1, 1}), ratio));
+  // The picture above stops growing at its frame.
+  m_ui->lblLogoSize->setText(u"On paper: %1 in wide, %2 in high"_s.arg(print.LogoWidth / TwipsPerInch, 0, 'f', 2)
+                                 .arg(print.LogoHeight / TwipsPerInch, 0, 'f', 2));
 }
 
 void frmSetup::LogoClick(int index) {

@@ -49,10 +49,12 @@ class ScreenLogoTest : public QObject {
     program.Tree.Write(u"/CompanyLogo.txt"_s, SetupScreen::LogoLine(path));
     program.Tree.Write(u"/LogoSettings.txt"_s, "1710,1800\r\n");
     ScreenDriver setup = program.OpenLogo();
+    QCOMPARE(setup.Text(u"lblLogoSize"_s), u"On paper: 1.19 in wide, 1.25 in high"_s);
     const int narrow = setup.Control<QLabel>(u"Image3"_s)->pixmap(Qt::ReturnByValue).width();
     setup.Click(u"cmdLogo_3"_s);
     QVERIFY(setup.Control<QLabel>(u"Image3"_s)->pixmap(Qt::ReturnByValue).width() > narrow);
     setup.Click(u"cmdLogo_4"_s);
+    QCOMPARE(setup.Text(u"lblLogoSize"_s), u"On paper: 1.25 in wide, 0.13 in high"_s);
     SetupScreen::SaveAndReturn(setup);
     QCOMPARE(program.Tree.Bytes(u"/LogoSettings.txt"_s), "1800,180\r\n");
     setup = SetupScreen::OpenAgain();
