@@ -50,6 +50,8 @@ void frmStartup::Activate() {
     m_options[i]->setVisible(visible);
     if (!visible && m_options[i]->isChecked()) ClearSelection(i);
   }
+  // The number beside the option says of what it is also where there is none to add to.
+  m_ui->lblNoPartials->setVisible(!state.Visible[1]);
   // A heading without a routine under it would only take room.
   m_ui->group_0->setVisible(state.Visible[0] || state.Visible[1] || state.Visible[2]);
   m_ui->group_3->setVisible(state.Visible[4] || state.Visible[5] || state.Visible[6]);

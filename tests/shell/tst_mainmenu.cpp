@@ -83,6 +83,9 @@ void MainMenu::aCatalogueWithOneServiceOffersInvoicesToo() {
   QVERIFY(IsSelected(menu, 0));
   QVERIFY(!menu.IsVisible(u"fraInstructions"_s));
   QCOMPARE(menu.Text(u"lblIncomplete"_s), u"0"_s);
+  // The option isn't there to say of what that is the number.
+  QVERIFY(menu.IsVisible(u"lblNoPartials"_s));
+  QCOMPARE(menu.Text(u"lblNoPartials"_s), u"Partial invoices"_s);
   program.Answers.Ok({}, u"Create Customers"_s);
   menu.PressKey(Qt::Key_Return);
   QVERIFY(ScreenDriver::IsShown(u"frmNewCustomer"_s));
@@ -206,6 +209,7 @@ void MainMenu::theNumberOfPartialInvoicesStandsBesideTheirOption() {
   ScreenDriver menu(u"frmStartup"_s);
   QCOMPARE(Offered(menu), (QList<int>{0, 1, 3}));
   QCOMPARE(menu.Text(u"lblIncomplete"_s), u"2"_s);
+  QVERIFY(!menu.IsVisible(u"lblNoPartials"_s));
 }
 
 void MainMenu::aDamagedPartialInvoiceIsNamedAndNothingIsOverwritten() {
