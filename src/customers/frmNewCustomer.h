@@ -78,6 +78,7 @@ class frmNewCustomer final : public Screen, private CustomerView, private Custom
   void ConnectSearch();
   void ConnectFoundGrid();
   void StartSearch();
+  void ShowList();
   QString SearchText() const override;
   int SearchCriterion() const override;
   void ClearSearchText() override;

@@ -25,11 +25,14 @@ void frmNewCustomer::ToggleAux() {
   ShowFrame(m_ui->fraAux, m_ui->fraAux->isHidden());
   if (!m_ui->fraAux->isHidden()) {
     m_ui->lblAccount->setText(m_editor.AccountText());
+    SetFocusTo(m_txtAux[0]);
   }
 }
 
 void frmNewCustomer::ShowBig(int box) {
   m_ui->txtBig->setPlainText(AuxText(box));
+  // What is typed goes on where the text ends.
+  m_ui->txtBig->moveCursor(QTextCursor::End);
   ShowFrame(m_ui->fraBig, true, m_ui->txtBig);
   m_ui->lblEditing->setText(u"Editing Data Box # "_s + QString::number(box + 1));
   m_auxBoxIndex = static_cast<qint16>(box);

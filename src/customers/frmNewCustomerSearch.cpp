@@ -15,12 +15,12 @@ void frmNewCustomer::ConnectSearch() {
     });
   }
   OnClick(m_command1[0], [this] { m_search.Open(); });
-  OnClick(m_command1[2], [this] { m_search.ShowList(); });
+  OnClick(m_command1[2], [this] { ShowList(); });
   OnClick(m_ui->cmdStartSearch, [this] { StartSearch(); });
   OnClick(m_ui->cmdClearSearch, [this] { m_search.Clear(); });
   OnClick(m_ui->cmdHideSearch, [this] { m_search.Hide(); });
   OnClick(m_ui->cmdRetry, [this] { m_search.HideFound(); });
-  On(m_ui->mnuPrint, &QAction::triggered, [this] { m_search.ShowList(); });
+  On(m_ui->mnuPrint, &QAction::triggered, [this] { ShowList(); });
   On(m_ui->mnuSelect, &QAction::triggered, [this] { m_search.LoadSelected(); });
 }
 
@@ -52,6 +52,14 @@ void frmNewCustomer::ConnectFoundGrid() {
 void frmNewCustomer::StartSearch() {
   const qint32 hits = m_search.Start();
   if (hits > 1) {
+    SetFocusTo(m_ui->fgCustomersFound);
+  }
+}
+
+/// The complete list, or away with it; while it shows, the keys are for it.
+void frmNewCustomer::ShowList() {
+  m_search.ShowList();
+  if (IsFoundFrameShown()) {
     SetFocusTo(m_ui->fgCustomersFound);
   }
 }

@@ -478,14 +478,23 @@ class AuxiliaryDataTest : public QObject {
     desk.Driver().PressKey(Qt::Key_F2);
     QVERIFY(desk.Sees(u"fraBig"_s));
     QVERIFY2(!desk.Driver().IsEnabled(u"txtAux_0"_s), "what is covered can't be reached");
-    desk.Driver().Type(u"two "_s);
+    desk.Driver().Type(u" two"_s);
     desk.Driver().PressKey(Qt::Key_Escape);
     QVERIFY(!desk.Sees(u"fraBig"_s));
     QVERIFY(desk.Driver().IsEnabled(u"txtAux_0"_s));
-    QCOMPARE(Aux(desk, 0), u"two one"_s);
+    QCOMPARE(Aux(desk, 0), u"one two"_s);
     desk.Driver().PressKey(Qt::Key_Escape);
     QVERIFY(!desk.Sees(u"fraAux"_s));
     QVERIFY(desk.Shown());
+  }
+
+  void theFirstBoxHasTheFocusAsTheNotesOpen() {
+    CustomerDesk desk(Many(1));
+    desk.Open();
+    desk.Driver().PressKey(Qt::Key_U, Qt::ControlModifier);
+    QCOMPARE(desk.Focus(), u"txtAux_0"_s);
+    desk.Driver().PressKey(Qt::Key_U, Qt::ControlModifier);
+    QVERIFY(!desk.Sees(u"fraAux"_s));
   }
 
   void nextAndPreviousDoNothing() {

@@ -156,6 +156,18 @@ class CustomerSearchTest : public QObject {
     QCOMPARE(Rows(desk), QStringList());
   }
 
+  void afterThatTheTextCanBeTypedAtOnce() {
+    CustomerDesk desk(Town());
+    desk.Open();
+    desk.Click(u"Command1_0"_s);
+    desk.Program.Answers.Ok(u"You must enter some criteria data for the Search"_s);
+    desk.Driver().PressKey(Qt::Key_Return);
+    QCOMPARE(desk.Focus(), u"txtSearchfor"_s);
+    desk.Driver().Type(u"acme"_s);
+    desk.Driver().PressKey(Qt::Key_Return);
+    QCOMPARE(desk.Box(0), u"2"_s);
+  }
+
   void aTextInsideAWordAndAcrossCaseIsFoundInFileOrder() {
     TownDesk desk;
     Search(desk, 1, u"ark"_s);
@@ -279,6 +291,23 @@ class CustomerSearchTest : public QObject {
     desk.Driver().Trigger(u"mnuPrint"_s);
     QVERIFY(!desk.Sees(u"fraCustomersFound"_s));
     QCOMPARE(ListEntry(desk), u"View Customer List"_s);
+  }
+
+  void theListHasTheFocusSoThatTheKeysChooseFromIt() {
+    CustomerDesk desk(Town());
+    desk.Open();
+    const auto choose = [&] {
+      QCOMPARE(desk.Focus(), u"fgCustomersFound"_s);
+      desk.Driver().PressKey(Qt::Key_Home, Qt::ControlModifier);
+      desk.Driver().PressKey(Qt::Key_Down);
+      desk.Driver().PressKey(Qt::Key_Return);
+      QCOMPARE(desk.Box(0), u"2"_s);
+    };
+    desk.Driver().PressKey(Qt::Key_L, Qt::ControlModifier);
+    choose();
+    desk.Click(u"cmdNav_0"_s);
+    desk.Click(u"Command1_2"_s);
+    choose();
   }
 
   void aListOfOneIsNotLoaded() {
