@@ -83,7 +83,9 @@ void frmServices::FocusOnTab(int tab) {
     case 1:
       return FocusOnCommand(CatalogueCommand::AddItem);
     case 2:
-      return FocusOn(CatalogueBox::txtLabor0);
+      // Selected, as where the Tab key comes to a box: what is typed takes its place.
+      FocusOn(CatalogueBox::txtLabor0);
+      return Line(CatalogueBox::txtLabor0)->selectAll();
     case 3:
       return FocusOnCommand(CatalogueCommand::AddCustom);
     default:

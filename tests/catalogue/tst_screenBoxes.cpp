@@ -29,6 +29,7 @@ class ScreenBoxes : public QObject {
   void aLaborRateOfAPointAloneIsNoAmount();
   void aLaborRateIsReformattedOnLeaving();
   void laborNamesRefuseTheDoubleQuote();
+  void theFirstLaborNameIsSelectedAsItsTabOpens();
   void createGeneralLaborEmptiesTheNamesAndTheFirstRate();
   void clearAllEmptiesNamesAndRates();
   void reloadBringsTheFileBack();
@@ -289,6 +290,15 @@ void ScreenBoxes::laborNamesRefuseTheDoubleQuote() {
   screen.Driver().Type(u"Fit"_s);
   screen.Driver().Paste(u" 6\" pipe"_s);
   QCOMPARE(screen.Text("txtLabor_1"), u"Fit 6 pipe"_s);
+}
+
+void ScreenBoxes::theFirstLaborNameIsSelectedAsItsTabOpens() {
+  CatalogueScreen screen;
+  screen.Open(2);
+  QCOMPARE(screen.Text("txtLabor_0"), u"General Labor"_s);
+  QCOMPARE(screen.Focus(), u"txtLabor_0"_s);
+  ScreenDriver(u"frmServices"_s).Type(u"Mason"_s);
+  QCOMPARE(screen.Text("txtLabor_0"), u"Mason"_s);
 }
 
 void ScreenBoxes::createGeneralLaborEmptiesTheNamesAndTheFirstRate() {
