@@ -121,6 +121,7 @@ QByteArray PdfOf(const PaperJob& job, bool portrait, PaperFonts& fonts, const Pr
   QPdfWriter writer(&content);
   PrepareSheet(writer, portrait);
   writer.setCreator(u"Karvex Invoicer"_s);
+  writer.setTitle(job.Title);
   DrawJob(job, writer, fonts, progress);
   return content.data();
 }

@@ -14,6 +14,22 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// A path of such a name, with a number behind it, is within what any disk takes.
+constexpr qsizetype LongestName = 80;
+
+/// The title with what no file name may hold, here or on another system, turned into hyphens.
+QString FileNameOf(const QString& title) {
+  QString name = title.left(LongestName).trimmed();
+  for (QChar& character : name) {
+    if (character < u' ' || u"/\\:*?\"<>|"_s.contains(character)) character = u'-';
+  }
+  return name.isEmpty() ? u"Karvex Invoicer"_s : name;
+}
+
+}  // namespace
+
 PaperPrinter::PaperPrinter(FileStore& store, Dialogs& dialogs, QString documentsFolder)
     : m_store(store), m_dialogs(dialogs), m_documentsFolder(std::move(documentsFolder)) {}
 
@@ -39,6 +55,7 @@ void PaperPrinter::ShowPrinter() {
   const QString fileBefore = device.outputFileName();
   const DialogOwner owner;
   QPrintDialog dialog(&device, owner.Window());
+  if (!Title.isEmpty()) dialog.setWindowTitle(u"Print "_s + Title);
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
   // Where a printer is chosen, the dialog would offer a file of its own making to those who then pick the PDF.
   if (auto* fileName = dialog.findChild<QLineEdit*>(u"filename"_s)) fileName->setText(newName);
@@ -83,7 +100,7 @@ void PaperPrinter::MakeDocumentsFolder() {
 }
 
 QString PaperPrinter::NewPdfName() const {
-  const QString base = m_documentsFolder + u"/Karvex Invoicer"_s;
+  const QString base = m_documentsFolder + u'/' + FileNameOf(Title);
   QString path = base + u".pdf"_s;
   for (int number = 2; m_store.IsFile(path) || m_store.IsFolder(path); ++number)
     path = base + u' ' + QString::number(number) + u".pdf"_s;
@@ -101,7 +118,7 @@ void PaperPrinter::SendToPdf(const PaperJob& job, const QString& path, const Pro
 
 void PaperPrinter::SendToPrinter(const PaperJob& job, const Progress& progress) {
   QPrinter& device = Device();
-  device.setDocName(u"Karvex Invoicer"_s);
+  device.setDocName(Title.isEmpty() ? u"Karvex Invoicer"_s : Title);
   PrintJob(job, device, Orientation == 1, Fonts(), progress);
   if (device.printerState() == QPrinter::Error || device.printerState() == QPrinter::Aborted)
     throw RuntimeError(ErrorNumber::PrinterError, device.printerName());

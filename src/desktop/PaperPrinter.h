@@ -30,7 +30,7 @@ class PaperPrinter final : public PaperSurface {
   QPrinter& Device();
   bool IsPdf();
   void MakeDocumentsFolder();
-  /// A file of the documents folder that isn't there yet.
+  /// A file of the documents folder that isn't there yet, named after what is printed.
   QString NewPdfName() const;
   void SendToPdf(const PaperJob& job, const QString& path, const Progress& progress);
   void SendToPrinter(const PaperJob& job, const Progress& progress);

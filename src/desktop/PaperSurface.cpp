@@ -39,7 +39,8 @@ void PaperSurface::NewPage() {
 }
 
 void PaperSurface::EndDoc(const Progress& progress) {
-  const PaperJob job = std::exchange(m_job, {});
+  PaperJob job = std::exchange(m_job, {});
+  job.Title = Title;
   StartAfresh();
   if (!job.Pages.empty()) SendJob(job, progress);
 }

@@ -104,7 +104,7 @@ void frmInvoice::PrintInvoice() {
 
 void frmInvoice::cmdInvoiceContinue() {
   CommitSteps steps;
-  steps.BeginPrintJob = [this] { m_desk.Printing.BeginPrintJob(); };
+  steps.BeginPrintJob = [this] { m_desk.Printing.BeginPrintJob(u"Invoice "_s + m_invoice.txtInvoiceNo); };
   steps.PrintInvoice = [this] { PrintInvoice(); };
   steps.ReloadItems = [this] { m_desk.Prices.LoadAdditionalItems(); };
   steps.SelectedPartial = m_desk.SelectedPartial;

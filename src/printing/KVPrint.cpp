@@ -19,7 +19,7 @@ KVPrint::KVPrint(PrinterRoutines& routines, CommonDiskRoutines& disk, Dialogs& d
 
 void KVPrint::PrintInvoice(const InvoicePage& page, bool& draft) {
   m_routines.DrawJob([&] {
-    m_routines.BeginPrintJobWithoutDialog();
+    m_routines.BeginPrintJobWithoutDialog((draft ? u"Draft Invoice "_s : u"Invoice "_s) + page.Heading.InvoiceNo);
     PrintPageFrame(draft ? u"DRAFT INVOICE"_s : u"INVOICE"_s, BlockTop, page.Heading.InvoiceNo);
     PrintInvoiceHeading(page.Heading);
     if (m_settings.Appearance.optReturn) PrintDetachLine();
@@ -34,7 +34,7 @@ void KVPrint::PrintInvoice(const InvoicePage& page, bool& draft) {
 
 void KVPrint::PrintReprint(const InvoicePage& page) {
   m_routines.DrawJob([&] {
-    m_routines.BeginPrintJobWithoutDialog();
+    m_routines.BeginPrintJobWithoutDialog(u"Invoice "_s + page.Heading.InvoiceNo);
     PrintPageFrame(u"INVOICE"_s, BlockTop, page.Heading.InvoiceNo);
     PrintInvoiceHeading(page.Heading);
     PrintSoldTo(page.SoldTo, page.UsaAddress);
@@ -48,7 +48,7 @@ void KVPrint::PrintReprint(const InvoicePage& page) {
 
 void KVPrint::PrintSample() {
   m_routines.DrawJob([&] {
-    m_routines.BeginPrintJobWithoutDialog();
+    m_routines.BeginPrintJobWithoutDialog(u"Sample Invoice"_s);
     PrintPageFrame(u"INVOICE"_s, BlockTop, u"12345"_s);
     m_printer.EndDoc();
   });

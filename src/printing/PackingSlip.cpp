@@ -59,7 +59,7 @@ bool IsSettled(Dialogs& boxes) {
 
 void PrintPackingSlip(const PackingDesk& desk, const TextMatrix& lines) {
   desk.Printing.RunPrintJob(desk.Boxes, [&] {
-    desk.Printing.BeginPrintJob();
+    desk.Printing.BeginPrintJob(u"Packing Slip"_s);
     do {
       PrintPackingFrame(desk);
       PrintPackingHeadings(desk.Printing);

@@ -28,12 +28,14 @@ void PrinterRoutines::SetupPrinter(const QString& orientation, bool colorValue) 
   m_setUp = true;
 }
 
-void PrinterRoutines::BeginPrintJob() {
+void PrinterRoutines::BeginPrintJob(const QString& title) {
+  m_printer.Title = title;
   ChoosePrinter();
   SetupPrinter(u"Portrait"_s, m_appearance.ckColor);
 }
 
-void PrinterRoutines::BeginPrintJobWithoutDialog() {
+void PrinterRoutines::BeginPrintJobWithoutDialog(const QString& title) {
+  m_printer.Title = title;
   if (!m_setUp) SetupPrinter(u"Portrait"_s, m_appearance.ckColor);
 }
 
@@ -123,9 +125,9 @@ bool PrinterRoutines::RunPrintJob(Dialogs& dialogs, const std::function<void()>&
   return false;
 }
 
-void PrinterRoutines::PrintRows(qint64 count, const Progress& progress,
+void PrinterRoutines::PrintRows(const QString& title, qint64 count, const Progress& progress,
                                 const std::function<void(const Progress& rows)>& putRows) {
-  BeginPrintJob();
+  BeginPrintJob(title);
   const Progress rows = PartOf(progress, 0, 2);
   // The first step stands behind the dialog.
   TellStep(rows, 0, count);

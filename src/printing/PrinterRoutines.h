@@ -35,11 +35,12 @@ class PrinterRoutines {
   /// Letter paper in twips, the document font, black and plain; the font size stays. Any other text than "Portrait" is
   /// landscape.
   void SetupPrinter(const QString& orientation, bool colorValue);
-  /// How every job with a dialog begins: `ChoosePrinter`, then `SetupPrinter` for portrait by `ckColor`.
-  void BeginPrintJob();
+  /// How every job with a dialog begins: `ChoosePrinter`, then `SetupPrinter` for portrait by `ckColor`. The dialog and
+  /// the file bear `title`, which says what is printed.
+  void BeginPrintJob(const QString& title);
   /// How a job without a dialog begins: the surface stays as it was last set up, and one that never was starts as
   /// after `SetupPrinter`.
-  void BeginPrintJobWithoutDialog();
+  void BeginPrintJobWithoutDialog(const QString& title);
 
   /// Moves to (x, y) inches; a coordinate of 0 or below leaves that coordinate as it stands.
   void PrintAt(float x, float y);
@@ -67,9 +68,10 @@ class PrinterRoutines {
   /// Runs one job under the trap of the print routines: a cancelled dialog ends it silently, any other error with the
   /// box "A Print Error has occurred"; nothing of it stays on the surface. Answers whether it ran to its end.
   bool RunPrintJob(Dialogs& dialogs, const std::function<void()>& job);
-  /// A job of `count` rows from the printer dialog on: `putRows` puts them on their pages and tells that, then the
-  /// pages are drawn.
-  void PrintRows(qint64 count, const Progress& progress, const std::function<void(const Progress& rows)>& putRows);
+  /// A job of `count` rows from the printer dialog on, called `title`: `putRows` puts them on their pages and tells
+  /// that, then the pages are drawn.
+  void PrintRows(const QString& title, qint64 count, const Progress& progress,
+                 const std::function<void(const Progress& rows)>& putRows);
   /// A step of a job of many rows. Where `progress` says to stop, RuntimeError 32755 ends the job silently.
   static void TellStep(const Progress& progress, qint64 done, qint64 total);
   /// Runs the drawing of a job; what an error leaves on the surface is dropped, and the error goes on to the caller.

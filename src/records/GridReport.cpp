@@ -24,7 +24,7 @@ GridReport::GridReport(PrinterRoutines& routines, KVPrint& pages, const Clock& c
 
 void GridReport::PrintGridReport(const ReportKind& kind, const TextMatrix& grid, const Progress& progress) {
   m_routines.DrawJob([&] {
-    m_routines.PrintRows(grid.Rows(), progress, [&](const Progress& rows) {
+    m_routines.PrintRows(kind.Title, grid.Rows(), progress, [&](const Progress& rows) {
       PrintReportHeading(kind);
       PrintReportRows(kind, grid, rows);
     });

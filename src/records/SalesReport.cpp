@@ -24,7 +24,7 @@ SalesReport::SalesReport(PrinterRoutines& routines, KVPrint& pages, const Clock&
     : m_routines(routines), m_pages(pages), m_clock(clock) {}
 
 void SalesReport::PrintItemSales(const ItemSales& sales, const SalesRange& range, const Progress& progress) {
-  m_routines.PrintRows(sales.fgSalesItems.Rows(), progress, [&](const Progress& rows) {
+  m_routines.PrintRows(u"Item Sales Report"_s, sales.fgSalesItems.Rows(), progress, [&](const Progress& rows) {
     PrintSalesHeading(range);
     PrintSalesBody(sales, rows);
   });

@@ -179,7 +179,7 @@ void frmReprint::cmdMemo() {
 
 void frmReprint::cmdPrint() {
   m_desk.Routines.RunPrintJob(m_desk.Boxes, [this] {
-    m_desk.Routines.BeginPrintJob();
+    m_desk.Routines.BeginPrintJob(u"Invoice "_s + m_desk.Shown.InvoiceNo);
     SaveMemo(m_ui->txtMemo->toPlainText(), m_desk.Disk);
     m_desk.Pages.PrintReprint(PageOf(m_desk.Shown, m_desk.Customer.UsaAddress));
   });

@@ -14,6 +14,8 @@ class Printer {
   /// The printer dialog. Throws RuntimeError 32755 when the user cancels, 482 when there is nothing to print on.
   virtual void ShowPrinter() = 0;
 
+  /// What is printed: the dialog, the queue and the file tell it. Empty, the program's own name stands there.
+  QString Title;
   int ColorMode = 2;    ///< 2 colour, 1 monochrome: a value that the device ignores.
   int PaperSize = 1;    ///< 1 is letter.
   int Orientation = 1;  ///< 1 portrait, 2 landscape.

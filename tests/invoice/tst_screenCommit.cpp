@@ -111,6 +111,7 @@ void ScreenCommit::aCommittedInvoiceStandsInEveryStore() {
 void ScreenCommit::thePageBearsTheInvoice() {
   InvoiceBench bench;
   OpenFinalized(bench);
+  bench.Paper.OnDialog = [&] { QCOMPARE(bench.Paper.Title, u"Invoice 20260001"_s); };
   Commit(bench);
   QCOMPARE(bench.Paper.DialogsShown, 1);
   QCOMPARE(bench.Paper.Jobs.size(), 1U);

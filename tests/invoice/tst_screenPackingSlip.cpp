@@ -77,6 +77,8 @@ void ScreenPackingSlip::afterAFullCommitTheSlipHasNoLines() {
   bench.Answers.Yes(Printed, PrintedTitle);
   Print(bench);
   QCOMPARE(bench.Paper.Jobs.size(), 2U);
+  QCOMPARE(bench.Paper.Jobs[0].Title, u"Invoice 20260001"_s);
+  QCOMPARE(bench.Paper.Jobs[1].Title, u"Packing Slip"_s);
   QCOMPARE(bench.Paper.DialogsShown, 2);
   QVERIFY(LastJobIsASlip(bench));
   QCOMPARE(SlipLines(bench), QStringList());

@@ -169,6 +169,7 @@ void ScreenPartialSave::aDraftIsPrintedWithoutADialogAndWithoutTotals() {
   bench.On().Click(u"cmdSave"_s);
   QCOMPARE(bench.Paper.DialogsShown, 0);
   QCOMPARE(bench.Paper.Jobs.size(), 1U);
+  QVERIFY(bench.Paper.Jobs[0].Title.startsWith(u"Draft Invoice 2026"_s));
   const QStringList words = bench.Paper.Words(1);
   QVERIFY(words.contains(u"DRAFT INVOICE"_s));
   QVERIFY(words.contains(u"Hammer"_s));

@@ -88,7 +88,10 @@ void TestBlankInvoices::eachSheetIsAJobWithItsOwnDialogAndPage1() {
   QCOMPARE(f.Paper.DialogsShown, 3);
   QCOMPARE(f.Paper.Jobs.size(), 3U);
   for (const PaperJob& job : f.Paper.Jobs) QCOMPARE(job.Pages.size(), 1U);
+  QCOMPARE(f.Paper.Jobs[1].Title, u"Blank Invoice 2 of 3"_s);
   QCOMPARE(f.Paper.Find(u"Page 1"_s).size(), 1U);
+  Print(f, u"1"_s);
+  QCOMPARE(f.Paper.Jobs.back().Title, u"Blank Invoice"_s);
 }
 
 void TestBlankInvoices::eachSheetTakesTheColorOfItsMoment() {

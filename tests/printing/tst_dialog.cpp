@@ -20,6 +20,8 @@ class TestDialog : public QObject {
   void aJobWithoutDialogGoesToANewFileAndTellsWhere();
   void aJobAfterTheChosenOneNeverOverwritesIt();
   void theDialogNeverOffersAFileThatIsThere();
+  void theDialogAndItsFileSayWhatIsPrinted();
+  void aTitleNamesNoPlaceElsewhere();
   void theDocumentsFolderIsMadeWhenNeeded();
   void aFullDiskIsAPrinterErrorAndLeavesNoFile();
   void aFullDiskLeavesAnEarlierFileWhole();
@@ -140,6 +142,35 @@ void TestDialog::theDialogNeverOffersAFileThatIsThere() {
     dialog.reject();
   });
   QCOMPARE(ErrorOf([&] { desk.Paper.ShowPrinter(); }), 32755);
+}
+
+void TestDialog::theDialogAndItsFileSayWhatIsPrinted() {
+  Desk desk;
+  desk.Paper.Title = u"Invoice 20260002"_s;
+  for (const QString& name : {u"/Documents/Invoice 20260002.pdf"_s, u"/Documents/Invoice 20260002 2.pdf"_s}) {
+    desk.Answers.Dialog([&](QDialog& dialog) {
+      QCOMPARE(dialog.windowTitle(), u"Print Invoice 20260002"_s);
+      QCOMPARE(dialog.findChild<QLineEdit*>(u"filename"_s)->text(), desk.Folder.Path(name));
+      Press(dialog);
+    });
+    desk.Paper.ShowPrinter();
+    desk.Print(u"a"_s);
+    // The document's title, in the two bytes a character that such a text has there.
+    QVERIFY(desk.Folder.Bytes(name).contains(QByteArray("/Title (\xfe\xff\0I\0n\0v\0o\0i\0c\0e", 24)));
+  }
+  desk.Paper.Title = u"Draft Invoice 20260002"_s;
+  desk.Print(u"draft"_s);
+  QVERIFY(desk.Folder.Exists(u"/Documents/Draft Invoice 20260002.pdf"_s));
+}
+
+void TestDialog::aTitleNamesNoPlaceElsewhere() {
+  Desk desk;
+  desk.Paper.Title = u"Invoice ../../A\\B:\"C\"*"_s;
+  desk.Print(u"a"_s);
+  QCOMPARE(desk.Folder.List(u"/Documents"_s), QStringList(u"Invoice ..-..-A-B--C--.pdf"_s));
+  desk.Paper.Title = u"Invoice "_s + QString(400, u'7');
+  desk.Print(u"b"_s);
+  QCOMPARE(desk.Folder.List(u"/Documents"_s).size(), 2);
 }
 
 void TestDialog::theDocumentsFolderIsMadeWhenNeeded() {

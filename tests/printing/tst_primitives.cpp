@@ -147,7 +147,7 @@ void TestPrimitives::anyOtherOrientationIsLandscape() {
 void TestPrimitives::aJobBeginsWithTheDialogThenTheSetup() {
   PageFixture f;
   f.Look.ckColor = false;
-  f.Routines.BeginPrintJob();
+  f.Routines.BeginPrintJob({});
   QCOMPARE(f.Paper.DialogsShown, 1);
   QCOMPARE(f.Paper.ColorMode, 1);
   QCOMPARE(f.Paper.Orientation, 1);
@@ -157,7 +157,7 @@ void TestPrimitives::aCancelledDialogSetsNothingUp() {
   PageFixture f;
   f.Look.ckColor = false;
   f.Paper.DialogError = 32755;
-  QVERIFY_THROWS_EXCEPTION(RuntimeError, f.Routines.BeginPrintJob());
+  QVERIFY_THROWS_EXCEPTION(RuntimeError, f.Routines.BeginPrintJob({}));
   QCOMPARE(f.Paper.ColorMode, 2);
 }
 
@@ -171,11 +171,11 @@ void TestPrimitives::thePrinterDialogForgetsTheFileFoundBefore() {
   QFETCH(int, dialogError);
   PageFixture f;
   f.Dialog.FileName = u"/pictures/logo.png"_s;
-  f.Routines.BeginPrintJobWithoutDialog();
+  f.Routines.BeginPrintJobWithoutDialog({});
   QCOMPARE(f.Dialog.FileName, u"/pictures/logo.png"_s);
   f.Paper.DialogError = dialogError;
   try {
-    f.Routines.BeginPrintJob();
+    f.Routines.BeginPrintJob({});
   } catch (const RuntimeError& error) {
     QCOMPARE(error.Number(), dialogError);
   }
@@ -187,12 +187,12 @@ void TestPrimitives::aJobWithoutDialogSetsUpOnlyAFreshSurface() {
   PageFixture f;
   f.Look.ckColor = false;
   f.Look.lblFont = u"Liberation Serif"_s;
-  f.Routines.BeginPrintJobWithoutDialog();
+  f.Routines.BeginPrintJobWithoutDialog({});
   QCOMPARE(f.Paper.DialogsShown, 0);
   QCOMPARE(f.Paper.ColorMode, 1);
   f.Look.lblFont = u"Liberation Mono"_s;
   f.Look.ckColor = true;
-  f.Routines.BeginPrintJobWithoutDialog();
+  f.Routines.BeginPrintJobWithoutDialog({});
   QCOMPARE(f.Paper.ColorMode, 1);
   f.Paper.PrintLine(u"a"_s);
   f.Paper.EndDoc();
@@ -285,7 +285,7 @@ void TestPrimitives::aTrappedCancelIsSilent() {
   f.Paper.DialogError = 32755;
   bool drawn = false;
   QVERIFY(!f.Routines.RunPrintJob(f.Messages, [&] {
-    f.Routines.BeginPrintJob();
+    f.Routines.BeginPrintJob({});
     drawn = true;
   }));
   QVERIFY(!drawn);

@@ -62,6 +62,7 @@ class GridReportTest : public QObject {
     desk.Print(Incomplete);
     QCOMPARE(desk.Page.Paper.DialogsShown, 1);
     QCOMPARE(desk.Page.Paper.Jobs.size(), std::size_t{1});
+    QCOMPARE(desk.Page.Paper.Jobs[0].Title, Incomplete.Title);
     QCOMPARE(desk.Pages(), std::size_t{1});
     const PaperText title = desk.Run(1, Incomplete.Title);
     QCOMPARE(title.Font.Size, 14);

@@ -212,6 +212,7 @@ void ReprintPage::itComesFromThePrinterDialogWithoutAQuestion() {
   const auto before = desk.Program.Tree.Everything();
   const auto boxes = desk.Program.Answers.Boxes().size();
   desk.Program.Paper.DialogsShown = 0;
+  desk.Program.Paper.OnDialog = [&] { QCOMPARE(desk.Program.Paper.Title, u"Invoice 20260017"_s); };
   desk.Reprint();
   QCOMPARE(desk.Program.Paper.DialogsShown, 1);
   QCOMPARE(desk.Program.Answers.Boxes().size(), boxes);

@@ -46,6 +46,16 @@ class ScreenSales : public QObject {
   void menuAndEscapeLeadBack();
 };
 
+namespace {
+/// A row of either grid stands out.
+bool LooksChosen() {
+  const auto stands = [](const QString& grid) {
+    return SalesScreen::Driver().Control<QTableView>(grid)->selectionModel()->hasSelection();
+  };
+  return stands(u"fgSalesItems"_s) || stands(u"fgTotals"_s);
+}
+}  // namespace
+
 void ScreenSales::itShowsTheLastThirtyDaysAndEveryProduct() {
   SalesScreen desk;
   QVERIFY(desk.Open());
@@ -59,6 +69,7 @@ void ScreenSales::itShowsTheLastThirtyDaysAndEveryProduct() {
   QCOMPARE(driver.FocusName(), u"lstSalesItems"_s);
   QCOMPARE(SalesScreen::Sales(), EmptySales);
   QCOMPARE(SalesScreen::Totals(), EmptyTotals);
+  QVERIFY2(!LooksChosen(), "a blank row is nothing to point at");
 }
 
 void ScreenSales::theCaptionsAndToolTips() {
@@ -116,6 +127,11 @@ void ScreenSales::loadingListsInvoicesAndTotals() {
   QCOMPARE(SalesScreen::Totals(), (QStringList{u"Hammer|2"_s, u"Saw|5"_s, u"Basket|1"_s}));
   QVERIFY(SalesScreen::CanPrint());
   QCOMPARE(SalesScreen::Driver().Control<QTableView>(u"fgSalesItems"_s)->rowAt(1), 0);
+  QVERIFY(!LooksChosen());
+  SalesScreen::Driver().SelectRow(u"fgSalesItems"_s, 2);
+  QVERIFY(LooksChosen());
+  SalesScreen::Click(u"cmdSales_3"_s);
+  QVERIFY(!LooksChosen());
 }
 
 void ScreenSales::bothEndsOfTheRangeCountAndATimeOfDayLiesBehind() {
@@ -432,6 +448,7 @@ void ScreenSales::theReportIsPrintedOnce() {
   const RecordingPrinter& paper = desk.Program.Paper;
   QCOMPARE(paper.DialogsShown, 1);
   QCOMPARE(paper.Jobs.size(), std::size_t{1});
+  QCOMPARE(paper.Jobs[0].Title, u"Item Sales Report"_s);
   QCOMPARE(paper.Words(1).mid(0, 2), (QStringList{u"Item Sales Report"_s, u"3/7/2026"_s}));
   QVERIFY(paper.Words(1).contains(u"Orange Grove Supply"_s));
   QCOMPARE(paper.Words(1).mid(paper.Words(1).indexOf(u"Item Sales by Invoice"_s)),

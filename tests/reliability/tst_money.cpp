@@ -247,7 +247,7 @@ void Money::CheckDiscounts() {
 void Money::CheckPage() {
   const InvoicePage page = PageOf(Invoice(), true, Today);
   bool draft = false;
-  m_paper->Routines.BeginPrintJob();
+  m_paper->Routines.BeginPrintJob({});
   m_paper->Pages.PrintInvoice(page, draft);
   QStringList words;
   for (size_t i = 1; i <= m_paper->Paper.Jobs.back().Pages.size(); ++i) words += m_paper->Paper.Words(i);
