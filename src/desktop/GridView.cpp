@@ -234,12 +234,12 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     m_pressedKey = event->key();
   }
   if (const std::optional<int> code = CharacterCode(*event)) {
-    if (m_awaitsChoice && (*code == 13 || *code == ' ')) {
-      m_byUser = true;
-      ShowRow();
-    }
     // Letters never search the lines: they are for the cell.
     if (KeyPress) {
+      if (*code == 13 || *code == ' ') {
+        m_byUser = true;
+        ShowRow();
+      }
       RunInScreen(this, [this, key = *code] { KeyPress(key); });
     } else {
       event->ignore();
