@@ -96,7 +96,7 @@ void MeasurePage() {
   page.Totals = {u"$625.00"_s, u"$37.50"_s, u"$0.00"_s, u"$0.00"_s, u"$0.00"_s, u"$662.50"_s};
   bool draft = false;
   const auto print = [&] {
-    routines.BeginPrintJobWithoutDialog();
+    routines.BeginPrintJobWithoutDialog({});
     pages.PrintInvoice(page, draft);
   };
   print();

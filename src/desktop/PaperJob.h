@@ -49,6 +49,6 @@ using PaperMark = std::variant<PaperText, PaperRule, PaperPicture>;
 using PaperPage = std::vector<PaperMark>;
 
 struct PaperJob {
-  QString Title;                 ///< What it is called in a queue and in its file.
   std::vector<PaperPage> Pages;  ///< None before the first mark or page end.
+  QString Title = {};            ///< What it is called in a queue and in its file.
 };

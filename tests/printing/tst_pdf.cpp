@@ -87,7 +87,8 @@ struct Printed {
         [](QDialog& dialog) { dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click(); });
   }
 
-  QString Pdf() const { return Folder.Path(u"/Documents/Karvex Invoicer.pdf"_s); }
+  /// The one file that was printed, whatever its name.
+  QString Pdf() const { return Folder.Path(u"/Documents/"_s + Folder.List(u"/Documents"_s).value(0)); }
 
   QImage Picture(int page = 1) const {
     const QString number = QString::number(page);
