@@ -112,7 +112,7 @@ void frmReprint::ClickRow() {
   const QString number = m_desk.Completed.InvoiceNoOf(grid.Row());
   if (OpenCompletedInvoice(m_desk.Shown, m_desk.Disk, number, grid.Text(grid.Row(), CompletedColumn::Date))) {
     ShowInvoice();
-    m_ui->fraInvoice->setTitle(u"Details for Invoice "_s + number);
+    m_ui->fraInvoice->setTitle(PlainCaption(u"Details for Invoice "_s + number));
     ShowList(false);
   } else {
     m_desk.Boxes.ShowMessage(

@@ -114,7 +114,7 @@ class SalesPrint : public QObject {
     QCOMPARE(At(range.Y), At(last.Y + 2 * desk.Line(10, false)));
   }
 
-  void theRangePrintedIsTheOneThatWasLoaded() {
+  void theRangePrintedIsTheOneTheGridsAreLoadedBy() {
     Desk desk;
     desk.Range.DTPicker1 = {QDate(2020, 1, 1), QDate(2020, 1, 2)};
     desk.Print();

@@ -20,6 +20,7 @@ class ScreenReprintInvoice : public QObject {
   void inUsaStyleTheStateIsNarrowAndThePostalCodeShows();
   void inInternationalStyleTheStateIsWideAndThePostalCodeIsHidden();
   void textsAreShownAsTheyStand();
+  void anAmpersandInANumberMarksNoAccessKeyInTheTitle();
   void aRowWithoutItsImageSaysSoAndKeepsTheList();
   void anImageThatOnlyTheBackupHoldsComesBack();
   void aNumberThatCouldLeaveTheFolderIsRefused();
@@ -125,6 +126,14 @@ void ScreenReprintInvoice::textsAreShownAsTheyStand() {
   QCOMPARE(desk.On().Control<QLabel>(u"lblBillTo_0"_s)->textFormat(), Qt::PlainText);
 }
 
+void ScreenReprintInvoice::anAmpersandInANumberMarksNoAccessKeyInTheTitle() {
+  ReprintScreen desk;
+  desk.Program.Tree.Write(Folder + u"R&D-1.txt"_s, Image("R&D-1", "Bay Farm", "3/6/2026", "$1.00"));
+  QVERIFY(desk.Open());
+  desk.Select(u"R&D-1"_s);
+  QCOMPARE(ReprintScreen::Title(), u"Details for Invoice R&&D-1"_s);
+}
+
 void ScreenReprintInvoice::aRowWithoutItsImageSaysSoAndKeepsTheList() {
   ReprintScreen desk;
   QVERIFY(desk.Open());
@@ -135,6 +144,7 @@ void ScreenReprintInvoice::aRowWithoutItsImageSaysSoAndKeepsTheList() {
       u"Invoice Image Not Found"_s);
   desk.Select(u"20260010"_s);
   QCOMPARE(desk.Program.Answers.Last().Buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
+  QCOMPARE(desk.Program.Answers.Last().Text.count(u"\r\n"_s), 4);
   QVERIFY(desk.ShowsList());
   QCOMPARE(desk.Column(0).size(), 4);
   desk.Select(u"20260011"_s);

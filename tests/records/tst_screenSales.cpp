@@ -3,6 +3,7 @@
 #include "catalogue/SalesItemsList.h"
 #include "desktop/GridView.h"
 #include "records/SalesScreen.h"
+#include "support/SetupScreen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +40,8 @@ class ScreenSales : public QObject {
   void withoutTheFileTheTotalsAreMadeAnewOfTheOldRows();
   void theFileComesBackFromItsCopy();
   void aFileOfMoreRecordsThanACountHoldsIsReported();
+  void theReportNamesTheDatesThatStandInThePickersByThen();
+  void theTitleTakesTheBusinessNameAtEachShowing();
   void theReportIsPrintedOnce();
   void cancelInThePrinterDialogKeepsTheButton();
   void aPrintErrorIsToldAndKeepsTheButton();
@@ -436,6 +439,31 @@ void ScreenSales::aFileOfMoreRecordsThanACountHoldsIsReported() {
   QCOMPARE(SalesScreen::Sales(), (QStringList{u"Saw|3/7/2026|20260003|3"_s, u"|||"_s}));
   QCOMPARE(SalesScreen::Totals(), QStringList{u"Saw|3"_s});
   QVERIFY(!desk.Program.Running().HasEnded());
+}
+
+void ScreenSales::theReportNamesTheDatesThatStandInThePickersByThen() {
+  SalesScreen desk;
+  QVERIFY(desk.Open());
+  SalesScreen::Tick(1);
+  SalesScreen::Click(u"cmdSales_3"_s);
+  // A date alone loads nothing: the rows of the whole range stay.
+  SalesScreen::TypeDate(0, u"3/2/2026"_s);
+  QCOMPARE(SalesScreen::Sales().first(), u"Saw|3/1/2026|20260002|5"_s);
+  SalesScreen::Click(u"cmdSales_4"_s);
+  const QStringList words = desk.Program.Paper.Words(1);
+  QVERIFY2(words.contains(u"Report Date Range: 3/2/2026 to 3/7/2026"_s), qPrintable(words.join(u'|')));
+  QVERIFY(words.contains(u"3/1/2026"_s));
+}
+
+void ScreenSales::theTitleTakesTheBusinessNameAtEachShowing() {
+  SalesScreen desk;
+  QVERIFY(desk.Open());
+  SalesScreen::Click(u"cmdSales_0"_s);
+  const ScreenDriver setup = SetupScreen::OpenAgain();
+  setup.Fill(u"txtBusiness_0"_s, u"Palm Supply"_s);
+  SetupScreen::SaveAndReturn(setup);
+  QVERIFY(SalesScreen::Reopen());
+  QCOMPARE(SalesScreen::Driver().Window()->windowTitle(), u"Item Sales Report for Palm Supply"_s);
 }
 
 void ScreenSales::theReportIsPrintedOnce() {

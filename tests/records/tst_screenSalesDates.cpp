@@ -45,6 +45,12 @@ void ScreenSalesDates::yearToDate() {
   QVERIFY(desk.Open());
   SalesScreen::Driver().PressAccessKey('Y');
   QCOMPARE(SalesScreen::Range(), (QList<QDate>{QDate(2026, 1, 1), QDate(2026, 3, 7)}));
+  // The end first: from a range of last year the start would lie behind it.
+  SalesScreen::TypeDate(0, u"11/30/2025"_s);
+  SalesScreen::TypeDate(1, u"12/31/2025"_s);
+  SalesScreen::Driver().PressAccessKey('Y');
+  QCOMPARE(SalesScreen::Range(), (QList<QDate>{QDate(2026, 1, 1), QDate(2026, 3, 7)}));
+  QVERIFY(desk.Program.Answers.Boxes().isEmpty());
 }
 
 void ScreenSalesDates::eternityBeginsInTheYear2000() {
