@@ -8,4 +8,4 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 "$root/scripts/build.sh" asan
 cd "$root"
 folders=$(IFS='|' && echo "$*")
-exec ctest --preset asan -j "$(nproc)" ${folders:+-R "^($folders)[.]"}
+exec ctest --preset asan --no-tests=error -j "$(nproc)" ${folders:+-R "^($folders)[.]"}

@@ -11,7 +11,6 @@ class FileDevice;
 class Printer;
 class SerialPort;
 
-/// What a program runs on.
 struct Platform {
   QString DataRoot;       ///< Absolute, without a trailing separator; exists.
   QString EXEName;        ///< The program file's name without extension.

@@ -1,5 +1,7 @@
 #include "ProgramScreens.h"
 
+#include <stdexcept>
+
 #include "catalogue/frmServices.h"
 #include "customers/frmCustomerSelection.h"
 #include "customers/frmNewCustomer.h"

@@ -2,7 +2,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include "desktop/Logo.h"
+#include "desktop/ProgramPicture.h"
 #include "desktop/PaperPrinter.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/SerialLine.h"
@@ -18,7 +18,7 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   ApplyStyle(application);
-  QApplication::setWindowIcon(LogoPicture());
+  QApplication::setWindowIcon(ProgramPicture());
 
   FileDevice files;
   FileStore store(files);

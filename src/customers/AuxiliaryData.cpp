@@ -124,9 +124,9 @@ void AuxiliaryData::LoadAuxData() {
 void AuxiliaryData::SaveAuxData() {
   const QString account = TrimBlanks(m_view.AuxAccount());
   if (!CanHaveFolders(account)) {
-    throw RuntimeError(ErrorNumber::BadFileName, account,
-                       u"The account number names the folder of these data, so it cannot be blank, . or .. and cannot "
-                       "hold / or \\ or characters outside the Western alphabets."_s)
+    throw RuntimeError(ErrorNumber::BadFileName, {},
+                       u"The account number \"%1\" names the folder of these data, so it cannot be blank, . or .. and "
+                       "cannot hold / or \\ or characters outside the Western alphabets."_s.arg(account))
         .WithAdvice(u"Enter another Account No and save again. Nothing was lost."_s);
   }
   m_disk.MakeDataFolder(AuxFolder());

@@ -29,9 +29,10 @@ bool IsSafeAccount(const QString& account) {
 
 QString LedgerName(const QString& account) {
   if (!IsSafeAccount(account)) {
-    throw RuntimeError(ErrorNumber::BadFileName, account,
-                       u"The account number names the account's files, so it cannot be . or .. and cannot hold / or \\ "
-                       u"or characters outside the Western alphabets."_s);
+    throw RuntimeError(
+        ErrorNumber::BadFileName, {},
+        u"The account number \"%1\" names the account's files, so it cannot be . or .. and cannot hold / or "
+        u"\\ or characters outside the Western alphabets."_s.arg(account));
   }
   return u"/KVActiveAccounts/"_s + TrimBlanks(account) + u".txt"_s;
 }

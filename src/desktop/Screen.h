@@ -101,7 +101,6 @@ class Screen : public QMainWindow {
   /// A key press: `filter` gets the character code (Backspace is 8, Enter 13) and answers the code to let through or
   /// 0. Chords and editing keys pass by themselves. Pasted text passes `pasteFilter` (by default the same filter)
   /// character by character; give one without messages where the key filter shows any.
-  using KeyFilter = std::function<int(int key)>;
   void FilterKeys(QWidget* box, KeyFilter filter, KeyFilter pasteFilter = {});
   void FilterKeys(QWidget* box, const KeyFilters& filters) { FilterKeys(box, filters.Typed, filters.Pasted); }
   /// Cuts what is typed or pasted at `characters`, never a text set from code.

@@ -17,6 +17,8 @@ namespace {
 
 /// The longest that a text may take to leave the machine: a few characters on a line that doesn't stand still.
 constexpr int DrainMilliseconds = 100;
+/// What is left of it gets as long again and more before a line is let go: the last text is what hangs up.
+constexpr int LastMilliseconds = 1000;
 /// Between two looks at what the driver still holds: half a character at the usual speed.
 constexpr unsigned long LookMicroseconds = 500;
 /// What is kept of a line that nobody reads: more than any reply, and no more of a device that talks all day.
@@ -67,7 +69,7 @@ bool SerialLine::PortOpen() const {
 void SerialLine::SetPortOpen(bool open) {
   if (open == PortOpen()) return;
   // The system would wait half a minute, as it closes, for the rest to go out on a line that stands still.
-  if (PortOpen() && m_standsStill) m_port->clear(QSerialPort::Output);
+  if (PortOpen() && m_standsStill && !IsSentWithin(LastMilliseconds)) m_port->clear(QSerialPort::Output);
   m_port.reset();
   if (open) Open();
 }
@@ -95,14 +97,17 @@ void SerialLine::Open() {
 
 void SerialLine::Output(const QString& text) {
   if (!PortOpen()) return;
-  const QDeadlineTimer limit(DrainMilliseconds, Qt::PreciseTimer);
-  m_standsStill = true;
   m_port->write(ToCodePage(text));
+  // Only then is it the other end's turn, and the time that it has to answer in begins.
+  m_standsStill = !IsSentWithin(DrainMilliseconds);
+}
+
+bool SerialLine::IsSentWithin(int milliseconds) {
+  const QDeadlineTimer limit(milliseconds, Qt::PreciseTimer);
   while (m_port->bytesToWrite() > 0) {
-    if (!m_port->waitForBytesWritten(static_cast<int>(limit.remainingTime()))) return;
+    if (!m_port->waitForBytesWritten(static_cast<int>(limit.remainingTime()))) return false;
   }
-  // Only now is it the other end's turn, and the time that it has to answer in begins.
-  m_standsStill = !Drain(m_port->handle(), limit);
+  return Drain(m_port->handle(), limit);
 }
 
 int SerialLine::InBufferCount() {

@@ -34,6 +34,8 @@ class SerialLine final : public SerialPort {
 
  private:
   void Open();
+  /// Waits until all that was written has left the machine, no longer than that.
+  bool IsSentWithin(int milliseconds);
 
   PortTable m_ports;
   int m_commPort = 1;

@@ -27,7 +27,7 @@ QString CompletedInvoicesFolder() {
 QString InvoiceImageName(const QString& invoiceNo, bool complete) {
   if (!CanNameAFile(invoiceNo)) {
     throw RuntimeError(
-        ErrorNumber::BadFileName, u"txtInvoiceNo"_s,
+        ErrorNumber::BadFileName, {},
         u"The invoice number \"%1\" can't name a file. Give the invoice another number."_s.arg(invoiceNo));
   }
   return (complete ? CompletedInvoicesFolder() : PartialInvoicesFolder()) + u'/' + invoiceNo + u".txt"_s;

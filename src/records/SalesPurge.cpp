@@ -38,7 +38,7 @@ int CountForPurge(const QString& name, CommonDiskRoutines& disk) {
     return disk.RecordCount(name, SoldItemRecord::Length);
   } catch (const RuntimeError& error) {
     if (error.From() != RuntimeError::Origin::FileContent) throw;
-    throw RuntimeError(error.Number(), error.Subject())
+    throw error.AsEvent(error.Subject())
         .WithAdvice(u"It holds more than 32,767 records, and from so many none can be deleted. Nothing was lost."_s);
   }
 }

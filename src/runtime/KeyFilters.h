@@ -4,7 +4,9 @@
 
 #include <functional>
 
+using KeyFilter = std::function<int(int key)>;
+
 struct KeyFilters {
-  std::function<int(int key)> Typed;
-  std::function<int(int key)> Pasted;  ///< Character by character; it shows no message.
+  KeyFilter Typed;
+  KeyFilter Pasted;  ///< Character by character; it shows no message.
 };

@@ -1,6 +1,6 @@
 #include "shell/frmSplash.h"
 
-#include "desktop/Logo.h"
+#include "desktop/ProgramPicture.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/DataTree.h"
 #include "shell/Screens.h"
@@ -15,7 +15,7 @@ frmSplash::frmSplash(ScreenHost& host, Screens& screens, CommonDiskRoutines& dis
       m_disk(disk),
       m_version(version) {
   BuildForm(*m_ui);
-  const QPixmap logo = LogoPicture();
+  const QPixmap logo = ProgramPicture();
   m_ui->Image1_0->SetPicture(logo);
   m_ui->Image1_1->SetPicture(logo);
   m_ui->fraWelcome->setTitle(u"Welcome to "_s + disk.EXEName());

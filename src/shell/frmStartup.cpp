@@ -3,7 +3,7 @@
 #include <QButtonGroup>
 #include <QMouseEvent>
 
-#include "desktop/Logo.h"
+#include "desktop/ProgramPicture.h"
 #include "runtime/Dialogs.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/frmOrderMenu.h"
@@ -19,7 +19,7 @@ frmStartup::frmStartup(ScreenHost& host, Screens& screens, MainMenuContext conte
       m_options(BuildForm(*m_ui), u"optMainMenuSub"_s),
       m_screens(screens),
       m_context(std::move(context)) {
-  m_ui->picture->setPixmap(LogoPicture());
+  m_ui->picture->setPixmap(ProgramPicture());
   // The options lie in several frames and are one choice all the same.
   auto* group = new QButtonGroup(this);
   for (int i = 0; i < 7; ++i) {

@@ -136,6 +136,18 @@ class SerialLineTest : public QObject {
     QVERIFY(!m_line->PortOpen());
   }
 
+  void whatGoesOutLateIsNotThrownAway() {
+    Driver driver;
+    driver.Queued = -3;
+    played = &driver;
+    m_line->Output(u"ATH\r"_s);
+    // It moves again.
+    driver.Queued = 3;
+    m_line->SetPortOpen(false);
+    QCOMPARE(driver.Done.last(), u"drained"_s);
+    QVERIFY(!m_line->PortOpen());
+  }
+
   void aLineThatTookAllIsClosedAsItIs() {
     Driver driver;
     driver.Queued = -3;

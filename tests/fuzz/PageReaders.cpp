@@ -1,6 +1,6 @@
 // The readers of the texts that only the printed page takes in.
 
-#include "fuzz/PlainPrinter.h"
+#include "support/PlainPrinter.h"
 #include "fuzz/ReaderDesk.h"
 #include "invoice/WorkingInvoice.h"
 #include "printing/KVPrint.h"

@@ -1,7 +1,7 @@
 // The readers of what was recorded: completed invoices and sold items.
 
 #include "catalogue/SalesItemsList.h"
-#include "fuzz/PlainPrinter.h"
+#include "support/PlainPrinter.h"
 #include "fuzz/ReaderDesk.h"
 #include "printing/KVPrint.h"
 #include "records/CompletedInvoice.h"

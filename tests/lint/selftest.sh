@@ -28,7 +28,7 @@ clean() {
     'void More() {' '  connect(a, &A::b, this, [this](int x, int y) { Do(f(x), "a)"); });' '  disconnect(a);' '}'
   put src/invoice/Lines.h '#pragma once' '#include "shell/Rule.h"'
   put src/shell/frmOnePictures.cpp 'void Pictures() {' '  QPixmap drawn(8, 8);' '  const QPixmap none;' \
-    '  Show(QPixmap(QStringLiteral(":/logo.png")), QImage::fromData(content));' '}'
+    '  Show(QImage::fromData(content));' '}'
   put benchmarks/Speed.cpp 'void Raw() {' '  QFile file(name);' '}'
   put src/Program.cpp '#include "invoice/Lines.h"' '#include "shell/frmOne.h"' '#include <QWidget>'
 }

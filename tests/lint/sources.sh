@@ -26,8 +26,8 @@ forbid() {
 sources | forbid '\<(SIGNAL|SLOT)[[:space:]]*\(' 'a connection by strings'
 
 # One reader and one writer: what opens a file elsewhere has no whole-or-nothing write, no error number for the user, and
-# no failing disk in its tests. A picture that is given a path opens that file too; one of the program's own resources,
-# or the bytes that the reader brought, is no file. Tests and measurements open what they like: they look from outside.
+# no failing disk in its tests. A picture that is given a path opens that file too; one made of the bytes
+# that the reader brought doesn't. Tests and measurements open what they like: they look from outside.
 reads_outside() { find src -name '*.h' -o -name '*.cpp' | grep -v '^src/runtime/' | sort; }
 reads_outside |
   forbid '\<(QFile|QSaveFile|QTemporaryFile|QSettings|QDataStream)\>|\<(i|o)?fstream\>|\<f(re)?open\>|[^A-Za-z0-9_]::(open|rename|unlink|mkdir)[[:space:]]*\(|std::rename|std::filesystem|QDir\(.*\)\.(mk|rm|remove|rename)' \
@@ -39,7 +39,7 @@ reads_outside | forbid '\<Q(ImageReader|ImageWriter|Movie|Picture)\>|(\.|->)load
 everything | forbid '\<Par[t] [1-8]\.[1-9]|\<[Ss]pecificatio[n]|\<[Tt]he spe[c]\>' 'a word that does not belong here'
 
 # A connection of three arguments, or a single shot of two, has no context: it outlives whom it works on. A picture made
-# of one argument is made of a path, unless that is a resource's (":/...").
+# of one argument is made of a path.
 sources | while read -r file; do
   awk -v file="$file" '
     { text = text $0 "\n" }
@@ -71,7 +71,7 @@ sources | while read -r file; do
       from = 1
       while (match(substr(text, from), /[^A-Za-z0-9_]Q(Image|Pixmap)( +[a-z_][A-Za-z0-9_]*)?[({][^)}]/)) {
         at = from + RSTART + RLENGTH - 3
-        if (arguments(at) == 1 && substr(text, at + 1) !~ /^(QStringLiteral\()?u?":\//)
+        if (arguments(at) == 1)
           print file ":" lineOf(at) ": files are the business of runtime/: a picture is made of bytes"
         from = at
       }

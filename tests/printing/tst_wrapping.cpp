@@ -1,10 +1,10 @@
 // Wrapped text on the recording surface. At 10 points a digit is 111.21875 twips wide and a blank 55.5625, so that
 // "00 " is 278 twips exactly; a line is 223.453125 high.
-#include <QElapsedTimer>
+#include <ctime>
 
-#include "fuzz/PlainPrinter.h"
 #include "runtime/RuntimeError.h"
 #include "support/PageFixture.h"
+#include "support/PlainPrinter.h"
 
 using namespace Qt::StringLiterals;
 
@@ -98,10 +98,10 @@ void TestWrapping::aMillionLinesOfOneTextWrapAtOnce() {
   CommonDialog dialog;
   PrinterRoutines routines(paper, look, dialog);
   constexpr qsizetype lines = 1'000'000;
-  QElapsedTimer time;
-  time.start();
+  const std::clock_t before = std::clock();
   routines.PrintWrapped(500, 1000, 510, u"0 1 "_s.repeated(lines));
-  QVERIFY2(time.elapsed() < 10'000, qPrintable(QString::number(time.elapsed())));
+  const std::clock_t used = std::clock() - before;
+  QVERIFY2(used < 10 * CLOCKS_PER_SEC, qPrintable(QString::number(used)));
   QCOMPARE(paper.Lines(), lines);
 }
 

@@ -4,8 +4,8 @@
 #include <QPixmapCache>
 #include <QtTest>
 
-#include "desktop/Logo.h"
 #include "desktop/PictureButton.h"
+#include "desktop/ProgramPicture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +24,7 @@ bool IsNear(const QColor& shown, const QColor& wanted) {
 
 }  // namespace
 
-class LogoTest : public QObject {
+class ProgramPictureTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
@@ -33,7 +33,7 @@ class LogoTest : public QObject {
     QPixmapCache::clear();
     const auto threads = [] { return QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot); };
     const QStringList before = threads();
-    QVERIFY(!LogoPicture().isNull());
+    QVERIFY(!ProgramPicture().isNull());
     QCOMPARE(threads(), before);
     QFile maps(u"/proc/self/maps"_s);
     QVERIFY(maps.open(QIODevice::ReadOnly));
@@ -43,7 +43,7 @@ class LogoTest : public QObject {
   }
 
   void itShowsOrangesBeforeASheet() {
-    const QImage logo = LogoPicture().toImage();
+    const QImage logo = ProgramPicture().toImage();
     QCOMPARE(At(logo, 2, 2).alpha(), 0);
     QCOMPARE(At(logo, 20, 128), QColor(0xFD, 0xF6, 0xEC));
     QCOMPARE(At(logo, 136, 50), QColor(Qt::white));
@@ -60,20 +60,20 @@ class LogoTest : public QObject {
 
   void aButtonOfItsSizeShowsItPixelByPixel() {
     PictureButton button(nullptr);
-    button.SetPicture(LogoPicture());
+    button.SetPicture(ProgramPicture());
     // The room of the first screen.
     QCOMPARE(button.sizeHint(), QSize(220, 220));
     button.resize(button.sizeHint());
     const QImage shown = button.grab(QRect(2, 2, 216, 216)).toImage();
     QImage wanted(216, 216, shown.format());
     wanted.fill(button.palette().color(QPalette::Window));
-    QPainter(&wanted).drawPixmap(0, 0, LogoPicture());
+    QPainter(&wanted).drawPixmap(0, 0, ProgramPicture());
     QCOMPARE(shown, wanted);
   }
 
   void aSmallerButtonShowsItWhole() {
     PictureButton button(nullptr);
-    button.SetPicture(LogoPicture());
+    button.SetPicture(ProgramPicture());
     button.resize(64, 64);
     const QImage shown = button.grab(QRect(2, 2, 60, 60)).toImage();
     QVERIFY(IsNear(At(shown, 20, 128), QColor(0xFD, 0xF6, 0xEC)));
@@ -81,5 +81,5 @@ class LogoTest : public QObject {
   }
 };
 
-QTEST_MAIN(LogoTest)
-#include "tst_logo.moc"
+QTEST_MAIN(ProgramPictureTest)
+#include "tst_programPicture.moc"

@@ -6,4 +6,4 @@
 
 /// As large as the first screen shows it, so that it needn't be scaled there, and fine enough for the screen of the
 /// highest resolution.
-QPixmap LogoPicture();
+QPixmap ProgramPicture();

@@ -1,4 +1,4 @@
-#include "desktop/Logo.h"
+#include "desktop/ProgramPicture.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -97,7 +97,7 @@ QPixmap DrawnLogo(qreal ratio) {
 
 }  // namespace
 
-QPixmap LogoPicture() {
+QPixmap ProgramPicture() {
   const qreal ratio = qApp->devicePixelRatio();
   const QString name = QStringLiteral("karvex-logo-%1").arg(ratio);
   QPixmap logo;
