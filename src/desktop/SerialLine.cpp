@@ -56,7 +56,9 @@ PortTable PortsOfThisMachine() {
 
 SerialLine::SerialLine(PortTable ports) : m_ports(std::move(ports)) {}
 
-SerialLine::~SerialLine() = default;
+SerialLine::~SerialLine() {
+  SetPortOpen(false);
+}
 
 void SerialLine::SetCommPort(int port) {
   if (!PortOpen()) m_commPort = port;
@@ -80,7 +82,6 @@ void SerialLine::Open() {
   if (!CanBeOpened(device)) return;
   auto port = std::make_unique<QSerialPort>(device);
   if (!port->open(QIODevice::ReadWrite)) return;
-  port->setReadBufferSize(InputLimit);
   m_dropped = false;
   m_standsStill = false;
   m_port = std::move(port);
@@ -93,6 +94,11 @@ void SerialLine::Open() {
     QMetaObject::invokeMethod(line, &QSerialPort::close, Qt::QueuedConnection);
   };
   QObject::connect(m_port.get(), &QSerialPort::errorOccurred, m_port.get(), watch);
+  // Taken and dropped, not left to wait: with the toolkit's own limit a full buffer would keep a text from being sent,
+  // and a dropped line from being seen.
+  QObject::connect(m_port.get(), &QSerialPort::readyRead, m_port.get(), [line = m_port.get()] {
+    if (const qint64 beyond = line->bytesAvailable() - InputLimit; beyond > 0) line->skip(beyond);
+  });
 }
 
 void SerialLine::Output(const QString& text) {
@@ -115,10 +121,7 @@ int SerialLine::InBufferCount() {
 }
 
 void SerialLine::ClearInBuffer() {
-  if (!PortOpen()) return;
-  m_port->clear(QSerialPort::Input);
-  // A buffer that was full is filled again only once it has been read.
-  m_port->readAll();
+  if (PortOpen()) m_port->clear(QSerialPort::Input);
 }
 
 QString SerialLine::Input() {

@@ -65,9 +65,12 @@ void frmInvoice::OnStrip(QToolButton* button, QAction* entry, void (frmInvoice::
 /// The way out of the setup view is Continue, which takes the number over: passed by, the invoice would be recorded
 /// under another one. The entries of the menu do pass it by, which is meant.
 void frmInvoice::GoByStrip(void (frmInvoice::*view)()) {
+  // In the summary already: run anew, it would drop the discount that was just deducted.
+  if (view == &frmInvoice::cmdPrint && Shows(ui->fraPrintReady)) return;
   if (Shows(ui->fraSetup) && view != &frmInvoice::mnuSetup) {
     if (!Continue({}) || view == &frmInvoice::mnuCreate) return;
-    m_invoice.Controls.Focus.clear();
+    // The summary asks for no focus itself, and the number's box, which it would stay in, is still in sight.
+    if (view != &frmInvoice::cmdPrint) m_invoice.Controls.Focus.clear();
   }
   (this->*view)();
 }

@@ -33,6 +33,8 @@ class ScreenStrip : public QObject {
  private Q_SLOTS:
   void printReadyDeductsNoDiscountOfTheInvoiceBefore_data();
   void printReadyDeductsNoDiscountOfTheInvoiceBefore();
+  void printReadyWithinTheSummaryKeepsTheDiscountJustDeducted();
+  void printReadyOutOfSetupLeavesTheNumberAlone();
   void theEntryOfTheMenuKeepsADeductedDiscount();
   void eachButtonAndItsKeyShowTheView_data();
   void eachButtonAndItsKeyShowTheView();
@@ -63,6 +65,34 @@ void ScreenStrip::printReadyDeductsNoDiscountOfTheInvoiceBefore() {
   QVERIFY(bench.Invoice.Controls.Enabled.cmdAddDiscount);
   bench.On().Click(u"cmdInvoice_9"_s);
   QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$30.00"_s);
+}
+
+void ScreenStrip::printReadyWithinTheSummaryKeepsTheDiscountJustDeducted() {
+  InvoiceBench bench;
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Click(u"cmdPrint"_s);
+  bench.Answers.Ok();
+  bench.On().Click(u"optDiscount_1"_s);
+  bench.On().Type(u"5"_s);
+  bench.On().Click(u"cmdAddDiscount"_s);
+  bench.On().PressKey(Qt::Key_F12);
+  bench.On().Click(u"btnPrint"_s);
+  QVERIFY(bench.Ticked(u"btnPrint"_s));
+  bench.On().Click(u"cmdInvoice_9"_s);
+  QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$15.00"_s);
+}
+
+void ScreenStrip::printReadyOutOfSetupLeavesTheNumberAlone() {
+  InvoiceBench bench;
+  bench.Open();
+  bench.On().Fill(u"txtInvoiceNo"_s, u"500"_s);
+  bench.On().PressKey(Qt::Key_F12);
+  QVERIFY(bench.On().IsVisible(u"fraPrintReady"_s));
+  // Where the next key would go.
+  QCOMPARE(bench.On().FocusName(), u"fgInvoice"_s);
+  bench.On().Type(u"5"_s);
+  QCOMPARE(bench.Text(u"txtInvoiceNo"_s), u"500"_s);
 }
 
 void ScreenStrip::theEntryOfTheMenuKeepsADeductedDiscount() {
