@@ -1,8 +1,6 @@
 /// A started program on a tree.
 #pragma once
 
-#include <QTemporaryDir>
-
 #include "benchmarks/Measure.h"
 #include "desktop/PaperPrinter.h"
 #include "desktop/QtDialogs.h"
@@ -10,7 +8,6 @@
 #include "Program.h"
 #include "runtime/Clock.h"
 #include "runtime/FileStore.h"
-
 
 class Running {
  public:
@@ -20,11 +17,8 @@ class Running {
   Program& operator*() { return m_program; }
 
  private:
-  Platform OnTree(const QString& tree) {
-    return PlatformOn(tree, m_lock.path(), m_files, m_clock, m_dialogs, m_paper, m_noPorts);
-  }
+  Platform OnTree(const QString& tree) { return PlatformOn(tree, m_files, m_clock, m_dialogs, m_paper, m_noPorts); }
 
-  QTemporaryDir m_lock;
   FileDevice m_files;
   FileStore m_store;
   SystemClock m_clock;

@@ -57,7 +57,7 @@ int ShowFirstScreen(QApplication& application, const QString& root) {
   QtDialogs dialogs;
   PaperPrinter paper(store, dialogs, root);
   SerialLine modem(AbsentPorts());
-  Program program(PlatformOn(root, root + u"-lock"_s, files, clock, dialogs, paper, modem));
+  Program program(PlatformOn(root, files, clock, dialogs, paper, modem));
   if (!program.Start()) return 1;
   LeaveAfterFirstPaint();
   return application.exec();

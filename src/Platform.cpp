@@ -1,12 +1,11 @@
 #include "Platform.h"
 
-Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper, SerialPort& modem) {
+Platform PlatformOn(const QString& root, FileDevice& files, const Clock& calendar, Dialogs& boxes, Printer& paper,
+                    SerialPort& modem) {
   Platform platform;
   platform.DataRoot = root;
   platform.EXEName = QStringLiteral("KarvexInvoicer");
   platform.ProgramFolder = root;
-  platform.LockFolder = lockFolder;
   platform.Version = QStringLiteral(KARVEX_VERSION);
   platform.Files = &files;
   platform.Calendar = &calendar;

@@ -15,7 +15,6 @@ struct Platform {
   QString DataRoot;       ///< Absolute, without a trailing separator; exists.
   QString EXEName;        ///< The program file's name without extension.
   QString ProgramFolder;  ///< Where the supplied files and the manual stand.
-  QString LockFolder;     ///< Outside the data root: where the mark of a running instance stands.
   QString Version;        ///< "major.minor.revision".
   FileDevice* Files = nullptr;
   const Clock* Calendar = nullptr;
@@ -27,5 +26,5 @@ struct Platform {
 
 /// A platform on one folder, under the program's own name and version: what tests, benchmarks and the demonstration run
 /// on, and what `main` starts from.
-Platform PlatformOn(const QString& root, const QString& lockFolder, FileDevice& files, const Clock& calendar,
-                    Dialogs& boxes, Printer& paper, SerialPort& modem);
+Platform PlatformOn(const QString& root, FileDevice& files, const Clock& calendar, Dialogs& boxes, Printer& paper,
+                    SerialPort& modem);

@@ -36,7 +36,7 @@ CommonDiskRoutines& Program::Disk() {
 bool Program::Start() {
   m_starting = true;
   try {
-    if (!CheckPreviousInstance(m_objects->Instance, *m_platform.Boxes)) {
+    if (!CheckPreviousInstance(m_objects->RootLock, *m_platform.Boxes)) {
       EndProcess();
       return false;
     }
@@ -171,6 +171,6 @@ void Program::EndProcess() {
   // The box that tells of an end runs events of its own, and one of them may be an end as well.
   if (std::exchange(m_ended, true)) return;
   HideAll();
-  m_objects->Instance.Release();
+  m_objects->RootLock.Drop();
   if (Ended) Ended();
 }

@@ -7,7 +7,7 @@ ProgramObjects::ProgramObjects(const Platform& platform)
     : On(platform),
       Store(*platform.Files, platform.DataRoot),
       Disk(Store, platform.DataRoot, platform.EXEName),
-      Instance(Store, platform.LockFolder, platform.DataRoot),
+      RootLock(platform.DataRoot),
       Prices(Disk, Lists, SalesItems),
       Routines(*platform.Paper, Live.Print, Dialog),
       Pages(Routines, Disk, *platform.Boxes, *platform.Calendar, {Live.Business, Live.Print, Live.Tax}),

@@ -19,11 +19,11 @@
 #include "records/SalesReport.h"
 #include "runtime/Clock.h"
 #include "runtime/Dialogs.h"
+#include "runtime/FolderLock.h"
 #include "setup/LiveSettings.h"
 #include "shell/CommonDialog.h"
 #include "shell/CommonDiskRoutines.h"
 #include "shell/MainMenu.h"
-#include "shell/PreviousInstance.h"
 
 struct ProgramObjects {
   explicit ProgramObjects(const Platform& platform);
@@ -36,7 +36,7 @@ struct ProgramObjects {
   const Platform& On;
   FileStore Store;
   CommonDiskRoutines Disk;
-  PreviousInstance Instance;
+  FolderLock RootLock;
   LiveSettings Live;
   CatalogueLists Lists;
   SalesItemsList SalesItems;

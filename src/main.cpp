@@ -2,8 +2,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include "desktop/ProgramPicture.h"
 #include "desktop/PaperPrinter.h"
+#include "desktop/ProgramPicture.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/SerialLine.h"
 #include "desktop/Style.h"
@@ -36,8 +36,7 @@ int main(int argc, char* argv[]) {
     return 1;
   }
 
-  Platform platform = PlatformOn(root, QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation), files,
-                                 clock, dialogs, paper, modem);
+  Platform platform = PlatformOn(root, files, clock, dialogs, paper, modem);
   platform.EXEName = programFile.completeBaseName();
   platform.ProgramFolder = programFile.absolutePath();
   Program program(platform);

@@ -3,7 +3,7 @@
 
 class Clock;
 class Dialogs;
-class PreviousInstance;
+class FolderLock;
 
 /// False, after a box, when another instance of the program runs on the same data root. No file is touched then.
-bool CheckPreviousInstance(PreviousInstance& instance, Dialogs& dialogs);
+bool CheckPreviousInstance(FolderLock& dataRoot, Dialogs& dialogs);

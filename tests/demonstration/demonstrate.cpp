@@ -66,8 +66,8 @@ void Demonstration::initTestCase() {
   m_store = std::make_unique<FileStore>(m_files);
   m_paper = std::make_unique<PaperPrinter>(*m_store, m_dialogs, m_folder + u"/pages"_s);
   m_answers = std::make_unique<QueuedAnswers>();
-  m_program = std::make_unique<Program>(
-      PlatformOn(m_folder + u"/business"_s, m_folder, m_files, m_clock, m_dialogs, *m_paper, m_line));
+  m_program =
+      std::make_unique<Program>(PlatformOn(m_folder + u"/business"_s, m_files, m_clock, m_dialogs, *m_paper, m_line));
   QVERIFY(m_program->Start());
 }
 

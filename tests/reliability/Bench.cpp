@@ -185,7 +185,7 @@ QString Bench::ChangedUnseen() const {
 }
 
 void Bench::Serve(int requests, int answers) {
-  Desk desk(Root(), m_folder + u"/lock"_s, m_save.OnPaper);
+  Desk desk(Root(), m_save.OnPaper);
   if (!m_save.AtStart() && desk.Start() && desk.GoToMenu()) m_save.Prepare(desk);
   const int ready = !IsAlone() || QTest::currentTestFailed() || (!m_save.AtStart() && desk.HasEnded()) ? 1 : 0;
   Send(answers, ready);
@@ -260,10 +260,8 @@ Outcome Bench::Restart(const DataTree& tree, bool saves) {
 
 Outcome Bench::InNewProgram(const std::function<void(Desk&)>& work) {
   QFile::remove(ReportFile());
-  static int starts = 0;
-  const QString lock = m_folder + u"/lock-%1"_s.arg(++starts);
   return Read(InChild([&] {
-    Desk desk(Root(), lock, m_save.OnPaper);
+    Desk desk(Root(), m_save.OnPaper);
     work(desk);
   }));
 }

@@ -16,7 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-Desk::Desk(const QString& root, const QString& lockFolder, bool onPaper) : m_root(root), m_lockFolder(lockFolder) {
+Desk::Desk(const QString& root, bool onPaper) : m_root(root) {
   if (onPaper) m_printer = std::make_unique<PaperPrinter>(m_store, m_dialogs, m_root + u"/Printed"_s);
   ApplyStyle(*qApp);
   qApp->installEventFilter(this);
@@ -25,10 +25,8 @@ Desk::Desk(const QString& root, const QString& lockFolder, bool onPaper) : m_roo
 Desk::~Desk() = default;
 
 bool Desk::Start() {
-  QDir().mkpath(m_lockFolder);
   Printer& paper = m_printer ? static_cast<Printer&>(*m_printer) : m_recorder;
-  m_program =
-      std::make_unique<Program>(PlatformOn(m_root, m_lockFolder, m_files, m_calendar, m_dialogs, paper, m_modem));
+  m_program = std::make_unique<Program>(PlatformOn(m_root, m_files, m_calendar, m_dialogs, paper, m_modem));
   const bool runs = m_program->Start();
   ScreenDriver::ProcessEvents();
   return runs;

@@ -32,7 +32,7 @@ class DeskDialogs final : public TestDialogs {
 class Desk : public QObject {
  public:
   /// `onPaper`: prints to PDF files in the root's folder /Printed.
-  Desk(const QString& root, const QString& lockFolder, bool onPaper);
+  Desk(const QString& root, bool onPaper);
   ~Desk() override;
 
   /// Starts the program; whether it runs.
@@ -56,7 +56,6 @@ class Desk : public QObject {
   void Print(QPrintDialog& dialog) const;
 
   QString m_root;
-  QString m_lockFolder;
   FileDevice m_files;
   FixedClock m_calendar;
   DeskDialogs m_dialogs{ChosenFile};

@@ -6,6 +6,7 @@
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <cstdarg>
@@ -122,6 +123,12 @@ int openat64(int folder, const char* path, int flags, ...) {
   const int mode = ModeOf(flags, arguments);
   va_end(arguments);
   return Opened(WatchedIn(folder, path), flags, [&] { return next(folder, path, flags, mode); });
+}
+
+/// Not taken: a fork has its parent's locks too, and the program that is started anew would wait for the one that
+/// waits.
+int flock(int, int) {
+  return 0;
 }
 
 int close(int descriptor) {

@@ -80,7 +80,7 @@ class Fenced {
  public:
   /// At the main menu.
   bool Start() {
-    m_around.Watch({Program.Tree.Root(), Program.LockFolder()});
+    m_around.Watch({Program.Tree.Root()});
     return Program.StartAtMenu();
   }
   /// What came, went or changed outside since the start began.

@@ -99,7 +99,7 @@ void HostilePlaces::aDayOnFilesThatAreLinksWritesNothingThroughThem() {
     if (!dangling) outside.Write(it.key(), it.value());
     Link(outside.Path(it.key()), program.Tree.Path(prefix + it.key() + ending));
   }
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  around.Watch({program.Tree.Root()});
   // Not by the fixture's own way to the menu: it would write the settings through the links.
   QVERIFY(program.Start());
   ScreenDriver(u"frmSplash"_s).Click(u"cmdContinue"_s);
@@ -156,7 +156,7 @@ void HostilePlaces::aFolderThatIsALinkKeepsTheProgramFromStarting() {
     if (!dangling) outside.MakeFolder(u"/its place"_s);
     Link(outside.Path(u"/its place"_s), program.Tree.Path(folder));
     const auto before = program.Tree.Everything();
-    around.Watch({program.Tree.Root(), program.LockFolder()});
+    around.Watch({program.Tree.Root()});
     program.Answers.Ok(program.Tree.Path(folder) +
                        u": It is a link to another place, and the program changes nothing outside its own folder. "
                        "(error 75)\n\nThe program can't start. Mend this and start it again; no file was changed by "
@@ -216,7 +216,7 @@ void HostilePlaces::aFolderThatBecomesALinkIsToldAtTheSave() {
   for (auto it = files.cbegin(); it != files.cend(); ++it) program.Tree.Write(u"/Backup"_s + it.key(), it.value());
   QVERIFY(program.StartAtMenu());
   MoveAwayAndLink(program, outside, folder);
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  around.Watch({program.Tree.Root()});
   act(program);
   QCOMPARE(program.Answers.Last().Text,
            program.Tree.Path(folder) +
@@ -249,7 +249,7 @@ void HostilePlaces::aCommitIntoALinkedFolderWritesNothingThere() {
   }
   QVERIFY(program.StartAtMenu());
   MoveAwayAndLink(program, outside, folder);
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  around.Watch({program.Tree.Root()});
   OneDay::CommitInvoice(program);
   // The rest is skipped without a word, and the number isn't used up.
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
@@ -267,7 +267,7 @@ void HostilePlaces::aBackupThatBecomesALinkIsPassedOverAtTheEnd() {
   program.Tree.Write(u"/Backup/CustomerData.txt"_s, "the older copy");
   QVERIFY(program.StartAtMenu());
   MoveAwayAndLink(program, outside, u"/Backup"_s);
-  around.Watch({program.Tree.Root(), program.LockFolder()});
+  around.Watch({program.Tree.Root()});
   program.End();
   QCOMPARE(around.Changes().join(u'\n'), QString());
   QCOMPARE(outside.Bytes(u"/moved/CustomerData.txt"_s), "the older copy");
@@ -355,7 +355,7 @@ void HostilePlaces::aRootThatVanishesIsToldAtEachSave() {
   go(program);
   const QString moved = elsewhere.Path(u"/moved"_s);
   QVERIFY(QDir().rename(program.Tree.Root(), moved));
-  around.Watch({program.LockFolder()});
+  around.Watch({});
   program.Answers.Ok();
   ScreenDriver(screen).Click(save);
   const QString text = program.Answers.Last().Text;
@@ -382,7 +382,7 @@ void HostilePlaces::aCommitWithoutARootWritesNothingAnywhere() {
   OneDay::ComposeInvoice();
   OneDay::Finalize();
   QVERIFY(QDir().rename(program.Tree.Root(), elsewhere.Path(u"/moved"_s)));
-  around.Watch({program.LockFolder()});
+  around.Watch({});
   OneDay::Commit(program);
   QCOMPARE(around.Changes().join(u'\n'), QString());
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
@@ -397,7 +397,7 @@ void HostilePlaces::aRootThatIsGoneAtTheEndEndsTheProgramAllTheSame() {
   OneDay::Stock(program.Tree);
   QVERIFY(program.StartAtMenu());
   QVERIFY(QDir().rename(program.Tree.Root(), elsewhere.Path(u"/moved"_s)));
-  around.Watch({program.LockFolder()});
+  around.Watch({});
   program.End();
   QCOMPARE(around.Changes().join(u'\n'), QString());
 }

@@ -19,7 +19,7 @@ const QString Told = u"Karvex Invoicer is already Running!\nLook for it on the T
 class Other {
  public:
   explicit Other(const ProgramFixture& program) {
-    m_process.start(QCoreApplication::applicationFilePath(), {u"run"_s, program.Tree.Root(), program.LockFolder()});
+    m_process.start(QCoreApplication::applicationFilePath(), {u"run"_s, program.Tree.Root()});
   }
   ~Other() { Kill(); }
   Q_DISABLE_COPY_MOVE(Other)
@@ -69,7 +69,7 @@ void TwoPrograms::theFirstWorksOnBesideTheSecond() {
   OneDay::Finalize();
   OneDay::Commit(program);
   QCOMPARE(program.Tree.Bytes(u"/KVInvoiceNo.txt"_s), "20260002\r\n");
-  // The second one's end left the first one's mark alone.
+  // The second one's end left the first one's lock alone.
   Other third(program);
   QCOMPARE(third.Answer(), "told\n");
   program.End();
@@ -82,18 +82,16 @@ void TwoPrograms::afterAKillTheNextStartFindsTheRootFree() {
   Other other(program);
   QCOMPARE(other.Answer(), "runs\n");
   other.Kill();
-  QVERIFY(!QDir(program.LockFolder()).isEmpty());
   QVERIFY(program.StartAtMenu());
   OneDay::CommitInvoice(program);
   program.End();
-  QVERIFY(QDir(program.LockFolder()).isEmpty());
 }
 
-/// As "run ROOT LOCKS" it is the other program: starts, says how that went, and waits to be killed.
+/// As "run ROOT" it is the other program: starts, says how that went, and waits to be killed.
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   const QStringList arguments = QCoreApplication::arguments();
-  if (arguments.size() == 4 && arguments[1] == u"run") {
+  if (arguments.size() == 3 && arguments[1] == u"run") {
     FileDevice files;
     FixedClock clock;
     TestDialogs dialogs;
@@ -102,7 +100,7 @@ int main(int argc, char* argv[]) {
     SerialLine modem(ports);
     QueuedAnswers answers;
     answers.Ok(Told);
-    Program program(PlatformOn(arguments[2], arguments[3], files, clock, dialogs, paper, modem));
+    Program program(PlatformOn(arguments[2], files, clock, dialogs, paper, modem));
     const bool runs = program.Start();
     answers.Forget();
     ::puts(runs ? "runs" : (answers.Last().Text == Told ? "told" : "failed"));

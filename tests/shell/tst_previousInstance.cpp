@@ -1,12 +1,12 @@
-// The mark of a running program: one per data root, freed by its program's end, however it ended.
+// One program at a time on a data root: the second is told so, and the root is free after the first one's end, however
+// it ended.
 #include <signal.h>
 #include <stdio.h>
 #include <unistd.h>
 #include <QtTest>
 
-#include "runtime/FileStore.h"
+#include "runtime/FolderLock.h"
 #include "shell/KarvexMasterModule.h"
-#include "shell/PreviousInstance.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TemporaryTree.h"
 
@@ -15,20 +15,14 @@ using namespace Qt::StringLiterals;
 class PreviousInstanceTest : public QObject {
   Q_OBJECT
 
-  FileDevice m_device;
-  FileStore m_store{m_device};
-  std::unique_ptr<TemporaryTree> m_locks, m_root;
+  std::unique_ptr<TemporaryTree> m_root;
 
  private Q_SLOTS:
-  void init() {
-    m_locks = std::make_unique<TemporaryTree>();
-    m_root = std::make_unique<TemporaryTree>();
-  }
+  void init() { m_root = std::make_unique<TemporaryTree>(); }
 
   void aSecondProgramOnTheSameRootIsToldSoAndTouchesNoFile() {
     m_root->Write(u"/Phone.txt"_s, "x");
-    PreviousInstance first(m_store, m_locks->Root(), m_root->Root());
-    PreviousInstance second(m_store, m_locks->Root(), m_root->Root());
+    FolderLock first(m_root->Root()), second(m_root->Root());
     ScriptedDialogs dialogs;
     QVERIFY(CheckPreviousInstance(first, dialogs));
     QCOMPARE(dialogs.Said, QStringList{});
@@ -37,100 +31,116 @@ class PreviousInstanceTest : public QObject {
     QCOMPARE(m_root->Everything(), (QMap<QString, QByteArray>{{u"/Phone.txt"_s, "x"}}));
   }
 
-  void theMarkLiesOutsideTheDataRoot() {
-    PreviousInstance instance(m_store, m_locks->Root(), m_root->Root());
-    QVERIFY(instance.Claim());
-    QCOMPARE(m_root->List(), QStringList{});
-    QCOMPARE(m_locks->List().size(), 1);
-    instance.Release();
-    QCOMPARE(m_locks->List(), QStringList{});
+  void whoHoldsTheRootHoldsItWhenAskedAgain() {
+    FolderLock first(m_root->Root()), second(m_root->Root());
+    QVERIFY(first.Take());
+    QVERIFY(first.Take());
+    first.Drop();
+    QVERIFY(second.Take());
   }
 
   void anotherRootIsAnotherBusiness() {
     const TemporaryTree other;
-    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), other.Root());
-    QVERIFY(first.Claim());
-    QVERIFY(second.Claim());
+    FolderLock first(m_root->Root()), second(other.Root());
+    QVERIFY(first.Take());
+    QVERIFY(second.Take());
+  }
+
+  void aFolderInTheRootIsAnotherRoot() {
+    m_root->MakeFolder(u"/shop"_s);
+    FolderLock first(m_root->Root()), second(m_root->Path(u"/shop"_s));
+    QVERIFY(first.Take());
+    QVERIFY(second.Take());
   }
 
   void twoWaysToOneRootAreOne() {
-    const QString link = m_locks->Path(u"/link"_s);
+    const TemporaryTree elsewhere;
+    const QString link = elsewhere.Path(u"/link"_s);
     QVERIFY(QFile::link(m_root->Root(), link));
-    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), link);
-    QVERIFY(first.Claim());
-    QVERIFY(!second.Claim());
+    FolderLock first(m_root->Root()), second(link), third(m_root->Root() + u"/../"_s + QDir(m_root->Root()).dirName());
+    QVERIFY(first.Take());
+    QVERIFY(!second.Take());
+    QVERIFY(!third.Take());
   }
 
-  void theMarkIsFreeAgainAfterTheEnd() {
-    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), m_root->Root());
-    QVERIFY(first.Claim());
-    first.Release();
-    QVERIFY(second.Claim());
+  void aRootThatIsMovedWhileTheProgramRunsStaysHeld() {
+    const TemporaryTree elsewhere;
+    m_root->MakeFolder(u"/business"_s);
+    FolderLock first(m_root->Path(u"/business"_s)), second(elsewhere.Path(u"/moved"_s));
+    QVERIFY(first.Take());
+    QVERIFY(QDir().rename(m_root->Path(u"/business"_s), elsewhere.Path(u"/moved"_s)));
+    QVERIFY(!second.Take());
   }
 
-  void anotherProcessHoldsTheMarkUntilItIsKilled() {
+  void theRootIsFreeAgainAfterTheEnd() {
+    FolderLock second(m_root->Root());
+    {
+      FolderLock first(m_root->Root());
+      QVERIFY(first.Take());
+      QVERIFY(!second.Take());
+    }
+    QVERIFY(second.Take());
+  }
+
+  void oneThatWasRefusedTakesNothingAlongAtItsEnd() {
+    FolderLock first(m_root->Root()), third(m_root->Root());
+    QVERIFY(first.Take());
+    {
+      FolderLock second(m_root->Root());
+      QVERIFY(!second.Take());
+      second.Drop();
+    }
+    QVERIFY(!third.Take());
+  }
+
+  void anotherProcessHoldsTheRootUntilItIsKilled() {
     QProcess other;
-    other.start(QCoreApplication::applicationFilePath(), {u"hold"_s, m_locks->Root(), m_root->Root()});
+    other.start(QCoreApplication::applicationFilePath(), {u"hold"_s, m_root->Root()});
     QVERIFY(other.waitForReadyRead(30000));
-    QCOMPARE(other.readAllStandardOutput(), "claimed\n");
-    PreviousInstance mine(m_store, m_locks->Root(), m_root->Root());
-    QVERIFY(!mine.Claim());
+    QCOMPARE(other.readAllStandardOutput(), "taken\n");
+    FolderLock mine(m_root->Root());
+    QVERIFY(!mine.Take());
     other.kill();
     QVERIFY(other.waitForFinished(30000));
-    QCOMPARE(m_locks->List().size(), 1);  // it left its mark behind
-    QVERIFY(mine.Claim());
+    QVERIFY(mine.Take());
   }
 
-  void aMarkThatWasCutOffWhileItWasSetKeepsNobodyOut_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("cut short") << QByteArray("41");
-    QTest::newRow("garbled") << QByteArray("\x01\xff\n");
-  }
-  void aMarkThatWasCutOffWhileItWasSetKeepsNobodyOut() {
-    QFETCH(QByteArray, content);
-    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), m_root->Root());
-    QVERIFY(first.Claim());
-    const QString mark = u'/' + m_locks->List().constFirst();
-    first.Release();
-    m_locks->Write(mark, content);
-    QVERIFY(first.Claim());
-    QVERIFY(!second.Claim());
-    first.Release();
-    QCOMPARE(m_locks->List(), QStringList{});
+  void aProgramThatThisOneStartedDoesNotKeepTheRoot() {
+    FolderLock first(m_root->Root()), second(m_root->Root());
+    QVERIFY(first.Take());
+    QProcess started;
+    started.start(u"sleep"_s, {u"60"_s});
+    QVERIFY(started.waitForStarted(30000));
+    first.Drop();
+    QVERIFY(second.Take());
+    started.kill();
+    started.waitForFinished(30000);
   }
 
-  void aMarkThatIsJustBeingSetIsLeftToItsProgram() {
-    PreviousInstance first(m_store, m_locks->Root(), m_root->Root()), second(m_store, m_locks->Root(), m_root->Root());
-    QVERIFY(first.Claim());
-    // The program holds the system's lock on its mark before it has written anything into it.
-    QVERIFY(QFile::resize(m_locks->Path(u'/' + m_locks->List().constFirst()), 0));
-    QVERIFY(!second.Claim());
-    QCOMPARE(m_locks->List().size(), 1);
+  void nothingIsWrittenForIt() {
+    FolderLock lock(m_root->Root());
+    QVERIFY(lock.Take());
+    QCOMPARE(m_root->List(), QStringList{});
+    lock.Drop();
+    QCOMPARE(m_root->List(), QStringList{});
   }
 
-  void theLockFolderIsMadeWhereItIsMissing() {
-    PreviousInstance instance(m_store, m_locks->Path(u"/a/b"_s), m_root->Root());
-    QVERIFY(instance.Claim());
-    QCOMPARE(m_locks->List(u"/a/b"_s).size(), 1);
-  }
-
-  void aMarkThatCannotBeSetKeepsNobodyFromWorking() {
-    m_locks->Write(u"/file"_s, "");
-    PreviousInstance instance(m_store, m_locks->Path(u"/file/locks"_s), m_root->Root());
-    QVERIFY(instance.Claim());
+  void aRootThatCannotBeLockedKeepsNobodyFromWorking() {
+    FolderLock missing(m_root->Path(u"/nowhere"_s));
+    QVERIFY(missing.Take());
+    m_root->Write(u"/file"_s, "");
+    FolderLock noFolder(m_root->Path(u"/file"_s));
+    QVERIFY(noFolder.Take());
   }
 };
 
-/// As "hold LOCKS ROOT" it is the other process: takes the mark, says so and waits to be killed.
+/// As "hold ROOT" it is the other process: takes the lock, says so and waits to be killed.
 int main(int argc, char* argv[]) {
   QCoreApplication application(argc, argv);
   const QStringList arguments = QCoreApplication::arguments();
-  if (arguments.size() == 4 && arguments[1] == u"hold") {
-    FileDevice device;
-    FileStore store(device);
-    PreviousInstance instance(store, arguments[2], arguments[3]);
-    ::puts(instance.Claim() ? "claimed" : "refused");
+  if (arguments.size() == 3 && arguments[1] == u"hold") {
+    FolderLock lock(arguments[2]);
+    ::puts(lock.Take() ? "taken" : "refused");
     ::fflush(stdout);
     ::alarm(60);
     ::pause();

@@ -45,13 +45,12 @@ struct Bench {
   }
 
   TemporaryTree Tree;
-  TemporaryTree Locks;
   ListeningDevice Files;
   FixedClock Calendar;
   ScriptedDialogs Boxes;
   RecordingPrinter Paper;
   SerialLine NoPorts{PortTable{}};
-  Program Running{PlatformOn(Tree.Root(), Locks.Root(), Files, Calendar, Boxes, Paper, NoPorts)};
+  Program Running{PlatformOn(Tree.Root(), Files, Calendar, Boxes, Paper, NoPorts)};
   int Ends = 0;
 };
 

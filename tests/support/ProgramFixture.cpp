@@ -15,7 +15,7 @@ ProgramFixture::~ProgramFixture() {
 }
 
 Platform ProgramFixture::OnThisTree(SerialPort& modem) {
-  Platform platform = PlatformOn(Tree.Root(), m_lockFolder.Root(), Files, Calendar, Dialogs, Paper, modem);
+  Platform platform = PlatformOn(Tree.Root(), Files, Calendar, Dialogs, Paper, modem);
   platform.EXEName = EXEName;
   platform.Version = u"1.0.0"_s;
   platform.Patience = {Patience, [this] { return WorkTime; }};

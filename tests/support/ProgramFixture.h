@@ -37,8 +37,6 @@ class ProgramFixture {
   /// tree.
   void End();
 
-  /// Where the marks of running programs stand.
-  QString LockFolder() const { return m_lockFolder.Root(); }
   Program& Running() { return *m_program; }
   Screen* Built(ScreenName screen) { return m_program->Built(screen); }
 
@@ -59,7 +57,6 @@ class ProgramFixture {
  private:
   Platform OnThisTree(SerialPort& modem);
 
-  TemporaryTree m_lockFolder;
   std::unique_ptr<SerialLine> m_modem;
   std::unique_ptr<Program> m_program;
 };
