@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <QElapsedTimer>
-#include <vector>
 
 double TimeOf(const std::function<void()>& work) {
   QElapsedTimer timer;
@@ -12,7 +11,7 @@ double TimeOf(const std::function<void()>& work) {
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-static double MedianOf(std::vector<double> times) {
+double MedianOf(std::vector<double> times) {
   std::sort(times.begin(), times.end());
   return times[times.size() / 2];
 }

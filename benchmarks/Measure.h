@@ -4,9 +4,11 @@
 #include <functional>
 #include <QString>
 #include <stdexcept>
+#include <vector>
 
 /// Milliseconds of one run.
 double TimeOf(const std::function<void()>& work);
+double MedianOf(std::vector<double> times);
 /// The median of `runs` runs, in milliseconds; `prepare` runs before each and isn't timed.
 double MedianOf(int runs, const std::function<void()>& work, const std::function<void()>& prepare = {});
 /// Medians of two works whose runs alternate, so that a busy machine slows both alike.
