@@ -78,8 +78,9 @@ void PrintAndCommit(const CommitDesk& desk, const CommitSteps& steps) {
       WriteEveryStore(desk, steps);
       Finish(desk, steps);
     }
-  } catch (const RuntimeError&) {
+  } catch (const RuntimeError& error) {
     // Whatever failed, what remains is skipped without a message, and the screen is left as after a success.
+    if (error.From() == RuntimeError::Origin::FileContent) desk.Disk.KeepBackupOf(error.Subject());
   }
   if (invoice.ckPackingList) steps.PrintPackingSlip();
   ResetInvoiceOptions(invoice, desk.Tax);

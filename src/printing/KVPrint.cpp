@@ -1,6 +1,8 @@
 #include "printing/KVPrint.h"
 
+#include "runtime/RuntimeError.h"
 #include "setup/PrintAppearance.h"
+#include "shell/CommonDiskRoutines.h"
 
 using namespace Qt::StringLiterals;
 
@@ -52,6 +54,18 @@ void KVPrint::PrintSample() {
     PrintPageFrame(u"INVOICE"_s, BlockTop, u"12345"_s);
     m_printer.EndDoc();
   });
+}
+
+QString KVPrint::TextOfFile(const QString& name, QString (ListReader::*read)()) {
+  try {
+    ListReader file = m_disk.OpenInputFile(name);
+    const QString text = (file.*read)();
+    m_disk.CloseAllFiles();
+    return text;
+  } catch (const RuntimeError&) {
+    m_disk.KeepBackupOf(name);
+    throw;
+  }
 }
 
 void KVPrint::PrintContinuationPage(const InvoicePage& page) {

@@ -13,6 +13,7 @@
 class Clock;
 class CommonDiskRoutines;
 class Dialogs;
+class ListReader;
 class Printer;
 struct BusinessProfile;
 struct PrintAppearance;
@@ -81,6 +82,9 @@ class KVPrint {
   void PrintRow(const InvoicePage& page);
   void PrintContinuationPage(const InvoicePage& page);
   void PrintTerms();
+  /// The text of a file that is there. One that can't be read fails the job, and its copy outlasts the end of the
+  /// program.
+  QString TextOfFile(const QString& name, QString (ListReader::*read)());
   void PrintLineAt(float x, const QString& text);  ///< On the next line, `x` inches from the left.
   void PrintIfAny(float x, const QString& text);
   /// A height in inches above the first item, lowered by a narrative.

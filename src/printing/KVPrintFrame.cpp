@@ -120,10 +120,8 @@ void KVPrint::PrintBusinessBlock(float x, float y, qint16 size) {
   if (!business.BusinessTelephone.isEmpty()) PrintLineAt(x, u"Telephone: "_s + business.BusinessTelephone);
   PrintIfAny(x, business.BusinessContact);
   PrintIfAny(x, business.BusinessTaxID);
-  if (m_disk.FileExists(u"/MyWebSite.txt"_s)) {
-    PrintLineAt(x, m_disk.OpenInputFile(u"/MyWebSite.txt"_s).ReadString());
-    m_disk.CloseAllFiles();
-  }
+  const QString webSite = u"/MyWebSite.txt"_s;
+  if (m_disk.FileExists(webSite)) PrintLineAt(x, TextOfFile(webSite, &ListReader::ReadString));
 }
 
 void KVPrint::PrintBusinessCity(float x) {

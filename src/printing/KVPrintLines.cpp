@@ -116,9 +116,7 @@ void KVPrint::PrintTerms() {
   if (m_settings.Appearance.ckColor) m_printer.SetForeColor(FixedInk::Green);
   m_printer.CurrentY = 13824;
   QString terms;
-  if (m_disk.FileExists(u"/StatementTerms.txt"_s)) {
-    terms = m_disk.OpenInputFile(u"/StatementTerms.txt"_s).ReadLine();
-    m_disk.CloseAllFiles();
-  }
+  const QString file = u"/StatementTerms.txt"_s;
+  if (m_disk.FileExists(file)) terms = TextOfFile(file, &ListReader::ReadLine);
   PrintLineAt(1.3F, terms);
 }

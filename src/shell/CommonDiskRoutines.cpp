@@ -138,6 +138,7 @@ void CommonDiskRoutines::CloseAllFiles() {
 
 void CommonDiskRoutines::SaveFile(const QString& name, const QByteArray& content, BackupCopy backup) {
   m_store.ReplaceWhole(PathOf(name), content);
+  m_damaged.remove(PathOf(name));
   // Only now: until the new file stands, its backup copy is the one thing that a failed save could fall back on.
   if (backup == BackupCopy::Dropped) KillDataFile(BackupOf(Rooted(name)));
 }
@@ -206,11 +207,16 @@ void CommonDiskRoutines::BackupDataFiles() {
     CloseAllFiles();
     const QString file = u'/' + name + u".txt"_s;
     try {
-      if (m_store.IsFile(PathOf(file))) CopyDataFile(file, BackupOf(file));
+      const QString path = PathOf(file);
+      if (!m_damaged.contains(path) && m_store.IsFile(path)) CopyDataFile(file, BackupOf(file));
     } catch (const RuntimeError&) {
       // The program is ending: a file that can't be copied keeps its older copy, and the next one has its turn.
     }
   }
+}
+
+void CommonDiskRoutines::KeepBackupOf(const QString& name) {
+  m_damaged.insert(PathOf(name));
 }
 
 bool CanNameAFile(const QString& text) {

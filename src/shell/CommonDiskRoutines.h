@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -84,6 +85,9 @@ class CommonDiskRoutines {
 
   /// The exit backup: 18 files into /Backup, errors ignored file by file.
   void BackupDataFiles();
+  /// The exit backup passes the file over, until it is saved: it couldn't be read as what it must be, and the program
+  /// goes on, so that its end must not put the damaged file over the good copy.
+  void KeepBackupOf(const QString& name);
 
  private:
   std::shared_ptr<bool> NewOpenMark();
@@ -91,6 +95,7 @@ class CommonDiskRoutines {
   QString m_dataRoot;
   QString m_exeName;
   std::vector<std::weak_ptr<bool>> m_open;
+  QSet<QString> m_damaged;  ///< Paths.
 };
 
 /// Whether `text` can stand as a file or folder name inside its folder: not blank, no separator, not `.` or `..`,

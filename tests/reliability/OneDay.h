@@ -110,6 +110,16 @@ inline void CommitInvoice(ProgramFixture& program) {
   Commit(program);
 }
 
+/// The same, paid when it is issued.
+inline void CommitPrepaid(ProgramFixture& program) {
+  ComposeInvoice();
+  Finalize();
+  const ScreenDriver invoice(u"frmInvoice"_s);
+  invoice.Click(u"ckPrepaid"_s);
+  invoice.Click(u"cmdInvoice_9"_s);
+  Commit(program);
+}
+
 /// Yes to the save, no to the draft.
 inline void AnswerPartialSave(ProgramFixture& program) {
   program.Answers.Yes();

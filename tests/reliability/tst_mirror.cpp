@@ -7,6 +7,7 @@
 
 #include "customers/CustomerRecords.h"
 #include "reliability/MemoryDisk.h"
+#include "reliability/TwoCopies.h"
 #include "support/InvoiceBench.h"
 #include "support/ProgramFixture.h"
 #include "support/SetupScreen.h"
@@ -17,28 +18,11 @@ namespace {
 
 [[maybe_unused]] const MemoryDisk Quick;
 
-/// What a place may hold, and what the program makes of it where it reads it.
-struct State {
-  const char* Name;
-  std::optional<QByteArray> Bytes;  ///< Nothing: no file.
-  bool Loads;
-  QString Seen;  ///< On the screen that shows it.
-};
-
 struct Subject {
   QString File;
-  bool AtExit;  ///< One of the 18 that the exit backup copies.
   std::function<QString(ProgramFixture&)> See;
-  QList<State> States;
+  QList<CopyState> States;
 };
-
-/// One bit of one byte changed.
-QByteArray Flipped(QByteArray bytes, const char* before, char mask) {
-  const qsizetype at = bytes.indexOf(before);
-  if (at < 0) qFatal("the byte to be changed isn't there");
-  bytes[at] = static_cast<char>(bytes[at] ^ mask);
-  return bytes;
-}
 
 template <typename Kind>
 Kind* On(ProgramFixture& program, ScreenName screen, const char* name) {
@@ -91,7 +75,6 @@ Subject Profile() {
   const QByteArray rest = ",\"12 Grove Road\",\"\",\"Ocala\",\"FL\",\"34470\",\"555\",\"\",\"7\"\r\n";
   const QByteArray good = "\"Grove\"" + rest;
   return {u"/MyBusinessData.txt"_s,
-          true,
           SetupText("txtBusiness_0"),
           {{"good", good, true, u"Grove"_s},
            {"older", "\"Orchard\"" + rest, true, u"Orchard"_s},
@@ -105,7 +88,6 @@ Subject Profile() {
 Subject Settings() {
   const QByteArray good = "1,0,0,0,0,\"0.0\",\"0\",#TRUE#,#FALSE#,\"$5.00\",\"$0.00\"\r\n";
   return {u"/KarvexInvoicerSettings.txt"_s,
-          true,
           SetupText("txtGradulated_0"),
           {{"good", good, true, u"$5.00"_s},
            {"older", "1,0,0,0,0,\"0.0\",\"0\",#TRUE#,#FALSE#,\"$4.00\",\"$0.00\"\r\n", true, u"$4.00"_s},
@@ -119,7 +101,6 @@ Subject Settings() {
 Subject Colours() {
   const QByteArray good = "0\r\n0\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n";
   return {u"/PrintColors.txt"_s,
-          true,
           SetupLabel("lblFont"),
           {{"good", good, true, u"Arial"_s},
            {"older", "0\r\n0\r\n\"Courier\"\r\n#TRUE#\r\n3\r\n", true, u"Courier"_s},
@@ -133,7 +114,6 @@ Subject Colours() {
 Subject Taxes() {
   const QByteArray good = "\"GST\",\"Tax\",\"6.0\",\"1.0\",1,0\r\n";
   return {u"/TaxSettings.txt"_s,
-          false,
           SetupCombo("cboTaxHeading1"),
           {{"good", good, true, u"GST"_s},
            {"older", "\"VAT Tax\",\"Tax\",\"6.0\",\"1.0\",1,0\r\n", true, u"VAT Tax"_s},
@@ -147,7 +127,6 @@ Subject Taxes() {
 Subject Phone() {
   const QByteArray good = "#TRUE#\r\n1\r\n";
   return {u"/Phone.txt"_s,
-          false,
           SetupTick("ckPhone"),
           {{"good", good, true, u"ticked"_s},
            {"older", "#FALSE#\r\n1\r\n", true, u"clear"_s},
@@ -161,7 +140,6 @@ Subject Phone() {
 Subject CallerId() {
   const QByteArray good = "#TRUE#\r\n";
   return {u"/CallID.txt"_s,
-          false,
           Nothing,
           {{"good", good, true, {}},
            {"older", "#FALSE#\r\n", true, {}},
@@ -175,7 +153,6 @@ Subject LogoPath() {
   const QByteArray path = Pictures().Path(u"/logo.png"_s).toUtf8();
   const QByteArray good = Logo(path);
   return {u"/CompanyLogo.txt"_s,
-          true,
           LogoShown,
           {{"good", good, true, u"a picture"_s},
            {"older", Logo("/no/such/logo.png"), true, u"none"_s},
@@ -188,7 +165,6 @@ Subject LogoPath() {
 Subject LogoSize() {
   const QByteArray good = "1440,720\r\n";
   return {u"/LogoSettings.txt"_s,
-          true,
           Nothing,
           {{"good", good, true, {}},
            {"older", "900,900\r\n", true, {}},
@@ -201,7 +177,6 @@ Subject LogoSize() {
 Subject Customers() {
   const QByteArray good = BusinessRecord("1001", "Acme") + BusinessRecord("1002", "Bell");
   return {u"/CustomerData.txt"_s,
-          true,
           CustomersFolders,
           {{"good", good, true, u"1001/|1002/"_s},
            {"older", BusinessRecord("1001", "Acme"), true, u"1001/"_s},
@@ -215,7 +190,6 @@ Subject Customers() {
 Subject Services() {
   const QByteArray good = Field("Repair", 60) + Field("$10.00", 10) + Bytes16(1);
   return {u"/Services.txt"_s,
-          true,
           CatalogueCell("fgServices", 0),
           {{"good", good, true, u"Repair"_s},
            {"older", Field("Mowing", 60) + Field("$9.00", 10) + Bytes16(1), true, u"Mowing"_s},
@@ -232,7 +206,6 @@ Subject Items() {
   QByteArray fewer = good;
   fewer.replace(86, 2, Bytes16(26));
   return {u"/KVInventoriedItems.txt"_s,
-          true,
           [](ProgramFixture& program) {
             return CatalogueCell("fgItems", 0)(program) + u' ' + CatalogueCell("fgItems", 4)(program);
           },
@@ -248,7 +221,6 @@ Subject Items() {
 Subject CustomItems() {
   const QByteArray good = Field("Shelf", 50) + Bytes64(1000000) + Bytes64(900000) + Bytes32(3);
   return {u"/CustomItems.txt"_s,
-          true,
           CatalogueCell("fgCustom", 0),
           {{"good", good, true, u"Shelf"_s},
            {"older", Field("Shelves", 50) + good.mid(50), true, u"Shelves"_s},
@@ -263,7 +235,6 @@ Subject Labor() {
   const QByteArray good = "\"General\",\"$45.00\"\r\n" + rest;
   return {
       u"/Labor.txt"_s,
-      true,
       [](ProgramFixture& program) { return On<QLineEdit>(program, ScreenName::frmServices, "txtLaborRate_0")->text(); },
       {{"good", good, true, u"$45.00"_s},
        {"older", "\"General\",\"$40.00\"\r\n" + rest, true, u"$40.00"_s},
@@ -275,7 +246,6 @@ Subject Labor() {
 
 Subject Carrier() {
   return {u"/ShipVia.txt"_s,
-          false,
           Nothing,
           {{"good", "Truck\r\n", true, {}},
            {"older", "Rail\r\n", true, {}},
@@ -287,7 +257,6 @@ Subject Carrier() {
 
 Subject Memo() {
   return {u"/InvoiceMemo.txt"_s,
-          true,
           Nothing,
           {{"good", "Thank you\r\n", true, {}},
            {"older", "Thanks\r\n", true, {}},
@@ -302,12 +271,7 @@ QList<Subject> Subjects() {
           Customers(), Services(), Items(),   CustomItems(), Labor(), Carrier(),  Memo()};
 }
 
-void Put(const TemporaryTree& tree, const QString& name, const State& state) {
-  if (state.Bytes) tree.Write(name, *state.Bytes);
-}
-
 const QString Witness = u"/KVInvoiceNo.txt"_s;
-const QString WitnessCopy = u"/Backup/KVInvoiceNo.txt"_s;
 
 }  // namespace
 
@@ -318,12 +282,10 @@ class Mirror : public QObject {
   void initTestCase();
   void whatIsToldHappensInEveryState_data();
   void whatIsToldHappensInEveryState();
-  void aFileThatIsFoundUnreadableLaterEndsTheProgramWithoutTheExitBackup_data();
-  void aFileThatIsFoundUnreadableLaterEndsTheProgramWithoutTheExitBackup();
 
  private:
   void CheckDamaged(ProgramFixture& program, const Subject& subject, QMap<QString, QByteArray> expected);
-  void CheckLoaded(ProgramFixture& program, const Subject& subject, const State& read,
+  void CheckLoaded(ProgramFixture& program, const Subject& subject, const CopyState& read,
                    QMap<QString, QByteArray> expected);
 };
 
@@ -334,19 +296,7 @@ void Mirror::initTestCase() {
 }
 
 void Mirror::whatIsToldHappensInEveryState_data() {
-  QTest::addColumn<int>("subject");
-  QTest::addColumn<int>("live");
-  QTest::addColumn<int>("copy");
-  const QList<Subject> subjects = Subjects();
-  for (int s = 0; s < subjects.size(); ++s) {
-    const QList<State>& states = subjects[s].States;
-    for (int live = 0; live < states.size(); ++live) {
-      for (int copy = 0; copy < states.size(); ++copy) {
-        QTest::addRow("%s %s, copy %s", qPrintable(subjects[s].File), states[live].Name, states[copy].Name)
-            << s << live << copy;
-      }
-    }
-  }
+  AddPairs(Subjects());
 }
 
 void Mirror::whatIsToldHappensInEveryState() {
@@ -354,17 +304,16 @@ void Mirror::whatIsToldHappensInEveryState() {
   QFETCH(int, live);
   QFETCH(int, copy);
   const Subject about = Subjects()[subject];
-  const State& there = about.States[live];
-  const State& kept = about.States[copy];
+  const CopyState& there = about.States[live];
+  const CopyState& kept = about.States[copy];
 
   ProgramFixture program;
-  Put(program.Tree, about.File, there);
-  Put(program.Tree, u"/Backup"_s + about.File, kept);
+  Put(program.Tree, about.File, there.Bytes);
+  Put(program.Tree, CopyOf(about.File), kept.Bytes);
   program.Tree.Write(Witness, "20260017\r\n");
-  program.Tree.Write(WitnessCopy, "20260001\r\n");
+  program.Tree.Write(CopyOf(Witness), "20260001\r\n");
 
-  // Only what is missing is fetched.
-  const State& read = there.Bytes ? there : kept;
+  const CopyState& read = ReadOf(there, kept);
   QMap<QString, QByteArray> expected = program.Tree.Everything();
   if (read.Bytes) expected.insert(about.File, *read.Bytes);
   if (read.Loads) {
@@ -384,7 +333,7 @@ void Mirror::CheckDamaged(ProgramFixture& program, const Subject& subject, QMap<
   QCOMPARE(program.Tree.Everything(), expected);
 }
 
-void Mirror::CheckLoaded(ProgramFixture& program, const Subject& subject, const State& read,
+void Mirror::CheckLoaded(ProgramFixture& program, const Subject& subject, const CopyState& read,
                          QMap<QString, QByteArray> expected) {
   QVERIFY(program.Start());
   QCOMPARE(program.Tree.Everything(), expected);
@@ -392,39 +341,9 @@ void Mirror::CheckLoaded(ProgramFixture& program, const Subject& subject, const 
   ScreenDriver(u"frmSplash"_s).CloseByUser();
   QVERIFY(program.Running().HasEnded());
   // The end copies what the list names, whatever state it is in; what is missing keeps its older copy.
-  expected.insert(WitnessCopy, "20260017\r\n");
-  if (subject.AtExit && read.Bytes) expected.insert(u"/Backup"_s + subject.File, *read.Bytes);
+  expected.insert(CopyOf(Witness), "20260017\r\n");
+  if (IsCopiedAtExit(subject.File) && read.Bytes) expected.insert(CopyOf(subject.File), *read.Bytes);
   QCOMPARE(program.Tree.Everything(), expected);
-}
-
-void Mirror::aFileThatIsFoundUnreadableLaterEndsTheProgramWithoutTheExitBackup_data() {
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<QByteArray>("bytes");
-  QTest::newRow("the counter, empty") << Witness << QByteArray();
-  QTest::newRow("the counter, damaged") << Witness << QByteArray("2026q017\r\n");
-  QTest::newRow("the counter, too large") << Witness << QByteArray("20260017000\r\n");
-  QTest::newRow("the default terms, empty") << u"/StatementTerms.txt"_s << QByteArray();
-}
-
-void Mirror::aFileThatIsFoundUnreadableLaterEndsTheProgramWithoutTheExitBackup() {
-  QFETCH(QString, file);
-  QFETCH(QByteArray, bytes);
-  ProgramFixture program;
-  program.Tree.Write(u"/CustomerData.txt"_s, BusinessRecord("1001", "Acme"));
-  program.Tree.Write(u"/Services.txt"_s, Field("Repair", 60) + Field("$10.00", 10) + Bytes16(1));
-  program.Tree.Write(u"/Backup/Services.txt"_s, "the good copy of another file");
-  program.Tree.Write(file, bytes);
-  program.Tree.Write(u"/Backup"_s + file, "the good copy");
-  QVERIFY(program.StartAtMenu());
-  ScreenDriver(u"frmStartup"_s).Click(u"cmdGoto"_s);
-  program.Answers.Ok({}, u"Karvex Invoicer"_s);
-  ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdCustomer_1"_s);
-  const QString text = program.Answers.Last().Text;
-  QVERIFY2(text.startsWith(program.Tree.Path(file) + u": "_s), qPrintable(text));
-  QVERIFY(program.Running().HasEnded());
-  QCOMPARE(program.Tree.Bytes(file), bytes);
-  QCOMPARE(program.Tree.Bytes(u"/Backup"_s + file), "the good copy");
-  QCOMPARE(program.Tree.Bytes(u"/Backup/Services.txt"_s), "the good copy of another file");
 }
 
 QTEST_MAIN(Mirror)

@@ -367,6 +367,19 @@ class DiskRoutinesTest : public QObject {
     QVERIFY(Absent(u"/MyWebSite.txt"_s));
   }
 
+  void theExitBackupPassesOverADamagedFileUntilItIsSaved() {
+    Put(u"/Labor.txt"_s, "damaged");
+    Put(u"/Backup/Labor.txt"_s, "good");
+    Put(u"/TaxRecords.txt"_s, "t");
+    m_disk->KeepBackupOf(u"\\Labor.txt"_s);
+    m_disk->BackupDataFiles();
+    QCOMPARE(Bytes(u"/Backup/Labor.txt"_s), "good");
+    QCOMPARE(Bytes(u"/Backup/TaxRecords.txt"_s), "t");
+    m_disk->SaveFile(u"/Labor.txt"_s, "mended", BackupCopy::Kept);
+    m_disk->BackupDataFiles();
+    QCOMPARE(Bytes(u"/Backup/Labor.txt"_s), "mended");
+  }
+
   void theExitBackupGoesOnAfterAFileThatCannotBeCopied() {
     Put(u"/CompanyLogo.txt"_s, "logo");
     Put(u"/TaxRecords.txt"_s, "t");
