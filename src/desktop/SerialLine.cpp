@@ -70,10 +70,15 @@ bool SerialLine::PortOpen() const {
 
 void SerialLine::SetPortOpen(bool open) {
   if (open == PortOpen()) return;
-  // The system would wait half a minute, as it closes, for the rest to go out on a line that stands still.
-  if (PortOpen() && m_standsStill && !IsSentWithin(LastMilliseconds)) m_port->clear(QSerialPort::Output);
-  m_port.reset();
+  if (PortOpen() && m_standsStill) m_standsStill = !IsSentWithin(LastMilliseconds);
+  LetGo();
   if (open) Open();
+}
+
+void SerialLine::LetGo() {
+  // The system would wait half a minute, as it closes, for the rest to go out on a line that stands still.
+  if (PortOpen() && m_standsStill) m_port->clear(QSerialPort::Output);
+  m_port.reset();
 }
 
 void SerialLine::Open() {

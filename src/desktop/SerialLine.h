@@ -24,6 +24,7 @@ class SerialLine final : public SerialPort {
   void SetCommPort(int port) override;
   int CommPort() const override { return m_commPort; }
   void SetPortOpen(bool open) override;
+  void LetGo() override;
   bool PortOpen() const override;
   void Output(const QString& text) override;
   int InBufferCount() override;

@@ -13,7 +13,11 @@ class SerialPort {
   /// The port that the next opening takes, from 1; nothing while one is open.
   virtual void SetCommPort(int port) = 0;
   virtual int CommPort() const = 0;
+  /// A closing gives what was sent last and isn't on the wire yet some more time, a second at most, and throws the rest
+  /// away then: the last text before a closing is what hangs up.
   virtual void SetPortOpen(bool open) = 0;
+  /// Closes the port at once, and throws away what isn't on the wire yet: where nothing hangs on it any more.
+  virtual void LetGo() = 0;
   /// False again once the line has dropped by itself.
   virtual bool PortOpen() const = 0;
 

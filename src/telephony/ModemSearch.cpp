@@ -20,7 +20,8 @@ bool Answers(SerialPort& modem, int port) {
   modem.Output(u"AT\r"_s);
   modem.WaitForBytes(AnswerLength, LookMilliseconds);
   if (modem.InBufferCount() >= AnswerLength) return true;
-  modem.SetPortOpen(false);
+  // A device that takes no byte mustn't hold up the start.
+  modem.LetGo();
   return false;
 }
 
@@ -33,7 +34,7 @@ void FindModemPort(SerialPort& modem, PhoneSettings& phone) {
     phone.Text1 = u"Modem Not Detected Or In Use."_s;
     phone.ModemPort = 1;
   } else {
-    modem.SetPortOpen(false);
+    modem.LetGo();
     phone.ModemPort = port;
   }
   modem.SetCommPort(phone.ModemPort);

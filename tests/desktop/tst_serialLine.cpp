@@ -148,6 +148,29 @@ class SerialLineTest : public QObject {
     QVERIFY(!m_line->PortOpen());
   }
 
+  void aLineThatIsLetGoIsWaitedForNoMore() {
+    Driver driver;
+    driver.Queued = -3;
+    played = &driver;
+    m_line->Output(u"AT\r"_s);
+    driver.Done.clear();
+    m_line->LetGo();
+    QCOMPARE(driver.Done, QStringList{u"thrown away"_s});
+    QVERIFY(!m_line->PortOpen());
+    // Nobody holds it any more.
+    driver.Queued = 0;
+    driver.Done.clear();
+    m_line->SetPortOpen(true);
+    QVERIFY(m_line->PortOpen());
+    // There is nothing to throw away of one that took all, or of none.
+    m_line->Output(u"AT\r"_s);
+    driver.Done.clear();
+    m_line->LetGo();
+    m_line->LetGo();
+    QCOMPARE(driver.Done, QStringList());
+    QVERIFY(!m_line->PortOpen());
+  }
+
   void aLineThatTookAllIsClosedAsItIs() {
     Driver driver;
     driver.Queued = -3;

@@ -8,6 +8,7 @@ class NoModem final : public SerialPort {
   void SetCommPort(int port) override { m_port = port; }
   int CommPort() const override { return m_port; }
   void SetPortOpen(bool) override {}
+  void LetGo() override {}
   bool PortOpen() const override { return false; }
   void Output(const QString&) override {}
   int InBufferCount() override { return 0; }

@@ -24,6 +24,10 @@ class ScriptedLine final : public SerialPort {
     m_open = open;
     m_log.append(open ? u"open %1"_s.arg(m_port) : u"close"_s);
   }
+  void LetGo() override {
+    m_open = false;
+    m_log.append(u"let go"_s);
+  }
   bool PortOpen() const override { return m_open; }
   void Output(const QString& text) override { m_log.append(u"send "_s + text); }
   int InBufferCount() override { return static_cast<int>(Waiting.size()); }

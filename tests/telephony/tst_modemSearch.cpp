@@ -29,6 +29,10 @@ class NotedPorts final : public SerialPort {
     if (!open && m_open) Asked.append(u"close"_s);
     m_open = open && (m_port == m_modemOn || m_port == m_silentOn);
   }
+  void LetGo() override {
+    if (m_open) Asked.append(u"let go"_s);
+    m_open = false;
+  }
   bool PortOpen() const override { return m_open; }
   void Output(const QString& text) override {
     if (m_open || text != u"AT\r") Asked.append(u"send "_s + text.trimmed());
@@ -84,11 +88,12 @@ class ModemSearch : public QObject {
     ExpectPort(phone, 1);
   }
 
+  // No port is closed as one that a call hangs on: a device that takes no byte would hold up the start.
   void theStepsOfASearchThatEndsOnPortTwo() {
     NotedPorts ports(2);
     PhoneSettings phone;
     FindModemPort(ports, phone);
-    QCOMPARE(ports.Asked, (QStringList{u"open 1"_s, u"open 2"_s, u"send AT"_s, u"wait 2 bytes 5 ms"_s, u"close"_s,
+    QCOMPARE(ports.Asked, (QStringList{u"open 1"_s, u"open 2"_s, u"send AT"_s, u"wait 2 bytes 5 ms"_s, u"let go"_s,
                                        u"open 2"_s, u"clear"_s, u"send AT#CID=1"_s}));
     QVERIFY(ports.PortOpen());
   }
@@ -97,8 +102,8 @@ class ModemSearch : public QObject {
     NotedPorts ports(3, 1);
     PhoneSettings phone;
     FindModemPort(ports, phone);
-    QCOMPARE(ports.Asked, (QStringList{u"open 1"_s, u"send AT"_s, u"wait 2 bytes 5 ms"_s, u"close"_s, u"open 2"_s,
-                                       u"open 3"_s, u"send AT"_s, u"wait 2 bytes 5 ms"_s, u"close"_s, u"open 3"_s,
+    QCOMPARE(ports.Asked, (QStringList{u"open 1"_s, u"send AT"_s, u"wait 2 bytes 5 ms"_s, u"let go"_s, u"open 2"_s,
+                                       u"open 3"_s, u"send AT"_s, u"wait 2 bytes 5 ms"_s, u"let go"_s, u"open 3"_s,
                                        u"clear"_s, u"send AT#CID=1"_s}));
     ExpectPort(phone, 3);
   }
