@@ -246,7 +246,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     }
     return;
   }
-  QTableView::keyPressEvent(event);
+  // To the one that looks as if it weren't current, not past it.
+  const bool arrives = event->key() == Qt::Key_Down && m_awaitsChoice && !m_byUser;
+  if (!arrives) QTableView::keyPressEvent(event);
   const bool goes = LeadsToRow(event->key());
   RunInScreen(this, [this, goes] { goes ? GoneTo() : TakeRow(); });
 }

@@ -21,7 +21,8 @@ class GridView : public QTableView {
   /// `RowChanged`.
   void SetMatrix(TextMatrix* matrix);
   TextMatrix* Matrix() const { return m_matrix; }  ///< nullptr before there is one, and when it went.
-  /// No row shows as current until the user goes to one: where the screen offers nothing for a row before that.
+  /// No row shows as current until the user goes to one: where the screen offers nothing for a row before that. The
+  /// first Down key goes to the one that is current then, from which it would lead on.
   void AwaitChoice();
   int TopRow() const;
   /// Bounded by the first row and by the last one that can stand on top.

@@ -82,11 +82,17 @@ void ScreenPartials::aKeyClicksTheRowToo() {
     PartialsDesk desk;
     QVERIFY(desk.Open());
     const ScreenDriver partials(u"frmIncomplete"_s);
+    // The first time to the first row, then on from it.
     partials.PressKey(Qt::Key_Down);
     partials.PressKey(Qt::Key_A);
     QCOMPARE(Enabled(), (QList<int>{0, 2}));
     partials.PressKey(key);
     QCOMPARE(Enabled(), (QList<int>{0, 1, 2, 3}));
+    desk.Program.Answers.No(u"This will Purge Incomplete Invoice# 20260007"_s);
+    partials.Click(u"Command1_3"_s);
+    partials.Control(u"fgIncomplete"_s)->setFocus();
+    partials.PressKey(Qt::Key_Down);
+    partials.PressKey(key);
     desk.Program.Answers.No(u"This will Purge Incomplete Invoice# 20260008"_s);
     partials.Click(u"Command1_3"_s);
   }
