@@ -88,8 +88,7 @@ void frmInvoice::EnterRuns(QWidget* box, QAbstractButton* button) {
 bool frmInvoice::RunByEnter(QObject* box, const QKeyEvent& key) {
   const auto runs = m_enterRuns.find(box);
   if (runs == m_enterRuns.end() || (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)) return false;
-  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-  if (!key.isAutoRepeat() && runs->second->isVisible()) QCoreApplication::sendEvent(runs->second, &enter);
+  if (!key.isAutoRepeat() && runs->second->isVisible()) PressButton(runs->second);
   return true;
 }
 

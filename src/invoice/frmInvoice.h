@@ -71,7 +71,7 @@ class frmInvoice final : public Screen {
              WhenLeaveRefused rule = WhenLeaveRefused::Always);
   void Enter(QWidget* box, const std::function<void()>& handler);
   void Leave(QWidget* box, const std::function<void()>& handler);
-  /// Enter in a box does the obvious next thing: as Enter on the button would.
+  /// Enter in a box does the obvious next thing: it presses the button as `PressButton` does.
   void EnterRuns(QWidget* box, QAbstractButton* button);
   bool RunByEnter(QObject* box, const QKeyEvent& key);
   void FilterNumber(QLineEdit* box, QAbstractButton* onEnter);
