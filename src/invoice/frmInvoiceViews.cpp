@@ -106,6 +106,8 @@ bool frmInvoice::Shows(const QWidget* control) const {
 
 /// Way forward and view buttons follow the view.
 void frmInvoice::ShowViewButtons() {
+  // The others take their colours from these two, which get theirs only as the window first shows.
+  for (QPushButton* lookedAt : {ui->cmdSave, ui->cmdInvoiceContinue}) lookedAt->ensurePolished();
   const bool setup = Shows(ui->fraSetup);
   const bool printReady = Shows(ui->fraPrintReady);
   m_cmdInvoice[0]->setVisible(setup);

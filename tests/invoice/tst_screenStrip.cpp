@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "desktop/Style.h"
 #include "support/InvoiceBench.h"
 
 using namespace Qt::StringLiterals;
@@ -36,6 +37,7 @@ class ScreenStrip : public QObject {
   void printReadyWithinTheSummaryKeepsTheDiscountJustDeducted();
   void printReadyOutOfSetupLeavesTheNumberAlone();
   void theEntryOfTheMenuKeepsADeductedDiscount();
+  void theButtonOfTheViewStandsOutFromTheFirstShowingOn();
   void eachButtonAndItsKeyShowTheView_data();
   void eachButtonAndItsKeyShowTheView();
   void outOfSetupTheStripContinuesFirst_data();
@@ -101,6 +103,23 @@ void ScreenStrip::theEntryOfTheMenuKeepsADeductedDiscount() {
   bench.On().Trigger(u"mnuPrint"_s);
   bench.On().Click(u"cmdInvoice_9"_s);
   QCOMPARE(bench.Text(u"txtGrandTotal"_s), u"$25.00"_s);
+}
+
+void ScreenStrip::theButtonOfTheViewStandsOutFromTheFirstShowingOn() {
+  InvoiceBench bench;
+  bench.Open();
+  const auto standingOut = [&bench] {
+    QStringList names;
+    for (const auto* button : bench.On().Control(u"fraViews"_s)->findChildren<QToolButton*>()) {
+      if (button->palette().color(QPalette::Active, QPalette::Button) == PrimaryGround()) names << button->objectName();
+    }
+    return names;
+  };
+  QCOMPARE(standingOut(), QStringList{u"btnSetup"_s});
+  bench.On().Click(u"btnServices"_s);
+  QCOMPARE(standingOut(), QStringList{u"btnServices"_s});
+  bench.Reopen();
+  QCOMPARE(standingOut(), QStringList{u"btnSetup"_s});
 }
 
 void ScreenStrip::eachButtonAndItsKeyShowTheView_data() {
