@@ -20,6 +20,17 @@ bool SaveHammers(InvoicingDesk& desk, const QString& reference, const QString& a
   return desk.Program.Tree.Exists(PartialImage);
 }
 
+/// From the setup view with that reference to the lines, shipping to the sold-to address: the page tells the carrier
+/// then.
+void ShipToThem(const QString& reference) {
+  const ScreenDriver invoice = InvoicingDesk::Invoice();
+  invoice.Click(u"cmdShipToAddress_0"_s);
+  invoice.Click(u"ckShipto"_s);
+  invoice.Fill(u"txtReference"_s, reference);
+  invoice.Fill(u"txtShipto_6"_s, u"Ann"_s);
+  invoice.Click(u"cmdInvoice_0"_s);
+}
+
 void Finish(InvoicingDesk& desk) {
   const ScreenDriver invoice = InvoicingDesk::Invoice();
   if (invoice.IsVisible(u"cmdInvoice_0"_s)) invoice.Click(u"cmdInvoice_0"_s);
@@ -40,6 +51,8 @@ class CommasAndQuotes : public QObject {
   void aCountBehindTheCommaIsTakenForTheLines();
   void aCommaKeepsACompletedInvoiceFromBeingShown_data();
   void aCommaKeepsACompletedInvoiceFromBeingShown();
+  void aCarrierOrReferenceThatBeginsWithAQuoteIsShownAndReprintedUpToTheNext();
+  void theOuterBlanksOfAReferenceAreOnTheFirstPrintAlone();
   void aMemoIsSavedAsTypedAndReadInParts();
   void aNarrativeIsPrintedAsTyped();
 };
@@ -145,6 +158,52 @@ void CommasAndQuotes::aCommaKeepsACompletedInvoiceFromBeingShown() {
   QCOMPARE(completed.Text(u"Label1_32"_s), QString::fromLatin1(carrier).remove(u','));
   QCOMPARE(completed.Text(u"Label1_9"_s), QString(reference).remove(u','));
   QCOMPARE(completed.Text(u"txtAttn"_s), u"Ann"_s);
+}
+
+void CommasAndQuotes::aCarrierOrReferenceThatBeginsWithAQuoteIsShownAndReprintedUpToTheNext() {
+  InvoicingDesk desk;
+  desk.Program.Tree.Write(u"/ShipVia.txt"_s, "\"Night\" Freight\r\n");
+  QVERIFY(desk.Program.StartAtMenu());
+  desk.OpenInvoice();
+  ShipToThem(u"\"rush\" PO 5"_s);
+  desk.PostHammers(u"2"_s);
+  Finish(desk);
+  const QByteArray image = desk.Program.Tree.Bytes(u"/CompletedInvoices/20260017.txt"_s);
+  QVERIFY2(image.contains("\r\n\"Night\" Freight\r\n3/7/2026\r\n20260017\r\n1001\r\n\"rush\" PO 5\r\nAnn\r\n1\r\n"),
+           image.constData());
+  // It is printed whole; the reference stands on the page twice.
+  QCOMPARE(desk.Program.Paper.Find(u"\"Night\" Freight"_s).size(), 1U);
+  QCOMPARE(desk.Program.Paper.Find(u"\"rush\" PO 5"_s).size(), 2U);
+  OpenReprint();
+  const ScreenDriver completed(u"frmReprint"_s);
+  completed.SelectRow(u"fgReceivables"_s, 1);
+  QCOMPARE(completed.Text(u"Label1_32"_s), u"Night"_s);
+  QCOMPARE(completed.Text(u"Label1_9"_s), u"rush"_s);
+  QCOMPARE(completed.Text(u"txtAttn"_s), u"Ann"_s);
+  completed.Click(u"cmdPrint"_s);
+  QCOMPARE(desk.Program.Paper.Jobs.size(), 2U);
+  QCOMPARE(desk.Program.Paper.Find(u"Night"_s).size(), 1U);
+  QCOMPARE(desk.Program.Paper.Find(u"rush"_s).size(), 2U);
+}
+
+void CommasAndQuotes::theOuterBlanksOfAReferenceAreOnTheFirstPrintAlone() {
+  InvoicingDesk desk;
+  desk.Program.Tree.Write(u"/ShipVia.txt"_s, "Acme\r\n");
+  QVERIFY(desk.Program.StartAtMenu());
+  desk.OpenInvoice();
+  ShipToThem(u"  PO 5 "_s);
+  desk.PostHammers(u"2"_s);
+  Finish(desk);
+  QVERIFY(desk.Program.Tree.Bytes(u"/CompletedInvoices/20260017.txt"_s).contains("\r\n1001\r\nPO 5\r\nAnn\r\n"));
+  QCOMPARE(desk.Program.Paper.Find(u"  PO 5 "_s).size(), 2U);
+  OpenReprint();
+  const ScreenDriver completed(u"frmReprint"_s);
+  completed.SelectRow(u"fgReceivables"_s, 1);
+  QCOMPARE(completed.Text(u"Label1_9"_s), u"PO 5"_s);
+  completed.Click(u"cmdPrint"_s);
+  QCOMPARE(desk.Program.Paper.Jobs.size(), 2U);
+  QCOMPARE(desk.Program.Paper.Find(u"PO 5"_s).size(), 2U);
+  QCOMPARE(desk.Program.Paper.Find(u"  PO 5 "_s).size(), 0U);
 }
 
 void CommasAndQuotes::aMemoIsSavedAsTypedAndReadInParts() {

@@ -1,5 +1,6 @@
 // One completed invoice in full: its panel, its messages, and the memo.
 
+#include "desktop/GridView.h"
 #include "records/ReprintScreen.h"
 
 using namespace Qt::StringLiterals;
@@ -16,6 +17,7 @@ class ScreenReprintInvoice : public QObject {
  private Q_SLOTS:
   void aClickShowsTheInvoiceInFull();
   void aKeyOpensTheRowToo();
+  void theDescriptionIsTheCurrentColumnWhateverWasClickedBefore();
   void theTaxHeadingsAreSetups();
   void inUsaStyleTheStateIsNarrowAndThePostalCodeShows();
   void inInternationalStyleTheStateIsWideAndThePostalCodeIsHidden();
@@ -80,6 +82,28 @@ void ScreenReprintInvoice::aKeyOpensTheRowToo() {
     desk.On().PressKey(key);
     QCOMPARE(ReprintScreen::Title(), u"Details for Invoice 20260009"_s);
   }
+}
+
+void ScreenReprintInvoice::theDescriptionIsTheCurrentColumnWhateverWasClickedBefore() {
+  ReprintScreen desk;
+  QVERIFY(desk.Open());
+  const TextMatrix* items = desk.On().Control<GridView>(u"fgItems"_s)->Matrix();
+  desk.Select(u"20260010"_s);
+  QCOMPARE(items->Col(), 1);
+  desk.On().SelectRow(u"fgItems"_s, 2, 4);
+  QCOMPARE(items->Col(), 4);
+  desk.On().Click(u"cmdHide"_s);
+  desk.Select(u"20260009"_s);
+  QCOMPARE(items->Col(), 1);
+  QCOMPARE(items->Alignment(1), Qt::AlignLeft | Qt::AlignVCenter);
+  // Also where there is no image to show.
+  desk.On().SelectRow(u"fgItems"_s, 1, 3);
+  desk.On().Click(u"cmdHide"_s);
+  desk.Program.Tree.Remove(Folder + u"20260010.txt"_s);
+  desk.Program.Answers.Ok({}, u"Invoice Image Not Found"_s);
+  desk.Select(u"20260010"_s);
+  QVERIFY(desk.ShowsList());
+  QCOMPARE(items->Col(), 1);
 }
 
 void ScreenReprintInvoice::theTaxHeadingsAreSetups() {

@@ -211,6 +211,51 @@ class ScreenSalesPurge : public QObject {
     }
   }
 
+  void aFailureBehindTheRenameIsToldAndPassesWithTheNextPurge_data() {
+    QTest::addColumn<int>("call");
+    QTest::addColumn<int>("nth");
+    QTest::addColumn<QString>("file");
+    // Folders are flushed behind the temporary file, the rename, and the copy; the third rename is the copy's.
+    QTest::newRow("the folder can't be flushed") << static_cast<int>(FailingDevice::Call::FlushFolder) << 2 << File;
+    QTest::newRow("the copy can't be made") << static_cast<int>(FailingDevice::Call::Rename) << 3 << Copy;
+  }
+  void aFailureBehindTheRenameIsToldAndPassesWithTheNextPurge() {
+    QFETCH(const int, call);
+    QFETCH(const int, nth);
+    QFETCH(const QString, file);
+    Desk desk;
+    QVERIFY(desk.Open());
+    const ScreenDriver driver = Desk::Driver();
+    const auto listed = [&driver] {
+      const auto* lines = driver.Control<QTableView>(u"fgSalesItems"_s)->model();
+      QStringList numbers;
+      for (int row = 0; row < lines->rowCount(); ++row) numbers << lines->index(row, 2).data().toString();
+      return numbers;
+    };
+    driver.Click(u"cmdSales_1"_s);
+    driver.Click(u"cmdSales_3"_s);
+    QCOMPARE(listed(), (QStringList{u"20260001"_s, QString()}));
+    desk.Program.Files.FailAt(static_cast<FailingDevice::Call>(call), nth, EIO);
+    desk.Agree();
+    desk.Program.Answers.Ok(desk.Program.Tree.Path(file) +
+                                u": The file or folder can't be used. (error 75)\n\nCheck that you may read and write "
+                                u"the file and its folder, then try again. Nothing was lost."_s,
+                            u"Karvex Invoicer"_s);
+    Desk::Purge();
+    // The records are gone, the copy is the one of before; the list shows what it showed.
+    QCOMPARE(desk.Program.Tree.Bytes(File), Before + Behind + LongAgo);
+    QCOMPARE(desk.Program.Tree.Bytes(Copy), "older");
+    QVERIFY(!desk.Program.Tree.Exists(u"/TemporaryFile.txt"_s));
+    QVERIFY(ScreenDriver::IsShown(u"frmSalesReport"_s));
+    QCOMPARE(listed(), (QStringList{u"20260001"_s, QString()}));
+    // Tried again, as the box says.
+    desk.Agree();
+    Desk::Purge();
+    QCOMPARE(desk.Program.Tree.Bytes(File), Before + Behind + LongAgo);
+    QCOMPARE(desk.Program.Tree.Bytes(Copy), Before + Behind + LongAgo);
+    QCOMPARE(listed(), QStringList{QString()});
+  }
+
   void killedAtAnyStepTheFileIsOldOrNew() {
     const QByteArray old = Last + Before + First;
     int step = 1;
