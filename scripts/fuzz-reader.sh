@@ -20,8 +20,9 @@ longest=$((longest * 2))
 [ "$longest" -ge 512 ] || longest=512
 [ "$longest" -le 8192 ] || longest=8192
 # Where memory came from isn't noted at each of the thousands of allocations a second: whoever looks into a finding runs
-# the fuzzer on that one input, and sees it. Every input has the same turn: weighing them takes longer than most loads.
-if ! ASAN_OPTIONS=malloc_context_size=0:quarantine_size_mb=32 UBSAN_OPTIONS=print_stacktrace=1 KARVEX_FUZZ_READER=$reader \
+# the fuzzer on that one input, and sees it. Freed memory is kept from use for the length of several loads, and no longer:
+# more would leave the processor's cache. Every input has the same turn: weighing them takes longer than most loads.
+if ! ASAN_OPTIONS=malloc_context_size=0:quarantine_size_mb=1:thread_local_quarantine_size_kb=64 UBSAN_OPTIONS=print_stacktrace=1 KARVEX_FUZZ_READER=$reader \
   tests/karvex_fuzz -runs="$runs" -max_len="$longest" -timeout=20 -rss_limit_mb=4096 -entropic=0 -artifact_prefix="$reader-" \
   "$@" "inputs/$reader" "$corpus" >"$reader.log" 2>&1; then
   tail -n 40 "$reader.log" >&2

@@ -59,12 +59,14 @@ void ReaderDesk::ClearFor(const QByteArray& target) {
 
 void ReaderDesk::Put(const QString& name, const QByteArray& bytes) {
   const QByteArray path = QFile::encodeName(m_folder.path() + name);
-  int file = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+  // Cut to its length behind the write and not before it, which gives the page back and takes another each time.
+  int file = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
   if (file < 0) {
     QDir().mkpath(QFileInfo(m_folder.path() + name).path());
-    file = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    file = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
   }
-  if (::write(file, bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size()) {
+  if (::write(file, bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size() ||
+      ::ftruncate(file, bytes.size()) != 0) {
     qFatal("the test could not write %s", path.constData());
   }
   ::close(file);
