@@ -56,10 +56,10 @@ void Try(Act act) {
   }
 }
 
-/// The lines of the file as the texts that boxes and cells hold.
+/// The lines of the file as the texts that boxes and cells hold. A few: each is a case of its own.
 void Convert(ReaderDesk& desk) {
   ListReader file = desk.Disk().OpenInputFile(u"/Numbers.txt"_s);
-  for (int line = 0; line < 20 && !file.AtEnd(); ++line) {
+  for (int line = 0; line < 5 && !file.AtEnd(); ++line) {
     const QString text = file.ReadLine();
     IsNumeric(text);
     const double number = ParseLeadingNumber(text);

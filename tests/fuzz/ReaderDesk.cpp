@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,6 +17,13 @@ namespace {
 QString PlaceOfTheTree() {
   const QString memory = u"/dev/shm"_s;
   return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + u"/karvex-fuzz-XXXXXX"_s;
+}
+
+/// Those behind the first `existing` bytes of the path.
+void MakeFoldersAbove(const QByteArray& path, qsizetype existing) {
+  for (qsizetype end = path.indexOf('/', existing + 1); end >= 0; end = path.indexOf('/', end + 1)) {
+    ::mkdir(path.first(end).constData(), 0700);
+  }
 }
 
 }  // namespace
@@ -51,9 +59,11 @@ QByteArray ReaderDesk::Run(const ReaderTarget& target, const QByteArray& bytes) 
 }
 
 void ReaderDesk::ClearFor(const QByteArray& target) {
-  QDir tree(m_folder.path());
-  tree.removeRecursively();
-  tree.mkpath(m_folder.path());
+  if (!m_target.isEmpty()) {
+    QDir tree(m_folder.path());
+    tree.removeRecursively();
+    tree.mkpath(m_folder.path());
+  }
   m_target = target;
 }
 
@@ -62,7 +72,7 @@ void ReaderDesk::Put(const QString& name, const QByteArray& bytes) {
   // Cut to its length behind the write and not before it, which gives the page back and takes another each time.
   int file = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
   if (file < 0) {
-    QDir().mkpath(QFileInfo(m_folder.path() + name).path());
+    MakeFoldersAbove(path, m_folder.path().size());
     file = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
   }
   if (::write(file, bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size() ||

@@ -37,6 +37,7 @@ class ReaderDesk {
   QByteArray Run(const ReaderTarget& target, const QByteArray& bytes);
   int Refused() const { return m_refused; }  ///< How many of the runs ended in a RuntimeError.
 
+  QString Root() const { return m_folder.path(); }
   CommonDiskRoutines& Disk() { return *m_disk; }
   Dialogs& Boxes() { return m_dialogs; }
   const Clock& Today() const { return m_clock; }

@@ -1,6 +1,8 @@
 /// The real disk with a look at each change: none may leave the data root, and what only reads makes none.
 #pragma once
 
+#include <unistd.h>
+
 #include <QFile>
 #include <QString>
 
@@ -24,7 +26,7 @@ class WatchedDevice final : public FileDevice {
     return Note(from) && Note(to) ? FileDevice::Rename(from, to) : -1;
   }
   int Remove(const QString& path) override {
-    if (QFile::exists(path) && !Note(path)) return -1;
+    if (::access(QFile::encodeName(path).constData(), F_OK) == 0 && !Note(path)) return -1;
     return FileDevice::Remove(path);
   }
   int MakeFolder(const QString& path) override { return Note(path) ? FileDevice::MakeFolder(path) : -1; }

@@ -1,10 +1,12 @@
-// The long form: the same readers and the same judgement, driven by coverage. KARVEX_FUZZ_READER names the reader;
-// without it the first byte of the input chooses one.
+// The long form: the same readers and the same judgement, driven by coverage, on a tree in the process's own memory.
+// KARVEX_FUZZ_READER names the reader.
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <QCoreApplication>
 
+#include "fuzz/MemoryTree.h"
 #include "fuzz/PictureReader.h"
 #include "fuzz/ReaderDesk.h"
 
@@ -12,16 +14,16 @@ namespace {
 
 struct Fuzzer {
   Fuzzer() {
-    Targets.push_back(PictureReader());
+    std::vector<ReaderTarget> all = ReaderTargets();
+    all.push_back(PictureReader());
     const QByteArray wanted = qgetenv("KARVEX_FUZZ_READER");
-    for (const ReaderTarget& target : Targets) {
-      if (target.Name == wanted) Chosen = &target;
-    }
-    if (!wanted.isEmpty() && Chosen == nullptr) qFatal("there is no reader %s", wanted.constData());
+    const auto chosen = std::find_if(all.begin(), all.end(), [&](const auto& each) { return each.Name == wanted; });
+    if (chosen == all.end()) qFatal("KARVEX_FUZZ_READER names no reader: \"%s\"", wanted.constData());
+    Reader = *chosen;
+    MemoryTree::KeepHere(Desk.Root());
   }
 
-  std::vector<ReaderTarget> Targets = ReaderTargets();
-  const ReaderTarget* Chosen = nullptr;
+  ReaderTarget Reader;
   ReaderDesk Desk;
 };
 
@@ -41,14 +43,8 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   static Fuzzer fuzzer;
-  QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-  const ReaderTarget* target = fuzzer.Chosen;
-  if (target == nullptr) {
-    if (bytes.isEmpty()) return 0;
-    target = &fuzzer.Targets[static_cast<unsigned char>(bytes[0]) % fuzzer.Targets.size()];
-    bytes.remove(0, 1);
-  }
-  const QByteArray wrong = fuzzer.Desk.Run(*target, bytes);
+  const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+  const QByteArray wrong = fuzzer.Desk.Run(fuzzer.Reader, bytes);
   if (!wrong.isEmpty()) {
     std::fprintf(stderr, "%s\n", wrong.constData());
     std::abort();
