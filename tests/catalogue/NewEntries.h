@@ -1,7 +1,16 @@
-/// Entries of the catalogue screen that a test begins: the boxes filled but those that it fills itself.
+/// Entries of the catalogue screen that a test makes, or begins: the boxes filled but those that it fills itself.
 #pragma once
 
 #include "support/CatalogueScreen.h"
+
+/// A new service, added.
+inline void AddService(const CatalogueScreen& screen, const char* description) {
+  screen.Click(1);
+  screen.Fill("txtDescription_0", description);
+  screen.Fill("txtCharge_0", "1");
+  screen.PickTime("0:15");
+  screen.Click(4);
+}
 
 inline void FillItem(const CatalogueScreen& screen, const char* description) {
   screen.Fill("txtDescription_1", description);

@@ -16,6 +16,18 @@ const LongWork StandingStill{.Time = [] { return qint64{0}; }};
 class ProgressBoxTest : public QObject {
   Q_OBJECT
 
+  /// From `now` on.
+  static void CheckLongAfterHalfASecond(const Progress& tell, qint64& now) {
+    QueuedAnswers answers;
+    now += 499;
+    QVERIFY(tell(1, 4));
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    now += 1;
+    answers.Dialog([](QDialog&) {});
+    QVERIFY(tell(2, 4));
+    QVERIFY(QApplication::activeModalWidget() != nullptr);
+  }
+
  private Q_SLOTS:
   void shortWorkShowsNothing() {
     ProgressBox box(u"Counting ..."_s, StandingStill);
@@ -48,33 +60,18 @@ class ProgressBoxTest : public QObject {
   }
 
   void workIsLongAfterHalfASecond() {
-    QueuedAnswers answers;
     qint64 now = 1000;
     ProgressBox box(u"Counting ..."_s, {.Time = [&now] { return now; }});
-    const Progress tell = box.Teller();
-    now += 499;
-    QVERIFY(tell(1, 4));
-    QVERIFY(QApplication::activeModalWidget() == nullptr);
-    now += 1;
-    answers.Dialog([](QDialog&) {});
-    QVERIFY(tell(2, 4));
-    QVERIFY(QApplication::activeModalWidget() != nullptr);
+    CheckLongAfterHalfASecond(box.Teller(), now);
   }
 
   void itsTimeCanCountFromTheFirstStep() {
-    QueuedAnswers answers;
     qint64 now = 0;
     ProgressBox box(u"Printing ..."_s, {.Time = [&now] { return now; }}, ProgressBox::Since::FirstStep);
     const Progress tell = box.Teller();
     now = 10'000;
     QVERIFY(tell(0, 4));
-    now += 499;
-    QVERIFY(tell(1, 4));
-    QVERIFY(QApplication::activeModalWidget() == nullptr);
-    now += 1;
-    answers.Dialog([](QDialog&) {});
-    QVERIFY(tell(2, 4));
-    QVERIFY(QApplication::activeModalWidget() != nullptr);
+    CheckLongAfterHalfASecond(tell, now);
   }
 
   void theMachinesOwnTimeGoesOn() {

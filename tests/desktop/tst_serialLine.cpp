@@ -71,6 +71,13 @@ class SerialLineTest : public QObject {
     void mouseMoveEvent(QMouseEvent*) override { ++Moves; }
   };
 
+  /// Sends a hang-up down a line whose driver puts nothing of it on the wire.
+  void SendWhileItStandsStill(Driver& driver) const {
+    driver.Queued = -3;
+    played = &driver;
+    m_line->Output(u"ATH\r"_s);
+  }
+
  private Q_SLOTS:
   void init() {
     m_modem = std::make_unique<PlayedModem>();
@@ -96,11 +103,9 @@ class SerialLineTest : public QObject {
 
   void aLineThatStandsStillIsGivenUp() {
     Driver driver;
-    driver.Queued = -3;
-    played = &driver;
     QElapsedTimer timer;
     timer.start();
-    m_line->Output(u"ATH\r"_s);
+    SendWhileItStandsStill(driver);
     const qint64 waited = timer.elapsed();
     QVERIFY2(waited >= 95 && waited < 30'000, qPrintable(QString::number(waited)));
     // What is in the device isn't waited for then: nobody could say for how long.
@@ -126,9 +131,7 @@ class SerialLineTest : public QObject {
 
   void whatALineThatStandsStillHoldsIsThrownAwayAsItCloses() {
     Driver driver;
-    driver.Queued = -3;
-    played = &driver;
-    m_line->Output(u"ATH\r"_s);
+    SendWhileItStandsStill(driver);
     QVERIFY(!driver.Done.contains(u"thrown away"_s));
     // Else the system waits for it.
     m_line->SetPortOpen(false);
@@ -138,9 +141,7 @@ class SerialLineTest : public QObject {
 
   void whatGoesOutLateIsNotThrownAway() {
     Driver driver;
-    driver.Queued = -3;
-    played = &driver;
-    m_line->Output(u"ATH\r"_s);
+    SendWhileItStandsStill(driver);
     // It moves again.
     driver.Queued = 3;
     m_line->SetPortOpen(false);
@@ -173,9 +174,7 @@ class SerialLineTest : public QObject {
 
   void aLineThatTookAllIsClosedAsItIs() {
     Driver driver;
-    driver.Queued = -3;
-    played = &driver;
-    m_line->Output(u"ATH\r"_s);
+    SendWhileItStandsStill(driver);
     driver.Queued = 0;
     m_line->Output(u"ATH\r"_s);
     m_line->SetPortOpen(false);

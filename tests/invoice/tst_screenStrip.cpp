@@ -3,7 +3,7 @@
 #include <QtWidgets>
 
 #include "desktop/Style.h"
-#include "support/InvoiceBench.h"
+#include "invoice/Summary.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,10 +14,7 @@ void LeaveWithAFlatDiscount(InvoiceBench& bench) {
   bench.OpenAtLines();
   bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
   bench.On().Click(u"cmdPrint"_s);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"5"_s);
-  bench.On().Click(u"cmdAddDiscount"_s);
+  DeductDiscount(bench, u"5"_s);
   QCOMPARE(bench.Text(u"txtDiscount"_s), u"$5.00"_s);
   bench.On().Click(u"cmdInvoice_1"_s);
   bench.Customer[1] = u"Other Ltd"_s;
@@ -74,10 +71,7 @@ void ScreenStrip::printReadyWithinTheSummaryKeepsTheDiscountJustDeducted() {
   bench.OpenAtLines();
   bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
   bench.On().Click(u"cmdPrint"_s);
-  bench.Answers.Ok();
-  bench.On().Click(u"optDiscount_1"_s);
-  bench.On().Type(u"5"_s);
-  bench.On().Click(u"cmdAddDiscount"_s);
+  DeductDiscount(bench, u"5"_s);
   bench.On().PressKey(Qt::Key_F12);
   bench.On().Click(u"btnPrint"_s);
   QVERIFY(bench.Ticked(u"btnPrint"_s));

@@ -1,5 +1,6 @@
-/// A user who agrees to everything while this object lives: whatever box comes up, up to thirty, gets its Yes or its
-/// OK, any other dialog its way out; the texts are kept.
+/// A user in front of the real boxes who agrees to everything while this object lives: whatever box comes up, up to
+/// thirty, gets its Yes or its OK, any other dialog its way out; the texts are kept. For tests of the whole program;
+/// where rules run without a screen, and no box can come up, it is AgreeingDialogs who agrees.
 #pragma once
 
 #include <QAbstractButton>

@@ -1,7 +1,11 @@
 // Hostile texts and numbers in every box of the invoice that is being made: head, lines, memo and narrative; and in the
 // cells of its grid.
 
+#include <QtWidgets>
+
+#include "reliability/AnyAnswer.h"
 #include "reliability/MemoryDisk.h"
+#include "reliability/OneDay.h"
 #include "reliability/TextStages.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,9 @@
 // Hostile texts and numbers in every box of Setup, the catalogue, the customers and the records; and that no box of any
 // screen is left out.
 
+#include <QtWidgets>
+
+#include "reliability/AnyAnswer.h"
 #include "reliability/MemoryDisk.h"
 #include "reliability/TextStages.h"
 

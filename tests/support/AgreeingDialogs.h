@@ -1,4 +1,5 @@
-/// A user who says yes to everything and is told of nothing.
+/// The `Dialogs` of rules that run without a screen: it says yes to everything, shows nothing and keeps nothing. Where
+/// real boxes come up, AnyAnswer presses their buttons.
 #pragma once
 
 #include "runtime/Dialogs.h"
