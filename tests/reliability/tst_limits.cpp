@@ -1,12 +1,11 @@
 // Files at and around their limits: 0, 1, 254, 255 and 256 records of each list of the catalogue; 0, 1, 32,766, 32,767
-// and 32,768 of every other file. What is one too many is told, where telling is meant, and nothing that stood is lost.
+// and 32,768 of every file that a finished invoice is appended to. What is one too many is told, where telling is
+// meant, and nothing that stood is lost.
 
 #include "reliability/MemoryDisk.h"
 #include "support/CatalogueScreen.h"
 #include "support/InvoiceBench.h"
 #include "support/SetupScreen.h"
-
-#include "customers/CustomerRecords.h"
 
 using namespace Qt::StringLiterals;
 
@@ -110,8 +109,7 @@ class Limits : public QObject {
   void aCommitAddsToAFileUpToItsLimit_data();
   void aCommitAddsToAFileUpToItsLimit();
   void aLedgerWithRoomForOneTakesTheInvoiceAlone();
-  void theLastCustomerIsTakenAndTheNextRefused();
-  void atItsLimitTheCustomerFileSavesAndDeletes();
+  void taxRecordsWithRoomForOneTakeTheFirstTaxAlone();
   void theMenuStandsWhateverTheRecordsAre_data();
   void theMenuStandsWhateverTheRecordsAre();
 };
@@ -253,45 +251,22 @@ void Limits::aLedgerWithRoomForOneTakesTheInvoiceAlone() {
   QVERIFY(!bench.Tree.Exists(u"/KAPaymentRecords.txt"_s));
 }
 
-void Limits::theLastCustomerIsTakenAndTheNextRefused() {
-  ProgramFixture program;
-  const QByteArray before = BusinessRecord("1", "One") + QByteArray(328 * 32765, ' ');
-  program.Tree.Write(u"/CustomerData.txt"_s, before);
-  program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("Repair"));
-  QVERIFY(program.StartAtMenu());
-  ScreenDriver(u"frmStartup"_s).Click(u"cmdGoto"_s);
-  const ScreenDriver screen(u"frmNewCustomer"_s);
-  screen.Trigger(u"mnuAdd"_s);
-  screen.Fill(u"txtCustomer_0"_s, u"32767"_s);
-  screen.Fill(u"txtCustomer_1"_s, u"The Last"_s);
-  screen.Click(u"cmdNav_0"_s);
-  QCOMPARE(program.Tree.Size(u"/CustomerData.txt"_s), 328 * 32767);
-  program.Answers.Ok(program.Tree.Path(u"/CustomerData.txt"_s) +
-                     u": The customer file is full: it holds 32,767 customers. (error 6)\n\n"
-                     "Delete one first. Nothing was lost."_s);
-  screen.Trigger(u"mnuAdd"_s);
-  const QByteArray after = program.Tree.Bytes(u"/CustomerData.txt"_s);
-  QCOMPARE(after.size(), 328 * 32767);
-  QVERIFY(after.startsWith(before));
-  QVERIFY(after.right(328).startsWith("32767               The Last "));
-}
-
-void Limits::atItsLimitTheCustomerFileSavesAndDeletes() {
-  ProgramFixture program;
-  const QByteArray before = BusinessRecord("1", "One") + BusinessRecord("2", "Two") + QByteArray(328 * 32765, ' ');
-  program.Tree.Write(u"/CustomerData.txt"_s, before);
-  program.Tree.Write(u"/Services.txt"_s, CatalogueScreen::Service("Repair"));
-  QVERIFY(program.StartAtMenu());
-  ScreenDriver(u"frmStartup"_s).Click(u"cmdGoto"_s);
-  const ScreenDriver screen(u"frmNewCustomer"_s);
-  screen.Fill(u"txtCustomer_1"_s, u"Changed"_s);
-  screen.Click(u"cmdNav_0"_s);
-  QByteArray expected = before;
-  expected.replace(20, 7, "Changed");
-  QVERIFY(program.Tree.Bytes(u"/CustomerData.txt"_s) == expected);
-  program.Answers.Yes();
-  screen.Trigger(u"mnuDelete"_s);
-  QVERIFY(program.Tree.Bytes(u"/CustomerData.txt"_s) == expected.mid(328));
+void Limits::taxRecordsWithRoomForOneTakeTheFirstTaxAlone() {
+  InvoiceBench bench;
+  const QByteArray before = Numbered(75, 32766);
+  bench.Tree.Write(u"/TaxSettings.txt"_s, "\"Sales Tax\",\"County Tax\",\"6.0\",\"1.0\",1,1\r\n");
+  bench.Tree.Write(u"/TaxRecords.txt"_s, before);
+  bench.OpenAtLines();
+  bench.On().Trigger(u"mnuManual"_s);
+  bench.On().Click(u"ckManualTax"_s);
+  bench.PostManual(u"Ladder"_s, u"1"_s, u"20"_s);
+  bench.Finalize();
+  bench.Answers.Yes(u"Was the Invoice Printed Correctly"_s);
+  bench.On().Click(u"cmdInvoiceContinue"_s);
+  QVERIFY(bench.Tree.Bytes(u"/TaxRecords.txt"_s) ==
+          before + Field("Sales Tax", 20) + Field("3/7/2026", 15) + Field("20260001", 30) + Field("1.2", 10));
+  // The run stopped at the second one, with the number not used up.
+  QCOMPARE(bench.Tree.Bytes(u"/KVInvoiceNo.txt"_s), "20260001\r\n");
 }
 
 void Limits::theMenuStandsWhateverTheRecordsAre_data() {

@@ -223,6 +223,7 @@ void MirrorInvoice::aFileThatACommitFoundTooLongKeepsItsCopy_data() {
   QTest::addColumn<QByteArray>("bytes");
   QTest::newRow("the journal") << u"/InvoiceSalesJournal.txt"_s << QByteArray(125 * 32768, 'j');
   QTest::newRow("the tax records") << u"/TaxRecords.txt"_s << QByteArray(75 * 32768, 't');
+  QTest::newRow("the inventory") << u"/KVInventoriedItems.txt"_s << QByteArray(104 * 256, 'i');
 }
 
 void MirrorInvoice::aFileThatACommitFoundTooLongKeepsItsCopy() {
@@ -230,9 +231,9 @@ void MirrorInvoice::aFileThatACommitFoundTooLongKeepsItsCopy() {
   QFETCH(const QByteArray, bytes);
   ProgramFixture program;
   OneDay::Stock(program.Tree);
+  QVERIFY(program.StartAtMenu());
   program.Tree.Write(file, bytes);
   program.Tree.Write(CopyOf(file), "the good copy");
-  QVERIFY(program.StartAtMenu());
   OneDay::CommitInvoice(program);
   QCOMPARE(program.Tree.Bytes(u"/KVInvoiceNo.txt"_s), "20260001\r\n");
   program.End();
