@@ -70,8 +70,7 @@ void CatalogueEditor::LeaveCharge(CatalogueBox box) {
   m_dialogs.Beep();
   if (box == Box::txtCharge2) {
     // A discount price left blank is the sell price; zero while there is none.
-    const QString price = Text(Box::txtCharge1);
-    return SetText(box, IsNumeric(price) ? CurrencyText(Currency::FromText(price)) : ZeroCurrencyText());
+    return SetText(box, IsNumeric(Text(Box::txtCharge1)) ? CurrencyTextOf(Box::txtCharge1) : ZeroCurrencyText());
   }
   SetText(box, ZeroCurrencyText());
   m_view.FocusOn(box);

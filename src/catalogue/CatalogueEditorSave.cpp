@@ -117,8 +117,12 @@ bool CatalogueEditor::MissesLine(CatalogueList list) {
   return true;
 }
 
+/// Rounded to cents at once, like an amount of any other screen; what the file couldn't take is refused.
 QString CatalogueEditor::CurrencyTextOf(CatalogueBox box) const {
-  return CurrencyText(Currency::FromText(Text(box), m_view.NameOf(box)));
+  const QString name = m_view.NameOf(box);
+  const QString text = CurrencyText(ToNumber(Text(box), name));
+  Currency::FromText(text, name);
+  return text;
 }
 
 qint16 CatalogueEditor::Whole16(CatalogueBox box) const {

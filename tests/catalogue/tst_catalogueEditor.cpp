@@ -188,6 +188,14 @@ class CatalogueEditorTest : public QObject {
     QCOMPARE(desk.View.Focus, QString());
   }
 
+  void aBlankDiscountPriceTakesTheSellPriceRoundedToCentsOnce() {
+    Desk desk;
+    desk.Fill({{Box::txtCharge1, u"12.34499"_s}});
+    desk.Editor.LeaveBox(Box::txtCharge2);
+    QCOMPARE(desk.View.Text(Box::txtCharge2), u"$12.34"_s);
+    QCOMPARE(desk.View.Text(Box::txtCharge1), u"12.34499"_s);
+  }
+
   void everyLaborRateIsCheckedWhenLeft() {
     Desk desk;
     for (const Box box : {Box::txtLaborRate0, Box::txtLaborRate1, Box::txtLaborRate2}) {
