@@ -165,6 +165,7 @@ void ListCombo::Edited(const QString& text) {
   m_line->setCursorPosition(cursor);
   if (m_autoComplete && m_skipAutoComplete) {
     m_skipAutoComplete = false;
+    RunInScreen(this, ChangeUntold);
     return;
   }
   RunInScreen(this, [this] {
@@ -187,6 +188,9 @@ void ListCombo::Complete(const QString& typed) {
     // The letters typed stay as they are; the rest of the entry follows, selected, so that typing goes on over it.
     Place(-1, typed + entry.mid(typed.size()));
     m_line->setSelection(static_cast<int>(typed.size()), static_cast<int>(entry.size() - typed.size()));
+    if (ChangeUntold) {
+      ChangeUntold();
+    }
   } else if (m_whole == WhenWhole::Select) {
     SelectEntry(found);
   }

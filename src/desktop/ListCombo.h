@@ -41,6 +41,8 @@ class ListCombo : public QComboBox {
   std::function<void()> Click;
   /// The text changed by typing or by `SetText`.
   std::function<void()> Change;
+  /// The text changed by hand without `Change`: the tail was added to it, or a deletion left it.
+  std::function<void()> ChangeUntold;
   /// What typing the whole of an entry does: select it, which runs its click, or leave it as text.
   enum class WhenWhole { Select, Leave };
   /// Completes what is typed with the first entry that begins with it, the added tail selected. After Backspace or

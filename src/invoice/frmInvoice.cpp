@@ -51,8 +51,6 @@ frmInvoice::~frmInvoice() {
 
 std::function<void()> frmInvoice::Doing(std::function<void()> handler) {
   return [this, handler = std::move(handler)] {
-    // An event inside another one, or inside the showing, finds values that the boxes don't show yet.
-    if (m_depth == 0 && !m_showing) CollectTexts();
     ++m_depth;
     // Also after an error, and before its box. It runs at the end of a scope, which no error may leave.
     const auto shown = qScopeGuard([this] {

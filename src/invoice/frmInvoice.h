@@ -64,7 +64,7 @@ class frmInvoice final : public Screen {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // Every handler runs through here: what the boxes hold is taken over before, what the rules changed is shown after.
+  // Every handler runs through here: what the rules changed is shown after it.
   void Do(const std::function<void()>& handler);
   std::function<void()> Doing(std::function<void()> handler);
   void Click(QAbstractButton* button, const std::function<void()>& handler,
@@ -89,7 +89,6 @@ class frmInvoice final : public Screen {
   void Bind(QCheckBox* box, bool& value);
   void Bind(ListCombo* combo, QString& value);
   void Bind(QWidget* control, const bool& value, void (QWidget::*set)(bool));
-  void CollectTexts();
   void ShowInvoice();
   void ShowCombo(ListCombo* combo, const ComboValue& value);
 

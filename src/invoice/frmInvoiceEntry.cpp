@@ -52,6 +52,10 @@ void frmInvoice::WireDescription(int element) {
     if (m_showing) return;
     Do([&] { TypeDescription(m_invoice, element, description->Text()); });
   };
+  // Else the next showing of the invoice, as for another line of the grid, would put the text before it back.
+  description->ChangeUntold = [this, element, description] {
+    m_invoice.Entry.cboDescription[static_cast<size_t>(element)] = {description->Text(), -1};
+  };
   description->Click = [this, element, description] {
     if (m_showing) return;
     Do([&] { SelectDescription(m_invoice, m_desk.Lists, element, description->ListIndex()); });

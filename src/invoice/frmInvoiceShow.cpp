@@ -160,14 +160,6 @@ void frmInvoice::BindPrintReady() {
   Bind(ui->fraDiscount, visible.fraDiscount, &QWidget::setVisible);
 }
 
-/// What the combo box completed, or what a deletion left of an entry, counts as typed.
-void frmInvoice::CollectTexts() {
-  for (int element = 0; element < 3; ++element) {
-    ComboValue& value = m_invoice.Entry.cboDescription[static_cast<size_t>(element)];
-    if (m_cboDescription[element]->ListIndex() < 0) value = {m_cboDescription[element]->Text(), -1};
-  }
-}
-
 void frmInvoice::ShowInvoice() {
   // Hiding a box that holds the focus runs its leaving, which may change values that were shown before.
   m_showAgain = m_showing;

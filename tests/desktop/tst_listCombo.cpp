@@ -174,6 +174,27 @@ class ListCombos : public QObject {
     QCOMPARE(bench.log, (QStringList{u"change p -1"_s, u"change pl -1"_s, u"change pla -1"_s}));
   }
 
+  void whatIsCompletedOrLeftByADeletionIsToldApartFromAChange() {
+    Bench bench;
+    bench.combo->SetAutoComplete(true);
+    bench.Fill({u"Plumbing"_s});
+    bench.combo->ChangeUntold = [&bench] {
+      bench.log.append(u"untold %1 %2"_s.arg(bench.combo->Text()).arg(bench.combo->ListIndex()));
+    };
+    bench.driver->Click(u"combo"_s);
+    bench.driver->Type(u"Pl"_s);
+    QCOMPARE(bench.log,
+             (QStringList{u"change P -1"_s, u"untold Plumbing -1"_s, u"change Pl -1"_s, u"untold Plumbing -1"_s}));
+    bench.log.clear();
+    bench.driver->PressKey(Qt::Key_Backspace);
+    QCOMPARE(bench.log, QStringList{u"untold Pl -1"_s});
+    // Neither a pick nor a text from code.
+    bench.log.clear();
+    bench.combo->SetText(u"P"_s);
+    bench.combo->SelectEntry(0);
+    QCOMPARE(bench.log, (QStringList{u"change P -1"_s, u"click 0"_s}));
+  }
+
   void theArrowKeysTakeWhatTheTypedTextCompletesTo_data() {
     QTest::addColumn<int>("key");
     QTest::newRow("Down") << int{Qt::Key_Down};

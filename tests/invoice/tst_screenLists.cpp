@@ -6,6 +6,36 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A manual line, which is current, and a service, whose row shuts the arrows; then an entry of the menu.
+void OpenBesideTwoLines(InvoiceBench& bench, const QString& entry) {
+  bench.OpenAtLines();
+  bench.PostManual(u"Crate"_s, u"2"_s, u"10"_s);
+  bench.On().Trigger(u"mnuServices"_s);
+  bench.On().PickEntry(u"cboDescription_0"_s, u"Cleaning"_s);
+  bench.On().Click(u"cmdPost_0"_s);
+  bench.On().SelectRow(u"fgInvoice"_s, 1, 1);
+  bench.On().Trigger(entry);
+}
+
+void ChooseSecondLine(const InvoiceBench& bench, bool byKey) {
+  if (byKey) {
+    bench.On().Control(u"fgInvoice"_s)->setFocus();
+    bench.On().PressKey(Qt::Key_Down);
+  } else {
+    bench.On().SelectRow(u"fgInvoice"_s, 2, 1);
+  }
+}
+
+void ByMouseAndByKey() {
+  QTest::addColumn<bool>("byKey");
+  QTest::newRow("click") << false;
+  QTest::newRow("arrow key") << true;
+}
+
+}  // namespace
+
 class ScreenLists : public QObject {
   Q_OBJECT
 
@@ -15,6 +45,11 @@ class ScreenLists : public QObject {
   void backspaceDoesNotComplete();
   void changingTheDescriptionBlanksPriceAndUnits();
   void aCompletedDescriptionCountsThoughItWasNotPicked();
+  void aCompletedDescriptionOutlivesTheChoiceOfALine_data() { ByMouseAndByKey(); }
+  void aCompletedDescriptionOutlivesTheChoiceOfALine();
+  void whatADeletionLeavesOutlivesTheChoiceOfALine_data();
+  void whatADeletionLeavesOutlivesTheChoiceOfALine();
+  void aCompletedDescriptionOutlivesTheReloadOfAnotherList();
   void theArrowKeyTakesTheCompletedEntryWithItsPrice_data();
   void theArrowKeyTakesTheCompletedEntryWithItsPrice();
   void aCategoryNarrowsTheItemsUntilAll();
@@ -76,6 +111,62 @@ void ScreenLists::aCompletedDescriptionCountsThoughItWasNotPicked() {
   bench.On().Click(u"cmdPost_0"_s);
   QCOMPARE(bench.Row(1)[1], u"Repair"_s);
   QCOMPARE(bench.Row(1)[3], u"$70.00"_s);
+}
+
+void ScreenLists::aCompletedDescriptionOutlivesTheChoiceOfALine() {
+  QFETCH(const bool, byKey);
+  InvoiceBench bench;
+  OpenBesideTwoLines(bench, u"mnuItems"_s);
+  QVERIFY(bench.On().IsEnabled(u"UpDown1_up"_s));
+  bench.On().Click(u"cboDescription_1"_s);
+  bench.On().Type(u"Ham"_s);
+  QCOMPARE(bench.Text(u"cboDescription_1"_s), u"Hammer"_s);
+  ChooseSecondLine(bench, byKey);
+  QCOMPARE(bench.Invoice.fgInvoice.Row(), 2);
+  QVERIFY(!bench.On().IsEnabled(u"UpDown1_up"_s));
+  QCOMPARE(bench.Text(u"cboDescription_1"_s), u"Hammer"_s);
+  bench.On().Fill(u"cboPrice_1"_s, u"11"_s);
+  bench.On().Fill(u"txtUnits"_s, u"2"_s);
+  bench.On().Click(u"cmdPost_1"_s);
+  QCOMPARE(bench.Row(3), (QStringList{u"2"_s, u"Hammer"_s, QString(), u"$11.00"_s, u"$22.00"_s, u"True"_s}));
+}
+
+void ScreenLists::whatADeletionLeavesOutlivesTheChoiceOfALine_data() {
+  QTest::addColumn<bool>("byKey");
+  QTest::addColumn<int>("key");
+  QTest::addColumn<QString>("left");
+  QTest::newRow("Backspace, click") << false << int{Qt::Key_Backspace} << u"Repai"_s;
+  QTest::newRow("Backspace, arrow key") << true << int{Qt::Key_Backspace} << u"Repai"_s;
+  QTest::newRow("Delete, click") << false << int{Qt::Key_Delete} << u"epair"_s;
+  QTest::newRow("Delete, arrow key") << true << int{Qt::Key_Delete} << u"epair"_s;
+}
+
+void ScreenLists::whatADeletionLeavesOutlivesTheChoiceOfALine() {
+  QFETCH(const bool, byKey);
+  QFETCH(const int, key);
+  QFETCH(const QString, left);
+  InvoiceBench bench;
+  OpenBesideTwoLines(bench, u"mnuServices"_s);
+  bench.On().PickEntry(u"cboDescription_0"_s, u"Repair"_s);
+  bench.On().PressKey(key == Qt::Key_Delete ? Qt::Key_Home : Qt::Key_End);
+  bench.On().PressKey(static_cast<Qt::Key>(key));
+  QCOMPARE(bench.Text(u"cboDescription_0"_s), left);
+  ChooseSecondLine(bench, byKey);
+  QCOMPARE(bench.Invoice.fgInvoice.Row(), 2);
+  QVERIFY(!bench.On().IsEnabled(u"UpDown1_up"_s));
+  QCOMPARE(bench.Text(u"cboDescription_0"_s), left);
+  // A deletion leaves the price.
+  QCOMPARE(bench.Text(u"cboPrice_0"_s), u"$80.00"_s);
+  bench.On().Click(u"cmdPost_0"_s);
+  QCOMPARE(bench.Row(3), (QStringList{QString(), left, u"3/7/2026"_s, u"$80.00"_s, u"$80.00"_s, u"False"_s}));
+}
+
+void ScreenLists::aCompletedDescriptionOutlivesTheReloadOfAnotherList() {
+  InvoiceBench bench;
+  bench.OpenAt(u"mnuServices"_s);
+  bench.On().Type(u"Rep"_s);
+  bench.Prices.LoadAdditionalItems();
+  QCOMPARE(bench.Text(u"cboDescription_0"_s), u"Repair"_s);
 }
 
 void ScreenLists::theArrowKeyTakesTheCompletedEntryWithItsPrice_data() {
