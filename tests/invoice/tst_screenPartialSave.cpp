@@ -53,6 +53,7 @@ class ScreenPartialSave : public QObject {
   void chargesDiscountCarrierTermsAndMemoAreNotSaved();
   void theShipToBlockIsSavedWhetherTickedOrNot();
   void commasAndQuotesStandAsTyped();
+  void blanksAroundADescriptionStandAndThoseAroundTheHeadDoNot();
   void noSavesNothingAndStays();
   void theBoxesAreYesAndNo();
   void aDraftIsPrintedWithoutADialogAndWithoutTotals();
@@ -126,6 +127,21 @@ void ScreenPartialSave::theShipToBlockIsSavedWhetherTickedOrNot() {
   bench.On().Click(u"cmdInvoice_0"_s);
   Save(bench);
   QVERIFY(bench.Tree.Bytes(Image).contains("\"62701\"\r\n\"Dock 4\"\r\n\"\"\r\n"));
+}
+
+void ScreenPartialSave::blanksAroundADescriptionStandAndThoseAroundTheHeadDoNot() {
+  InvoiceBench bench;
+  bench.Customer[0] = u"1001 "_s;
+  bench.Customer[1] = u" Acme Tools "_s;
+  bench.Open();
+  bench.On().Fill(u"txtReference"_s, u"  PO 5 "_s);
+  bench.On().Fill(u"txtShipto_6"_s, u" Ms Jones  "_s);
+  bench.On().Click(u"cmdInvoice_0"_s);
+  bench.PostManual(u"  Crate "_s, u"2"_s, u"10"_s);
+  Save(bench);
+  QCOMPARE(bench.Tree.Bytes(Image), "20260001\r\n1001\r\nAcme Tools\r\n3/7/2026\r\n" + Blocks +
+                                        "20260001\r\n1001\r\nPO 5\r\nMs Jones\r\n1\r\n"
+                                        "2\r\n  Crate \r\n3/7/2026\r\n$10.00\r\n$20.00\r\nFalse\r\n");
 }
 
 void ScreenPartialSave::commasAndQuotesStandAsTyped() {
