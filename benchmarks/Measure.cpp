@@ -44,7 +44,9 @@ void ReportHeading() {
 }
 
 void Report(const QString& operation, Pair milliseconds, double aim) {
-  std::printf("%-66s %8.2f ms %8.2f ms %8.2f %6.1f\n", qPrintable(operation), milliseconds.Work, milliseconds.Floor,
-              milliseconds.Work / milliseconds.Floor, aim);
+  std::printf("%-66s %8.2f ms %8.2f ms %8.2f", qPrintable(operation), milliseconds.Work, milliseconds.Floor,
+              milliseconds.Work / milliseconds.Floor);
+  if (aim > 0) std::printf(" %6.1f", aim);
+  std::printf("\n");
   std::fflush(stdout);
 }

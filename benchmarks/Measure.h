@@ -26,6 +26,6 @@ struct Failure : std::runtime_error {
 /// runs, before `Report`.
 void MustHold(bool held, const QString& what);
 
-/// One row: the operation, its time, its floor's time, their ratio, and the ratio that we aim at.
+/// One row: the operation, its time, its floor's time, their ratio, and the ratio that we aim at, 0 for none.
 void Report(const QString& operation, Pair milliseconds, double aim);
 void ReportHeading();

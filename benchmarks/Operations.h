@@ -5,8 +5,8 @@
 
 #include "desktop/SerialLine.h"
 
-/// Time to the first window, and memory beside it, over a bare window of the toolkit: each run is a process of its own,
-/// which `RunAsStarter` is.
+/// Time until the first window is painted and the event loop runs, and memory beside it, over a bare window of the
+/// toolkit and over one with a word in it: each run is a process of its own, which `RunAsStarter` is.
 void MeasureStart(const QString& ownProgramFile, const QString& fullTree);
 /// The part of a child process of `MeasureStart`; answers its exit code, or -1 where the arguments ask for none.
 int RunAsStarter(int argc, char* argv[]);

@@ -57,7 +57,8 @@ PortTable PortsOfThisMachine() {
 SerialLine::SerialLine(PortTable ports) : m_ports(std::move(ports)) {}
 
 SerialLine::~SerialLine() {
-  SetPortOpen(false);
+  // A call was hung up, and the line closed, before the program came here.
+  LetGo();
 }
 
 void SerialLine::SetCommPort(int port) {

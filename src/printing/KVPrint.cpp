@@ -62,8 +62,8 @@ QString KVPrint::TextOfFile(const QString& name, QString (ListReader::*read)()) 
     const QString text = (file.*read)();
     m_disk.CloseAllFiles();
     return text;
-  } catch (const RuntimeError&) {
-    m_disk.KeepBackupOf(name);
+  } catch (const RuntimeError& error) {
+    if (error.From() == RuntimeError::Origin::FileContent) m_disk.KeepBackupOf(name);
     throw;
   }
 }

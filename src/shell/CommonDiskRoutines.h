@@ -85,8 +85,9 @@ class CommonDiskRoutines {
 
   /// The exit backup: 18 files into /Backup, errors ignored file by file.
   void BackupDataFiles();
-  /// The exit backup passes the file over, until it is saved: it couldn't be read as what it must be, and the program
-  /// goes on, so that its end must not put the damaged file over the good copy.
+  /// This run's exit backup passes the file over, unless it is saved until then: it couldn't be read as what it must
+  /// be, and the program goes on, so that its end must not put the damaged file over the good copy. The next run has to
+  /// meet the damage anew.
   void KeepBackupOf(const QString& name);
 
  private:

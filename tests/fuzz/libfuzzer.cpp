@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <QCoreApplication>
 
+#include "fuzz/Corpus.h"
 #include "fuzz/MemoryTree.h"
 #include "fuzz/PictureReader.h"
 #include "fuzz/ReaderDesk.h"
@@ -21,6 +22,9 @@ struct Fuzzer {
     if (chosen == all.end()) qFatal("KARVEX_FUZZ_READER names no reader: \"%s\"", wanted.constData());
     Reader = *chosen;
     MemoryTree::KeepHere(Desk.Root());
+    // A call that the tree in memory doesn't know would have every load refused, and nothing found.
+    const QByteArray wrong = Desk.Run(Reader, CorpusOf(wanted).value(QStringLiteral("whole")));
+    if (Desk.Refused() > 0 || !wrong.isEmpty()) qFatal("%s doesn't load a whole file", wanted.constData());
   }
 
   ReaderTarget Reader;

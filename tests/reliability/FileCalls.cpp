@@ -125,7 +125,7 @@ int openat64(int folder, const char* path, int flags, ...) {
   return Opened(WatchedIn(folder, path), flags, [&] { return next(folder, path, flags, mode); });
 }
 
-/// Not taken: a fork has its parent's locks too, and the program that is started anew would wait for the one that
+/// Not taken: a fork has its parent's locks too, and a program that is started anew would be told of the one that
 /// waits.
 int flock(int, int) {
   return 0;
