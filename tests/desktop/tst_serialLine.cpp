@@ -172,6 +172,16 @@ class SerialLineTest : public QObject {
     QVERIFY(!m_line->PortOpen());
   }
 
+  void atTheEndOfTheProgramNoLineIsWaitedFor() {
+    Driver driver;
+    driver.Queued = -3;
+    played = &driver;
+    m_line->Output(u"AT\r"_s);
+    driver.Done.clear();
+    m_line.reset();
+    QCOMPARE(driver.Done, QStringList{u"thrown away"_s});
+  }
+
   void aLineThatTookAllIsClosedAsItIs() {
     Driver driver;
     SendWhileItStandsStill(driver);
