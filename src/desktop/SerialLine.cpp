@@ -57,7 +57,7 @@ PortTable PortsOfThisMachine() {
 SerialLine::SerialLine(PortTable ports) : m_ports(std::move(ports)) {}
 
 SerialLine::~SerialLine() {
-  // A call was hung up, and the line closed, before the program came here.
+  // What hangs up is sent by the dialer, which closes the line itself: what is left here is nothing to wait for.
   LetGo();
 }
 
