@@ -44,7 +44,14 @@ void ListCombo::TakeOverLine() {
   // The toolkit's own completer, and its habit of selecting an entry when the box is left, are not wanted.
   setCompleter(nullptr);
   disconnect(m_line, &QLineEdit::editingFinished, this, nullptr);
+  m_heard = m_line->text();
   connect(m_line, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
+  // What this box does to its own line, it does with its signals blocked.
+  connect(m_line, &QLineEdit::textChanged, this, [this] {
+    if (!signalsBlocked()) {
+      Replaced();
+    }
+  });
 }
 
 bool ListCombo::event(QEvent* event) {
@@ -63,6 +70,7 @@ void ListCombo::Place(int index, const QString& text) {
     const QSignalBlocker quietLine(m_line);
     m_line->setText(text);
   }
+  m_heard = text;
   update();
 }
 
@@ -176,6 +184,18 @@ void ListCombo::Edited(const QString& text) {
       Complete(Text());
     }
   });
+}
+
+/// An assistive program puts a whole text into the line without a key; a pick shows its entry there.
+void ListCombo::Replaced() {
+  const QString text = m_line->text();
+  if (text == m_heard) {
+    return;
+  }
+  m_heard = text;
+  if (ListIndex() < 0 || text != Entry(ListIndex())) {
+    RunInScreen(this, [this, text] { SetText(text); });
+  }
 }
 
 void ListCombo::Complete(const QString& typed) {

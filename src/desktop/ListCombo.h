@@ -39,7 +39,7 @@ class ListCombo : public QComboBox {
   /// A pick, by hand or by `SelectEntry`. An error of a pick by hand goes to the screen's guard; one that code started
   /// goes on to that code.
   std::function<void()> Click;
-  /// The text changed by typing or by `SetText`.
+  /// The text changed by typing, by `SetText`, or by an assistive program.
   std::function<void()> Change;
   /// The text changed by hand without `Change`: the tail was added to it, or a deletion left it.
   std::function<void()> ChangeUntold;
@@ -60,12 +60,14 @@ class ListCombo : public QComboBox {
  private:
   void TakeOverLine();
   void Edited(const QString& text);
+  void Replaced();
   void Complete(const QString& typed);
   /// The entry that a text typed so far would complete to; -1 where one is picked, or none begins so.
   int EntryInSight() const;
   void Place(int index, const QString& text);
 
   QPointer<QLineEdit> m_line;  ///< Before the entries: making them is an event of this box already.
+  QString m_heard;             ///< The text of the line as last put there, picked or typed.
   EntryModel* m_entries;
   bool m_sorted = false;
   bool m_autoComplete = false;

@@ -1,5 +1,6 @@
 // The lists of the screens: picks, typed texts, completion, sorted entries, and tens of thousands of them.
 #include <ctime>
+#include <QAccessible>
 
 #include "desktop/ListCombo.h"
 #include "support/BenchScreen.h"
@@ -193,6 +194,25 @@ class ListCombos : public QObject {
     bench.combo->SetText(u"P"_s);
     bench.combo->SelectEntry(0);
     QCOMPARE(bench.log, (QStringList{u"change P -1"_s, u"click 0"_s}));
+  }
+
+  void aTextPutIntoTheBoxByAnAssistiveProgramIsHeardAsTyped() {
+    Bench bench;
+    bench.combo->SetAutoComplete(true);
+    bench.Fill({u"One"_s, u"Two"_s});
+    QAccessibleInterface* line = QAccessible::queryAccessibleInterface(bench.combo->lineEdit());
+    QVERIFY(line != nullptr);
+    line->setText(QAccessible::Value, u"Tw"_s);
+    QCOMPARE(bench.log, QStringList{u"change Tw -1"_s});
+    QCOMPARE(bench.combo->Text(), u"Tw"_s);
+    // Over a picked entry too, which it no longer is.
+    bench.driver->PickEntry(u"combo"_s, u"Two"_s);
+    line->setText(QAccessible::Value, u"Twofold"_s);
+    QCOMPARE(bench.log, (QStringList{u"change Tw -1"_s, u"click 1"_s, u"change Twofold -1"_s}));
+    bench.driver->PickEntry(u"combo"_s, u"Two"_s);
+    line->setText(QAccessible::Value, QString());
+    QCOMPARE(bench.log.last(), u"change  -1"_s);
+    QCOMPARE(bench.combo->ListIndex(), -1);
   }
 
   void theArrowKeysTakeWhatTheTypedTextCompletesTo_data() {
