@@ -3,7 +3,7 @@
 
 #include <QtWidgets>
 
-#include "reliability/OneDay.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

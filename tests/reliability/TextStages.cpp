@@ -3,8 +3,8 @@
 #include <QtWidgets>
 
 #include "records/SoldItems.h"
-#include "reliability/OneDay.h"
 #include "support/CompletedImages.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 // The stages of the invoice's screen.
 #include <QtWidgets>
 
-#include "reliability/OneDay.h"
 #include "reliability/TextStages.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

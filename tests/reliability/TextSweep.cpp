@@ -3,7 +3,7 @@
 #include <QtWidgets>
 
 #include "reliability/AnyAnswer.h"
-#include "reliability/OneDay.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 using TextSweep::Stage;

@@ -2,8 +2,8 @@
 
 #include <QtTest>
 
-#include "reliability/OneDay.h"
 #include "support/CompletedImages.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,8 +5,8 @@
 
 #include "reliability/AnyAnswer.h"
 #include "reliability/MemoryDisk.h"
-#include "reliability/OneDay.h"
 #include "reliability/TextStages.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 using TextSweep::Stage;

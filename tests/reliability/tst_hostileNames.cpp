@@ -6,8 +6,8 @@
 
 #include "reliability/AnyAnswer.h"
 #include "reliability/MemoryDisk.h"
-#include "reliability/OneDay.h"
 #include "reliability/Surroundings.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

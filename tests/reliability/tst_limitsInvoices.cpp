@@ -6,8 +6,8 @@
 
 #include "records/SoldItems.h"
 #include "reliability/MemoryDisk.h"
-#include "reliability/OneDay.h"
 #include "support/CompletedImages.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +61,14 @@ void OpenRoutine(int option) {
   const ScreenDriver menu(u"frmStartup"_s);
   menu.Click(u"optMainMenuSub_%1"_s.arg(option));
   menu.Click(u"cmdGoto"_s);
+}
+
+/// The list of partial invoices, of one with so many lines.
+void OpenPartialInvoices(ProgramFixture& program, int lines) {
+  OneDay::Stock(program.Tree);
+  program.Tree.Write(Partial, PartialImage(lines));
+  QVERIFY(program.StartAtMenu());
+  OpenRoutine(1);
 }
 
 void AddRows(const QList<int>& counts) {
@@ -124,10 +132,7 @@ void LimitsInvoices::moreLinesThanACountHoldsAreTold() {
 void LimitsInvoices::aPartialInvoiceIsRecalledWithItsLines() {
   QFETCH(const int, count);
   ProgramFixture program;
-  OneDay::Stock(program.Tree);
-  program.Tree.Write(Partial, PartialImage(count));
-  QVERIFY(program.StartAtMenu());
-  OpenRoutine(1);
+  OpenPartialInvoices(program, count);
   program.Answers.Ok({}, u"Partial Invoice Loaded"_s);
   ScreenDriver(u"frmIncomplete"_s).DoubleClickRow(u"fgIncomplete"_s, 1);
   QCOMPARE(Column(u"frmInvoice"_s, u"fgInvoice"_s, 1), Crates(count));
@@ -151,10 +156,7 @@ void LimitsInvoices::aPartialInvoiceIsRecalledWithItsLines() {
 void LimitsInvoices::aPartialInvoiceOfMoreLinesThanTheGridHoldsIsTold() {
   QFETCH(const int, count);
   ProgramFixture program;
-  OneDay::Stock(program.Tree);
-  program.Tree.Write(Partial, PartialImage(count));
-  QVERIFY(program.StartAtMenu());
-  OpenRoutine(1);
+  OpenPartialInvoices(program, count);
   program.Answers.Ok();
   ScreenDriver(u"frmIncomplete"_s).DoubleClickRow(u"fgIncomplete"_s, 1);
   const QString text = program.Answers.Last().Text;

@@ -4,9 +4,9 @@
 #include <QScopeGuard>
 #include <QtTest>
 
-#include "reliability/FileCalls.h"
 #include "support/DataFolder.h"
 #include "support/ErrorOf.h"
+#include "torture/FileCalls.h"
 
 using namespace Qt::StringLiterals;
 

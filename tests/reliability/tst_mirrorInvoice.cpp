@@ -4,8 +4,8 @@
 #include <QtWidgets>
 
 #include "reliability/MemoryDisk.h"
-#include "reliability/OneDay.h"
 #include "reliability/TwoCopies.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,8 +5,8 @@
 
 #include "records/SoldItems.h"
 #include "reliability/MemoryDisk.h"
-#include "reliability/OneDay.h"
 #include "reliability/TwoCopies.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

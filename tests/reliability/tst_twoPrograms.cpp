@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "reliability/MemoryDisk.h"
-#include "reliability/OneDay.h"
+#include "support/OneDay.h"
 
 using namespace Qt::StringLiterals;
 

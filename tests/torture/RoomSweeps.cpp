@@ -2,8 +2,8 @@
 #include <cerrno>
 #include <set>
 
-#include "reliability/SmallDisk.h"
-#include "reliability/Sweeps.h"
+#include "torture/SmallDisk.h"
+#include "torture/Sweeps.h"
 
 using namespace Qt::StringLiterals;
 using FileCalls::Harm;

@@ -1,7 +1,7 @@
 // The calls of the C library that touch files, in place of its own: each one asks the plan first and then does what it
 // always did. A flush that is looked after isn't done: what a killed process has written is the system's already, and
 // whether it was asked for is what the notes tell.
-#include "reliability/FileCalls.h"
+#include "torture/FileCalls.h"
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -11,7 +11,7 @@
 #include <unistd.h>
 #include <cstdarg>
 
-#include "reliability/FileCallsPlan.h"
+#include "torture/FileCallsPlan.h"
 
 using namespace FileCalls;
 

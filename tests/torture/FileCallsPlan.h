@@ -5,7 +5,7 @@
 #include <cerrno>
 #include <string>
 
-#include "reliability/FileCalls.h"
+#include "torture/FileCalls.h"
 
 namespace FileCalls {
 

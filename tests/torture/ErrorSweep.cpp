@@ -2,7 +2,7 @@
 #include <cerrno>
 #include <set>
 
-#include "reliability/Sweeps.h"
+#include "torture/Sweeps.h"
 
 using namespace Qt::StringLiterals;
 using FileCalls::Harm;

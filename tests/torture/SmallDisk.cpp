@@ -1,4 +1,4 @@
-#include "reliability/SmallDisk.h"
+#include "torture/SmallDisk.h"
 
 #include <sched.h>
 #include <sys/mount.h>
@@ -7,7 +7,7 @@
 #include <QByteArray>
 #include <QFile>
 
-#include "reliability/FileCalls.h"
+#include "torture/FileCalls.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "reliability/Desk.h"
+#include "torture/Desk.h"
 
 #include <cstdio>
 #include <QAbstractButton>
@@ -12,7 +12,7 @@
 #include <QTimer>
 
 #include "desktop/Style.h"
-#include "reliability/FileCalls.h"
+#include "torture/FileCalls.h"
 
 using namespace Qt::StringLiterals;
 

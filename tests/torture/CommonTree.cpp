@@ -1,6 +1,6 @@
 #include "customers/CustomerRecords.h"
-#include "reliability/Saves.h"
 #include "support/InvoiceBench.h"
+#include "torture/Saves.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,9 @@
 // What is saved around the paper: the logo, the memo of a reprint, and the PDF files of print jobs.
 #include <QTabWidget>
 
-#include "reliability/Desk.h"
-#include "reliability/Saves.h"
 #include "support/CompletedImages.h"
+#include "torture/Desk.h"
+#include "torture/Saves.h"
 
 using namespace Qt::StringLiterals;
 

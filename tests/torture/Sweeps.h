@@ -8,7 +8,7 @@
 #include <QSet>
 #include <QStringList>
 
-#include "reliability/Bench.h"
+#include "torture/Bench.h"
 
 /// How much of a sweep is done: all of its cases, or an even sample of them.
 class Effort {

@@ -3,9 +3,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "reliability/Desk.h"
-#include "reliability/Saves.h"
 #include "support/TestDialogs.h"
+#include "torture/Desk.h"
+#include "torture/Saves.h"
 
 using namespace Qt::StringLiterals;
 

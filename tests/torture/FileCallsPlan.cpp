@@ -1,4 +1,4 @@
-#include "reliability/FileCallsPlan.h"
+#include "torture/FileCallsPlan.h"
 
 #include <fcntl.h>
 #include <signal.h>

@@ -1,4 +1,4 @@
-#include "reliability/DataTree.h"
+#include "torture/DataTree.h"
 
 #include <QDir>
 #include <QDirIterator>

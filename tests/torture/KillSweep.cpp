@@ -2,7 +2,7 @@
 #include <set>
 #include <utility>
 
-#include "reliability/Sweeps.h"
+#include "torture/Sweeps.h"
 
 using namespace Qt::StringLiterals;
 using FileCalls::Harm;

@@ -6,8 +6,8 @@
 #include <QString>
 #include <vector>
 
-#include "reliability/DataTree.h"
 #include "support/ScreenDriver.h"
+#include "torture/DataTree.h"
 
 class Desk;
 

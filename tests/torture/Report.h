@@ -1,7 +1,7 @@
 /// How a try tells what it saw: a file beside the tree.
 #pragma once
 
-#include "reliability/Bench.h"
+#include "torture/Bench.h"
 
 void WriteReport(const QString& file, const Outcome& outcome);
 /// False if there is none.

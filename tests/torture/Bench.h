@@ -8,9 +8,9 @@
 #include <sys/types.h>
 #include <vector>
 
-#include "reliability/DataTree.h"
-#include "reliability/FileCalls.h"
-#include "reliability/Saves.h"
+#include "torture/DataTree.h"
+#include "torture/FileCalls.h"
+#include "torture/Saves.h"
 
 /// What became of one try.
 struct Outcome {

@@ -1,4 +1,4 @@
-#include "reliability/Report.h"
+#include "torture/Report.h"
 
 #include <QDataStream>
 #include <QFile>

@@ -5,9 +5,9 @@
 #include <QTabWidget>
 
 #include "records/SoldItems.h"
-#include "reliability/Desk.h"
-#include "reliability/Saves.h"
 #include "support/CompletedImages.h"
+#include "torture/Desk.h"
+#include "torture/Saves.h"
 
 using namespace Qt::StringLiterals;
 

@@ -17,8 +17,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "reliability/SmallDisk.h"
-#include "reliability/Sweeps.h"
+#include "torture/SmallDisk.h"
+#include "torture/Sweeps.h"
 
 using namespace Qt::StringLiterals;
 using std::chrono::steady_clock;

@@ -2,8 +2,8 @@
 #include <QTableView>
 #include <QtEndian>
 
-#include "reliability/Desk.h"
-#include "reliability/Saves.h"
+#include "torture/Desk.h"
+#include "torture/Saves.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "reliability/Bench.h"
+#include "torture/Bench.h"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -7,9 +7,9 @@
 #include <QFile>
 #include <QtTest>
 
-#include "reliability/Desk.h"
-#include "reliability/Report.h"
-#include "reliability/SmallDisk.h"
+#include "torture/Desk.h"
+#include "torture/Report.h"
+#include "torture/SmallDisk.h"
 
 using namespace Qt::StringLiterals;
 
