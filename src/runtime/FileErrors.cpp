@@ -76,7 +76,11 @@ void RaiseLinkedFolder(const QString& path) {
 
 void CheckNoLink(const QString& path) {
   struct stat status;
-  if (::lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISLNK(status.st_mode)) RaiseLinkedFolder(path);
+  if (::lstat(QFile::encodeName(path).constData(), &status) == 0) {
+    if (S_ISLNK(status.st_mode)) RaiseLinkedFolder(path);
+  } else if (!MeansAbsent(errno)) {
+    RaiseFileError(-errno, path);
+  }
 }
 
 void CheckFolder(qint64 result, const QString& path) {

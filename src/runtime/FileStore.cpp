@@ -77,6 +77,11 @@ QByteArray ReadUpTo(FileDevice& device, int descriptor, qint64 size, qint64 offs
   return bytes;
 }
 
+/// Refused by its name, and not by memory that runs out while it is read.
+[[noreturn]] void RaiseTooLarge(const QString& path) {
+  throw RuntimeError::AtPath(ErrorNumber::Overflow, path, u"The file is larger than any that the program can read."_s);
+}
+
 /// Whether what the checked writer is writing, or left where it was killed, counts as a file.
 enum class Unfinished { Skipped, Listed };
 
@@ -164,11 +169,7 @@ bool FileStore::AnyMatch(const QString& folder, const QString& wildcard) const {
 
 QByteArray FileStore::ReadWhole(const QString& path) const {
   const qint64 size = Size(path);
-  // Refused by its name, and not by memory that runs out while it is read.
-  if (size > LargestWholeFile) {
-    throw RuntimeError::AtPath(ErrorNumber::Overflow, path,
-                               u"The file is larger than any that the program can read."_s);
-  }
+  if (size > LargestWholeFile) RaiseTooLarge(path);
   return ReadPart(path, 0, size);
 }
 
@@ -187,21 +188,22 @@ QByteArray FileStore::ReadLines(const QString& path, int lines) const {
   QByteArray bytes;
   qsizetype end = 0;  // Behind the last line found.
   int found = 0;
-  while (true) {
+  while (found < lines) {
     const qsizetype before = bytes.size();
-    bytes.resize(before + chunk);
-    const qint64 got = m_device.Read(descriptor, bytes.data() + before, chunk, before);
+    if (before > LargestWholeFile) RaiseTooLarge(path);
+    // As much again as was read so far: a long line isn't read in thousands of pieces.
+    const qint64 wanted = std::min(std::max<qint64>(chunk, before), LargestWholeFile + 1 - before);
+    bytes.resize(before + wanted);
+    const qint64 got = m_device.Read(descriptor, bytes.data() + before, wanted, before);
     CheckFile(got, path);
     bytes.truncate(before + got);
-    while (found < lines) {
-      const qsizetype feed = bytes.indexOf('\n', end);
-      if (feed < 0) break;
-      end = feed + 1;
-      ++found;
-    }
-    if (found == lines) break;
     // The last line may have no end.
     if (got == 0) return bytes;
+    for (qsizetype from = before; found < lines; ++found) {
+      const qsizetype feed = bytes.indexOf('\n', from);
+      if (feed < 0) break;
+      end = from = feed + 1;
+    }
   }
   bytes.truncate(end);
   return bytes;

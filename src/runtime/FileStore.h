@@ -39,7 +39,8 @@ class FileStore {
 
   /// Error 6 above `LargestWholeFile`.
   QByteArray ReadWhole(const QString& path) const;
-  /// The first `lines` lines with their ends, without reading the rest; fewer where the file has fewer.
+  /// The first `lines` lines with their ends, without reading the rest; fewer where the file has fewer. Error 6 where
+  /// they are longer than `LargestWholeFile`.
   QByteArray ReadLines(const QString& path, int lines) const;
   /// Up to `size` bytes from `offset`; fewer at the end of the file.
   QByteArray ReadPart(const QString& path, qint64 offset, qint64 size) const;

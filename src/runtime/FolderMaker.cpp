@@ -4,6 +4,8 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+
+#include <cerrno>
 #include <QFile>
 
 #include "runtime/FileDevice.h"
@@ -26,11 +28,15 @@ QByteArray FolderMaker::Encoded(const QString& name) {
 }
 
 void FolderMaker::Make(const QByteArray& name) {
+  const auto path = [&] { return QString(m_parent + u'/' + QFile::decodeName(name)); };
   struct stat status;
   if (::fstatat(m_folder, name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
     if (S_ISDIR(status.st_mode)) return;
     // What would be made in it would lie elsewhere.
-    if (S_ISLNK(status.st_mode)) RaiseLinkedFolder(m_parent + u'/' + QFile::decodeName(name));
+    if (S_ISLNK(status.st_mode)) RaiseLinkedFolder(path());
+  } else if (errno != ENOENT) {
+    CheckFolder(-errno, path());
   }
-  CheckFolder(m_device.MakeFolderIn(m_folder, name.constData()), m_parent + u'/' + QFile::decodeName(name));
+  const int made = m_device.MakeFolderIn(m_folder, name.constData());
+  if (made < 0) CheckFolder(made, path());
 }

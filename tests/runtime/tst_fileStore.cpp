@@ -51,6 +51,15 @@ class FileStoreTest : public QObject {
     QCOMPARE(ErrorOf([&] { m_store.Copy(Path(u"/huge.txt"_s), Path(u"/copy.txt"_s)); }), 6);
     QVERIFY(!m_tree->Exists(u"/copy.txt"_s));
     QCOMPARE(m_store.ReadPart(Path(u"/huge.txt"_s), LargestWholeFile, 8), QByteArray(1, '\0'));
+    // Nor are its first lines read, where they have no end. Looked through again for each piece that is read, it would
+    // last hours.
+    const RuntimeError endless = CaughtFrom([&] { m_store.ReadLines(Path(u"/huge.txt"_s), 1); });
+    QCOMPARE(endless.Number(), 6);
+    QCOMPARE(endless.Subject(), Path(u"/huge.txt"_s));
+    QCOMPARE(endless.Text(), u"The file is larger than any that the program can read."_s);
+    // As long as the longest, it is read.
+    QCOMPARE(::truncate(QFile::encodeName(Path(u"/huge.txt"_s)).constData(), LargestWholeFile), 0);
+    QCOMPARE(m_store.ReadLines(Path(u"/huge.txt"_s), 1).size(), LargestWholeFile);
   }
 
   void aFileIsReadWholeOrInPart() {

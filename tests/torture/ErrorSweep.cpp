@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <cerrno>
+#include <limits>
+#include <QRegularExpression>
 #include <set>
 
 #include "torture/Sweeps.h"
@@ -49,6 +51,17 @@ QString Sweep::JudgePublished(const Note& harmed, const Outcome& outcome) const 
   return u"  %1 was published after its writing failed\n"_s.arg(name);
 }
 
+/// Every file's name begins with the root's: it is the root alone that is to be named, or a file that the save touches.
+bool Sweep::NamesTheRootOrAFileInIt(const QStringList& told) const {
+  const QRegularExpression alone(QRegularExpression::escape(m_bench.Root()) + u"(?!/)"_s);
+  const QSet<QString> touched =
+      ChangedBefore(m_bench.Unharmed().Notes, std::numeric_limits<int>::max(), m_bench.Root());
+  return std::any_of(told.begin(), told.end(), [&](const QString& box) {
+    return box.contains(alone) || std::any_of(touched.begin(), touched.end(),
+                                              [&](const QString& name) { return box.contains(m_bench.Root() + name); });
+  });
+}
+
 QString Sweep::JudgeTelling(const Outcome& outcome) const {
   const QStringList told = FailuresOf(outcome.Boxes);
   const bool mustTell = m_bench.What().Tells == Save::Telling::Box;
@@ -70,7 +83,8 @@ QString Sweep::JudgeTelling(const Outcome& outcome) const {
     }
   }
   for (const QString& path : outcome.HarmedPaths) {
-    if (names(FileOf(path)) || names(FileOf(path).sliced(m_bench.Root().size()))) return {};
+    const QString name = FileOf(path).sliced(m_bench.Root().size());
+    if (name.isEmpty() ? NamesTheRootOrAFileInIt(told) : names(FileOf(path)) || names(name)) return {};
   }
   return u"  %1 isn't named: %2\n"_s.arg(FileOf(outcome.Harmed.Path), told.join(u" | "));
 }
@@ -156,8 +170,6 @@ void Sweep::Errors() {
     ++m_findings.Counts[u"errors"_s];
     Fail(one.What, one.Name);
   };
-  Effort all = m_effort;
-  all.Every = 1;
-  all.Sample(static_cast<int>(cases.size()), [&](int i) { run(cases[static_cast<std::size_t>(i)]); });
+  m_effort.Each(static_cast<int>(cases.size()), [&](int i) { run(cases[static_cast<std::size_t>(i)]); });
   m_effort.Sample(static_cast<int>(others.size()), [&](int i) { run(others[static_cast<std::size_t>(i)]); });
 }

@@ -70,17 +70,6 @@ int FlushThrough(int (*next)(int), int descriptor) {
   return 0;
 }
 
-template <typename Entry>
-Entry* ListThrough(Entry* (*next)(DIR*), DIR* listing) {
-  const std::string path = WatchedOpen(::dirfd(listing));
-  if (path.empty()) return next(listing);
-  if (const int error = Enter(Kind::List, path)) {
-    errno = error;
-    return nullptr;
-  }
-  return next(listing);
-}
-
 int ModeOf(int flags, va_list arguments) {
   return (flags & O_CREAT) != 0 ? va_arg(arguments, int) : 0;
 }
@@ -235,33 +224,19 @@ int stat(const char* path, struct stat* status) noexcept {
   return Through(Kind::Look, Watched(path), {}, [&] { return next(path, status); });
 }
 
-DIR* opendir(const char* path) {
-  static auto* const next = Next<DIR*(const char*)>("opendir");
-  const std::string watched = Watched(path);
-  if (watched.empty()) return next(path);
-  if (const int error = Enter(Kind::List, watched)) {
-    errno = error;
-    return nullptr;
-  }
-  DIR* const listing = next(path);
-  if (listing != nullptr) Remember(::dirfd(listing), watched);
-  return listing;
+int lstat(const char* path, struct stat* status) noexcept {
+  static auto* const next = Next<int(const char*, struct stat*)>("lstat");
+  return Through(Kind::Look, Watched(path), {}, [&] { return next(path, status); });
 }
 
-int closedir(DIR* listing) {
-  static auto* const next = Next<int(DIR*)>("closedir");
-  if (!WatchedOpen(::dirfd(listing)).empty()) Forget(::dirfd(listing));
-  return next(listing);
+int fstatat(int folder, const char* path, struct stat* status, int flags) noexcept {
+  static auto* const next = Next<int(int, const char*, struct stat*, int)>("fstatat");
+  return Through(Kind::Look, WatchedIn(folder, path), {}, [&] { return next(folder, path, status, flags); });
 }
 
-struct dirent* readdir(DIR* listing) {
-  static auto* const next = Next<struct dirent*(DIR*)>("readdir");
-  return ListThrough(next, listing);
-}
-
-struct dirent64* readdir64(DIR* listing) {
-  static auto* const next = Next<struct dirent64*(DIR*)>("readdir64");
-  return ListThrough(next, listing);
+ssize_t getdents64(int folder, void* entries, size_t size) noexcept {
+  static auto* const next = Next<ssize_t(int, void*, size_t)>("getdents64");
+  return Through(Kind::List, WatchedOpen(folder), {}, [&] { return next(folder, entries, size); });
 }
 
 }  // extern "C"

@@ -40,7 +40,7 @@ bool Changes(FileCalls::Kind kind) {
 void Effort::Sample(int count, const std::function<void(int)>& work) const {
   // From coarse to fine: whenever the time is over, what was done is spread over all of it.
   QSet<int> done;
-  int stride = 1;
+  int stride = Every;
   while (stride < count) stride *= 2;
   for (; stride >= Every; stride /= 2) {
     for (int i = 0; i < count; i += stride) {
@@ -51,6 +51,12 @@ void Effort::Sample(int count, const std::function<void(int)>& work) const {
     }
     if (stride == 1) break;
   }
+}
+
+void Effort::Each(int count, const std::function<void(int)>& work) const {
+  Effort each = *this;
+  each.Every = 1;
+  each.Sample(count, work);
 }
 
 void Findings::Add(const Bench& bench, const QString& what, const QString& lines) {
@@ -125,9 +131,7 @@ void Sweep::Kill() {
     }
   }
   // A kill is quick; it is the restarts that a sample spares.
-  Effort all = m_effort;
-  all.Every = 1;
-  all.Sample(static_cast<int>(cases.size()), [&](int i) {
+  m_effort.Each(static_cast<int>(cases.size()), [&](int i) {
     const Case& one = cases[static_cast<std::size_t>(i)];
     KillOnce(one.What, one.Name);
   });

@@ -20,6 +20,8 @@ class Effort {
   bool IsOver() const { return std::chrono::steady_clock::now() >= Deadline; }
   /// Calls `work` with numbers below `count`, evenly spread from the first on, until the time is over.
   void Sample(int count, const std::function<void(int)>& work) const;
+  /// For what no sample leaves out: calls it with every number below `count`, until the time is over.
+  void Each(int count, const std::function<void(int)>& work) const;
 };
 
 /// What the sweeps of one save found.
@@ -57,6 +59,7 @@ class Sweep {
   void StartAgain(const DataTree& left, const QString& what);
   void Fail(const FileCalls::Plan& plan, const QString& what);
   QString JudgeFailure(const FileCalls::Plan& plan, const Outcome& outcome) const;
+  bool NamesTheRootOrAFileInIt(const QStringList& told) const;
   QString JudgeTelling(const Outcome& outcome) const;
   QString JudgeDone(const DataTree& files) const;
   QString JudgePublished(const FileCalls::Note& harmed, const Outcome& outcome) const;
