@@ -89,6 +89,17 @@ QString Sweep::JudgeTelling(const Outcome& outcome) const {
   return u"  %1 isn't named: %2\n"_s.arg(FileOf(outcome.Harmed.Path), told.join(u" | "));
 }
 
+/// What the call was about, below the root; of a look at a folder the file that was to be changed in it.
+QString Sweep::FileAtStake(const Note& harmed) const {
+  if (harmed.What == Kind::Look) {
+    for (const Note& note : m_bench.Unharmed().Notes) {
+      if (note.Nth <= harmed.Nth || !note.Path.starts_with(harmed.Path + '/')) continue;
+      for (const QString& name : ChangedBy(note, m_bench.Root())) return FileOf(name);
+    }
+  }
+  return FileOf(harmed.Path).sliced(m_bench.Root().size());
+}
+
 QString Sweep::JudgeFailure(const Plan& plan, const Outcome& outcome) const {
   if (!outcome.Broken.isEmpty()) return u"  "_s + outcome.Broken + u'\n';
   if (outcome.Harmed.Nth == 0) return u"  nothing was harmed\n"_s;
@@ -102,7 +113,7 @@ QString Sweep::JudgeFailure(const Plan& plan, const Outcome& outcome) const {
   if (files == m_bench.After()) return lines;
 
   const QSet<QString> before = ChangedBefore(m_bench.Unharmed().Notes, outcome.Harmed.Nth, m_bench.Root());
-  const QString harmed = FileOf(outcome.Harmed.Path).sliced(m_bench.Root().size());
+  const QString harmed = FileAtStake(outcome.Harmed);
   const QSet<QString> all = KeysOf(m_bench.Before()).unite(KeysOf(m_bench.After()));
   for (const QString& name : all) {
     const bool old = files.value(name) == m_bench.Before().value(name);

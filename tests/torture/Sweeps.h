@@ -59,6 +59,7 @@ class Sweep {
   void StartAgain(const DataTree& left, const QString& what);
   void Fail(const FileCalls::Plan& plan, const QString& what);
   QString JudgeFailure(const FileCalls::Plan& plan, const Outcome& outcome) const;
+  QString FileAtStake(const FileCalls::Note& harmed) const;
   bool NamesTheRootOrAFileInIt(const QStringList& told) const;
   QString JudgeTelling(const Outcome& outcome) const;
   QString JudgeDone(const DataTree& files) const;
