@@ -58,7 +58,8 @@ class Catalogue {
   /// Puts cells into the current row of a grid (`modifyMode`) or into a row added for them. Throws RuntimeError 9
   /// where there is no current row to modify.
   void PutRow(CatalogueList list, bool modifyMode, const QStringList& cells);
-  /// Removes the current row and saves; the only row goes together with its file. Nothing without a current row.
+  /// Removes the current row and saves; the only row goes together with its file. Nothing without a current row. Where
+  /// a file can't be saved the row stays, and stays the current one; of a grid beyond the limit it goes all the same.
   void DeleteRow(CatalogueList list);
 
   /// Offers a category unless it is offered already; case counts. `lstCategories` gets the category of the item
@@ -89,6 +90,8 @@ class Catalogue {
   RecordBuffer ReadFile(CatalogueList list);
   void ClearItemLists();
   void RequireRoom(CatalogueList list);
+  void SaveLists();
+  void LoadLists();
   void SaveList(CatalogueList list);
   QByteArray ServiceBytes(int row) const;
   QByteArray ItemBytes(int row) const;

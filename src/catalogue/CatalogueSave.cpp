@@ -33,7 +33,15 @@ bool HoldsNothing(const TextMatrix& grid) {
 
 void Catalogue::SaveCatalogue() {
   for (const CatalogueList list : AllCatalogueLists) RequireRoom(list);
+  SaveLists();
+  LoadLists();
+}
+
+void Catalogue::SaveLists() {
   for (const CatalogueList list : AllCatalogueLists) SaveList(list);
+}
+
+void Catalogue::LoadLists() {
   if (m_disk.FileExists(CatalogueFile::Services())) LoadServices();
   if (m_disk.FileExists(CatalogueFile::Items())) LoadAdditionalItems();
   if (m_disk.FileExists(CatalogueFile::Custom())) LoadCustomItems();
@@ -121,8 +129,19 @@ void Catalogue::DeleteRow(CatalogueList list) {
   const int row = grid.Row();
   if (row < 1) return;
   if (grid.Rows() > 2) {
-    grid.RemoveItem(row);
-    SaveCatalogue();
+    const QStringList deleted = grid.RemoveItem(row);
+    for (const CatalogueList each : AllCatalogueLists) RequireRoom(each);
+    try {
+      SaveLists();
+    } catch (const RuntimeError&) {
+      // Delete is still live: pressed again it must not hit the row behind.
+      grid.InsertItem(row, deleted);
+      grid.SetRow(row);
+      throw;
+    }
+    // As a loaded grid has it, should the load fail.
+    grid.SetRow(0);
+    LoadLists();
     return;
   }
   m_disk.KillWithBackup(CatalogueFileOf(list));

@@ -147,14 +147,25 @@ void TextMatrix::SetCol(int col) {
   m_col = col;
 }
 
-void TextMatrix::RemoveItem(int row) {
+QStringList TextMatrix::RemoveItem(int row) {
   Require(row, 0);
   if (row == 0) throw NoSuch(u"row"_s, row);
   beginRemoveRows({}, row - 1, row - 1);
+  const QStringList texts = std::move(m_cells[static_cast<size_t>(row)]);
   m_cells.erase(m_cells.begin() + row);
   --m_rows;
   endRemoveRows();
   if (m_row >= m_rows) SetRow(m_rows - 1);
+  return texts;
+}
+
+void TextMatrix::InsertItem(int row, const QStringList& texts) {
+  if (row < 1 || row > m_rows) throw NoSuch(u"row"_s, row);
+  if (texts.size() != m_cols) throw NoSuch(u"column"_s, static_cast<int>(texts.size()));
+  beginInsertRows({}, row - 1, row - 1);
+  m_cells.insert(m_cells.begin() + row, texts);
+  ++m_rows;
+  endInsertRows();
 }
 
 void TextMatrix::SwapRows(int a, int b, int columnCount) {

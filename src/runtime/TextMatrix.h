@@ -26,7 +26,9 @@ class TextMatrix : public QAbstractTableModel {
   void SetRow(int row);
   int Col() const { return m_col; }
   void SetCol(int col);
-  void RemoveItem(int row);
+  QStringList RemoveItem(int row);  ///< The texts that it had.
+  /// Before that row, or behind the last. The current row keeps its number, as with a row that goes.
+  void InsertItem(int row, const QStringList& texts);
   /// Swaps the texts of two rows, columns 0 to `columnCount` - 1.
   void SwapRows(int a, int b, int columnCount);
   void Clear();  ///< Blanks every data cell.

@@ -82,6 +82,9 @@ class CatalogueSaves : public QObject {
   void deletingARowSavesAtOnce();
   void deletingTheOnlyRowKillsTheFileAlone();
   void deletingWithoutACurrentRowDoesNothing();
+  void aDeleteThatCannotBeSavedLeavesItsRowTheCurrentOne();
+  void aDeleteWhoseReloadFailsLeavesNoCurrentRow();
+  void aDeleteTakesItsRowOutOfAnOverfullListThoughNothingIsSaved();
   void aTypedCategoryIsOfferedAndTheInvoiceListGetsTheRecordLastRead();
   void anEmptyCategoryIsNotOffered();
   void oneCategoryNarrowsTheItemListAndItsBreaks();
@@ -365,6 +368,58 @@ void CatalogueSaves::deletingWithoutACurrentRowDoesNothing() {
   tree.Catalog.DeleteRow(CatalogueList::Services);
   QCOMPARE(tree.Catalog.fgServices.Rows(), 3);
   QCOMPARE(tree.Read(Services), Service("old"));
+}
+
+void CatalogueSaves::aDeleteThatCannotBeSavedLeavesItsRowTheCurrentOne() {
+  for (const int row : {1, 2, 3}) {
+    // The file of the list itself, and one behind it.
+    for (const int write : {1, 2}) {
+      FailingDevice device;
+      CatalogueTree tree(device);
+      for (const QString& name : {u"a"_s, u"b"_s, u"c"_s}) AddService(tree, name);
+      AddCustom(tree, u"d"_s);
+      tree.Write(Services, "old");
+      tree.Catalog.fgServices.SetRow(row);
+      device.FailAt(FailingDevice::Call::Write, write, ENOSPC);
+      QCOMPARE(ErrorOf([&] { tree.Catalog.DeleteRow(CatalogueList::Services); }), 61);
+      QCOMPARE(Column(tree.Catalog.fgServices, 0), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+      QCOMPARE(tree.Catalog.fgServices.Text(row, 1), u"$1.00"_s);
+      QCOMPARE(tree.Catalog.fgServices.Row(), row);
+      if (write == 1) QCOMPARE(tree.Read(Services), QByteArray("old"));
+      QVERIFY(!tree.Has(Custom));
+      device.Reset();
+      tree.Catalog.DeleteRow(CatalogueList::Services);
+      QByteArray others;
+      for (const char* name : {"a", "b", "c"}) {
+        if (*name != 'a' + row - 1) others += Service(name);
+      }
+      QCOMPARE(tree.Read(Services), others);
+      QCOMPARE(tree.Read(Custom), CustomItem("d"));
+    }
+  }
+}
+
+void CatalogueSaves::aDeleteWhoseReloadFailsLeavesNoCurrentRow() {
+  FailingDevice device;
+  CatalogueTree tree(device);
+  for (const QString& name : {u"a"_s, u"b"_s, u"c"_s}) AddService(tree, name);
+  tree.Catalog.fgServices.SetRow(1);
+  device.FailAt(FailingDevice::Call::Read, 1, EIO);
+  QVERIFY(ErrorOf([&] { tree.Catalog.DeleteRow(CatalogueList::Services); }) != 0);
+  QCOMPARE(tree.Read(Services), Service("b") + Service("c"));
+  QCOMPARE(Column(tree.Catalog.fgServices, 0), (QStringList{u"b"_s, u"c"_s}));
+  QCOMPARE(tree.Catalog.fgServices.Row(), 0);
+}
+
+void CatalogueSaves::aDeleteTakesItsRowOutOfAnOverfullListThoughNothingIsSaved() {
+  CatalogueTree tree;
+  for (int i = 0; i < 257; ++i) AddCustom(tree, u"c"_s);
+  tree.Catalog.fgCustom.SetRow(1);
+  QCOMPARE(ErrorOf([&] { tree.Catalog.DeleteRow(CatalogueList::Custom); }), 6);
+  QVERIFY(!tree.Has(Custom));
+  QCOMPARE(tree.Catalog.fgCustom.Rows(), 257);
+  tree.Catalog.DeleteRow(CatalogueList::Custom);
+  QCOMPARE(tree.Read(Custom).size(), 255 * 70);
 }
 
 void CatalogueSaves::aTypedCategoryIsOfferedAndTheInvoiceListGetsTheRecordLastRead() {

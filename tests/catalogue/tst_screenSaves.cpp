@@ -30,6 +30,7 @@ class ScreenSaves : public QObject {
   void aDescriptionOfBlanksIsRefusedInEveryList();
   void addNewAfterAModifyAddsARowAndLeavesTheOther();
   void aDeleteDuringAModifyAsksForTheLineAgain();
+  void aDeleteThatFailedHitsNoOtherLineWhenItIsPressedAgain();
   void theTwoHundredFiftySixthRecordIsToldAndTheScreenStays();
 };
 
@@ -224,6 +225,30 @@ void ScreenSaves::aDeleteDuringAModifyAsksForTheLineAgain() {
   screen.Click(4);
   QCOMPARE(screen.Row("fgServices", 1), u"a|$1.00|0:15"_s);
   QCOMPARE(screen.Row("fgServices", 2), u"changed|$1.00|0:15"_s);
+}
+
+void ScreenSaves::aDeleteThatFailedHitsNoOtherLineWhenItIsPressedAgain() {
+  CatalogueScreen screen;
+  const QByteArray both = CatalogueScreen::Service("a") + CatalogueScreen::Service("b");
+  screen.Program.Tree.Write(u"/Services.txt"_s, both);
+  screen.Open();
+  screen.SelectRow("fgServices", 1);
+  screen.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
+  screen.Program.Answers.Yes(u"This will DELETE the Selected Service"_s, u"Delete Service Item"_s);
+  screen.Program.Answers.Ok();
+  screen.Click(2);
+  QVERIFY(screen.Program.Answers.Last().Text.contains(u"Services.txt"_s));
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), both);
+  QCOMPARE(screen.Row("fgServices", 1), u"a|$1.00|0:15"_s);
+  QCOMPARE(screen.Row("fgServices", 2), u"b|$1.00|0:15"_s);
+  const QModelIndexList shown = screen.Driver().Control<QTableView>(u"fgServices"_s)->selectionModel()->selectedRows();
+  QCOMPARE(shown.size(), 1);
+  QCOMPARE(shown.first().row(), 0);
+  screen.Program.Files.Reset();
+  screen.Program.Answers.Yes(u"This will DELETE the Selected Service"_s, u"Delete Service Item"_s);
+  screen.Click(2);
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), CatalogueScreen::Service("b"));
+  QCOMPARE(screen.Rows("fgServices"), 1);
 }
 
 void ScreenSaves::theTwoHundredFiftySixthRecordIsToldAndTheScreenStays() {

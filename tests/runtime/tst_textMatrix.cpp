@@ -67,6 +67,9 @@ class TextMatrixTest : public QObject {
     QCOMPARE(ErrorOf([&] { matrix.SetRows(0); }), 9);
     QCOMPARE(ErrorOf([&] { matrix.RemoveItem(0); }), 9);
     QCOMPARE(ErrorOf([&] { matrix.RemoveItem(3); }), 9);
+    QCOMPARE(ErrorOf([&] { matrix.InsertItem(0, {u"a"_s, u"b"_s}); }), 9);
+    QCOMPARE(ErrorOf([&] { matrix.InsertItem(4, {u"a"_s, u"b"_s}); }), 9);
+    QCOMPARE(ErrorOf([&] { matrix.InsertItem(1, {u"a"_s}); }), 9);
     QCOMPARE(ErrorOf([&] { matrix.SwapRows(1, 3, 2); }), 9);
     QCOMPARE(ErrorOf([&] { matrix.SwapRows(1, 2, 3); }), 9);
     QCOMPARE(ErrorOf([&] { matrix.SortGenericAscending(2); }), 9);
@@ -147,6 +150,21 @@ class TextMatrixTest : public QObject {
     matrix.RemoveItem(1);
     matrix.RemoveItem(1);
     QCOMPARE(matrix.Rows(), 1);
+  }
+
+  void aRemovedRowCanBePutBackWhereItStood() {
+    TextMatrix matrix(u"<A|<B"_s);
+    Fill(matrix, {u"a"_s, u"b"_s, u"c"_s});
+    matrix.SetRow(2);
+    for (const int row : {1, 2, 3}) {
+      const QStringList texts = matrix.RemoveItem(row);
+      QCOMPARE(texts, (QStringList{QString(u"abc"_s[row - 1]), QString::number(row - 1)}));
+      matrix.InsertItem(row, texts);
+      QCOMPARE(Column(matrix, 0), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+      QCOMPARE(Column(matrix, 1), (QStringList{u"0"_s, u"1"_s, u"2"_s}));
+      QCOMPARE(matrix.Row(), 2);
+      QCOMPARE(matrix.rowCount(), 3);
+    }
   }
 
   void rowsSwapInTheGivenColumnsOnly() {
