@@ -172,6 +172,36 @@ Save CatalogueSave() {
       u"cmdServices_0"_s);
 }
 
+/// One of two goes, and the three lists are saved; the only one of its list goes with its file.
+Save CatalogueDelete(const QString& name, int tab, const QString& grid, const QString& button, const QString& file) {
+  Save save = ByClick(
+      name, u"frmServices"_s,
+      [tab, grid](Desk& desk) {
+        desk.OpenRoutine(3);
+        const ScreenDriver screen(u"frmServices"_s);
+        Turn(screen, u"tabServices"_s, tab);
+        screen.SelectRow(grid, 1);
+      },
+      button);
+  // The row is gone once its file is as it was to be; a second delete would hit another.
+  save.IsDone = [file](const DataTree& left, const DataTree& after) { return left.value(file) == after.value(file); };
+  return save;
+}
+
+Save ServiceDelete() {
+  Save save = CatalogueDelete(u"catalogue-delete"_s, 0, u"fgServices"_s, u"cmdServices_2"_s, u"/Services.txt"_s);
+  save.Stock = [](DataTree& tree) {
+    const QByteArray mowing = tree[u"/Services.txt"_s];
+    tree[u"/Services.txt"_s] = mowing + QByteArray(mowing).replace(0, 6, "Raking");
+  };
+  save.MayLag = {u"/Backup/Services.txt"_s, u"/Backup/KVInventoriedItems.txt"_s, u"/Backup/CustomItems.txt"_s};
+  return save;
+}
+
+Save LastCustomItemDelete() {
+  return CatalogueDelete(u"catalogue-delete-last"_s, 3, u"fgCustom"_s, u"cmdServices_20"_s, u"/CustomItems.txt"_s);
+}
+
 Save Labor() {
   return ByClick(
       u"labor"_s, u"frmServices"_s,
@@ -183,6 +213,16 @@ Save Labor() {
         screen.Fill(u"txtLaborRate_1"_s, u"90"_s);
       },
       u"cmdServices_17"_s);
+}
+
+/// The note of the page that is opened, here the manual.
+Save WebPage() {
+  Save save = ByEntry(
+      u"web-page"_s, u"frmStartup"_s, [](Desk&) {}, u"mnuHelp"_s);
+  save.Stock = [](DataTree& tree) {
+    tree[u"/Temp.url"_s] = "[InternetShortcut]\r\nURL = /program/suppliers/plain-printer-paper.html\r\n";
+  };
+  return save;
 }
 
 Save ExitBackup() {
@@ -234,11 +274,14 @@ std::vector<Save> SavesOfFiles() {
           CustomerEdit(),
           CustomerDelete(),
           CatalogueSave(),
+          ServiceDelete(),
+          LastCustomItemDelete(),
           Auxiliary(u"auxiliary-headings"_s, u"cmdSaveAux_0"_s),
           Auxiliary(u"auxiliary-data"_s, u"cmdSaveAux_1"_s),
           Labor(),
           SpeedNumbers(),
           CompletedPurge(),
           SalesPurge(),
+          WebPage(),
           ExitBackup()};
 }

@@ -1,4 +1,5 @@
 // The saves of the invoice screen and of the partial invoices.
+#include <QListWidget>
 #include <QTableView>
 #include <QtEndian>
 
@@ -13,9 +14,13 @@ const QString Invoice = u"frmInvoice"_s;
 const QString Number = u"/KVInvoiceNo.txt"_s;
 const QString Partials = u"frmIncomplete"_s;
 
-void OpenInvoice(Desk& desk) {
+void ToInvoice(Desk& desk) {
   desk.OpenRoutine(0);
   ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdCustomer_1"_s);
+}
+
+void OpenInvoice(Desk& desk) {
+  ToInvoice(desk);
   ScreenDriver(Invoice).Click(u"cmdInvoice_0"_s);
 }
 
@@ -99,6 +104,36 @@ Save Template(const QString& name, const QByteArray& older) {
   if (!older.isNull()) {
     save.Stock = [older](DataTree& tree) { tree[u"/KarvexInvoicer/Templates/InvoicesMonthly.txt"_s] = older; };
   }
+  return save;
+}
+
+Save TemplateDelete() {
+  Save save = OnInvoice(
+      u"template-delete"_s,
+      [](Desk& desk) {
+        ToInvoice(desk);
+        ScreenDriver(Invoice).Control<QListWidget>(u"flstInvoiceTemplates"_s)->setCurrentRow(0);
+        ScreenDriver::ProcessEvents();
+      },
+      u"cmdTemplate_1"_s);
+  save.Stock = [](DataTree& tree) {
+    for (const auto* name : {"Monthly", "Yearly"}) {
+      tree[u"/KarvexInvoicer/Templates/Invoices/%1.txt"_s.arg(QString::fromLatin1(name))] = QByteArray(70 * 5, ' ');
+    }
+  };
+  return save;
+}
+
+/// The invoice screen, as it comes up, writes the number that it offers: here the first one of a new year.
+Save OpenedNumber() {
+  Save save = ByClick(
+      u"invoice-number"_s, u"frmNewCustomer"_s, [](Desk& desk) { desk.OpenRoutine(0); }, u"cmdCustomer_1"_s);
+  save.Stock = [](DataTree& tree) {
+    tree[Number] = "20250123\r\n";
+    tree[u"/Backup"_s + Number] = "20250122\r\n";
+  };
+  save.MayLag = {u"/Backup"_s + Number};
+  save.IsDone = [](const DataTree& left, const DataTree& after) { return left.value(Number) == after.value(Number); };
   return save;
 }
 
@@ -237,13 +272,15 @@ Save PurgeAll() {
 
 std::vector<Save> SavesOfInvoices() {
   const QByteArray older = QByteArray(70 * 5, ' ');
-  return {Terms(),
+  return {OpenedNumber(),
+          Terms(),
           Carrier(),
           Memo(),
           Narrative(u"narrative"_s, u"cmdNarrative_0"_s),
           Narrative(u"narrative-default"_s, u"cmdNarrative_3"_s),
           Template(u"template"_s, {}),
           Template(u"template-replaced"_s, older),
+          TemplateDelete(),
           PartialSave(),
           Purge(u"partial-purge"_s, u"Command1_3"_s, 2),
           PurgeAll(),
