@@ -14,6 +14,12 @@ class DataRootTest : public QObject {
   std::unique_ptr<TemporaryTree> m_program, m_user;
   FailingDevice m_device;
 
+  /// With a program folder that may not be written.
+  QString ChooseBesideAClosedFolder() {
+    m_device.AlsoFailAt(FailingDevice::Call::MayWrite, 1, EACCES);
+    return ChooseDataRoot(m_device, m_program->Root(), m_user->Root());
+  }
+
  private Q_SLOTS:
   void init() {
     m_program = std::make_unique<TemporaryTree>();
@@ -41,6 +47,49 @@ class DataRootTest : public QObject {
     m_device.FailAt(FailingDevice::Call::MayWrite, 1, EACCES);
     QCOMPARE(ChooseDataRoot(m_device, m_program->Root(), m_user->Root()), m_user->Path(u"/KarvexInvoicer"_s));
     QCOMPARE(m_user->Bytes(u"/KarvexInvoicer/StatesList.txt"_s), "mine");
+  }
+
+  void aCopyThatFailsIsToldOfAndMadeAtTheNextStart() {
+    using Call = FailingDevice::Call;
+    const QString copy = u"/KarvexInvoicer/StatesList.txt"_s;
+    m_program->Write(u"/StatesList.txt"_s, "\"AL\"\r\n");
+    for (const Call call : {Call::Write, Call::Flush, Call::Rename}) {
+      m_device.FailAt(call, 1, ENOSPC);
+      const RuntimeError error = CaughtFrom([&] { ChooseBesideAClosedFolder(); });
+      QCOMPARE(error.Number(), 61);
+      QCOMPARE(error.Subject(), m_user->Path(copy));
+      QCOMPARE(m_user->List(u"/KarvexInvoicer"_s), QStringList{});
+      m_device.Reset();
+      ChooseBesideAClosedFolder();
+      QCOMPARE(m_user->Bytes(copy), "\"AL\"\r\n");
+      m_user->Remove(copy);
+    }
+  }
+
+  void aCopyThatWasKilledIsMadeAtTheNextStart() {
+    const QString copy = u"/KarvexInvoicer/StatesList.txt"_s;
+    m_program->Write(u"/StatesList.txt"_s, "\"AL\"\r\n");
+    bool finished = false;
+    int absent = 0;
+    for (int step = 1; !finished; ++step) {
+      m_device.KillAt(step);
+      try {
+        ChooseBesideAClosedFolder();
+        finished = true;
+      } catch (const FailingDevice::Killed&) {
+      }
+      if (m_user->Exists(copy)) {
+        QCOMPARE(m_user->Bytes(copy), "\"AL\"\r\n");
+      } else {
+        ++absent;
+      }
+      m_device.Reset();
+      ChooseBesideAClosedFolder();
+      QCOMPARE(m_user->Bytes(copy), "\"AL\"\r\n");
+      QCOMPARE(m_user->List(u"/KarvexInvoicer"_s), QStringList{u"StatesList.txt"_s});
+      m_user->Remove(copy);
+    }
+    QVERIFY(absent > 1);
   }
 
   void withoutSuppliedFilesTheFolderIsEmpty() {
