@@ -52,6 +52,8 @@ class ScreenPrepaid : public QObject {
   void printingWithoutAcceptDoesNotShowTheFrameOnTheNextInvoice();
   void cancelHidesTheFrameAndKeepsThePaymentWhicheverAnswerComes_data();
   void cancelHidesTheFrameAndKeepsThePaymentWhicheverAnswerComes();
+  void acceptPrintsWhatWasFinalizedAlsoWhereAChargeOrADiscountAsksForIt_data();
+  void acceptPrintsWhatWasFinalizedAlsoWhereAChargeOrADiscountAsksForIt();
   void acceptWithoutLinesGoesBackToTheLines();
   void aPaymentThatCannotBeWrittenEndsTheRunWithoutAMessage();
 };
@@ -216,6 +218,34 @@ void ScreenPrepaid::cancelHidesTheFrameAndKeepsThePaymentWhicheverAnswerComes() 
   bench.On().Click(u"cmdInvoiceContinue"_s);
   QCOMPARE(bench.Tree.Bytes(Payments), Posting("", "$20.00"));
   QCOMPARE(bench.Tree.Size(Ledger), 3 * 155);
+}
+
+void ScreenPrepaid::acceptPrintsWhatWasFinalizedAlsoWhereAChargeOrADiscountAsksForIt_data() {
+  QTest::addColumn<bool>("charge");
+  QTest::newRow("a charge") << true;
+  QTest::newRow("another kind of discount") << false;
+}
+
+void ScreenPrepaid::acceptPrintsWhatWasFinalizedAlsoWhereAChargeOrADiscountAsksForIt() {
+  QFETCH(bool, charge);
+  InvoiceBench bench;
+  OpenPrepaid(bench);
+  if (charge) {
+    bench.On().Fill(u"txtShip"_s, u"25"_s);
+    bench.On().PressKey(Qt::Key_Tab);
+  } else {
+    bench.Answers.Ok();
+    bench.On().Click(u"optDiscount_1"_s);
+  }
+  QVERIFY(!bench.On().IsEnabled(u"cmdInvoiceContinue"_s));
+  QVERIFY(bench.On().IsVisible(Frame));
+  Accept(bench);
+  // The total is that of the last Finalize.
+  const QByteArray image = bench.Tree.Bytes(u"/CompletedInvoices/20260001.txt"_s);
+  const QByteArray ship = charge ? "$25.00" : "$0.00";
+  QVERIFY2(image.endsWith(R"("$20.00","$0.00","$0.00","$20.00",")" + ship + "\",\"$0.00\",\"$0.00\"\r\n"),
+           image.constData());
+  QCOMPARE(bench.Tree.Bytes(Ledger).mid(155, 155), Posting("20260001", "20"));
 }
 
 void ScreenPrepaid::acceptWithoutLinesGoesBackToTheLines() {
