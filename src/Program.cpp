@@ -132,6 +132,7 @@ void Program::UserClosed() {
 void Program::UnhandledError(const RuntimeError& error) {
   if (m_ended) return;
   const bool ends = m_starting || error.From() == RuntimeError::Origin::FileContent;
+  m_failed = m_failed || ends;
   m_platform.Boxes->ShowMessage(ErrorBoxText(error, ends, m_platform.DataRoot, NameOfBox(error.Subject())));
   // Without the exit backup: it would overwrite good copies with what may be damaged.
   if (ends) {

@@ -27,6 +27,8 @@ class Program final : public Screens, public ScreenHost {
   /// `Sub Main`. False when the program ended in it: another instance runs, or something failed (a box told so).
   bool Start();
   bool HasEnded() const { return m_ended; }
+  /// Whether it was an error that ended it.
+  bool HasFailed() const { return m_failed; }
   /// Called once, when the program has ended; the event loop is the caller's to leave.
   std::function<void()> Ended;
 
@@ -64,4 +66,5 @@ class Program final : public Screens, public ScreenHost {
   ScreenName m_lastHidden = ScreenName::frmSplash;
   bool m_starting = false;
   bool m_ended = false;
+  bool m_failed = false;
 };

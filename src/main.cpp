@@ -41,6 +41,6 @@ int main(int argc, char* argv[]) {
   platform.ProgramFolder = programFile.absolutePath();
   Program program(platform);
   program.Ended = &QApplication::quit;
-  if (!program.Start()) return 0;
-  return QApplication::exec();
+  if (program.Start()) QApplication::exec();
+  return program.HasFailed() ? 1 : 0;
 }

@@ -1,7 +1,7 @@
 #!/bin/sh
 # the_program_file.sh INSTALL PROGRAM_FOLDER: puts the built program into a fresh folder and starts the program file itself,
 # on an X display with a window manager, by keys alone: a first run with its Setup, a second start beside it, one under
-# another name, and the end by the window manager.
+# another name, the end by the window manager, and a start that fails.
 set -eu
 if [ "${3:-}" != inside ]; then
   work=$(mktemp -d)
@@ -63,10 +63,12 @@ start() {
   cd "$work"
 }
 
-# must_end PROCESS WHEN: the process ends by itself, and says that all was well.
+# must_end PROCESS WHEN [ANSWER]: the process ends by itself with this answer, 0 by default: that all was well.
 must_end() {
   eventually "the process is gone $2" is_gone "$1"
-  wait "$1" || fail "the process that ended $2 answered $?"
+  answer=0
+  wait "$1" || answer=$?
+  equal "${3:-0}" "$answer" "the answer of the process that ended $2"
   processes=$(echo " $processes " | sed "s/ $1 / /")
 }
 
@@ -187,3 +189,10 @@ close_by_the_window_manager "$started" "Karvex Invoicer"
 cmp "$business/BillingSettings.txt" "$business/Backup/BillingSettings.txt" || fail "the backup of BillingSettings.txt"
 [ ! -e "$business/Backup/KarvexInvoicerSettings.txt" ] || fail "one name's end copied the other name's settings"
 equal "" "$(ls -A "$work/elsewhere")" "what the program left where it was started from"
+
+# A start that fails answers so to whoever started it.
+printf 'x\r\n' >"$business/BillingSettings.txt"
+start Billing.bin
+eventually "the box of a start that failed" has_the_keys "$started" "Karvex Invoicer"
+xdotool key Return
+must_end "$started" "after the box of a start that failed" 1
