@@ -80,7 +80,7 @@ void LoadSetup(SerialPort& modem, CommonDiskRoutines& disk, LiveSettings& live, 
   SetAddressStyle(live.Business);
   LoadPrintColors(disk, live.Print);
   LoadTaxLists(disk, live.Tax);
-  if (disk.FileExists(u"/CompanyLogo.txt"_s)) LoadLogo(disk, live.Print, isPicture);
+  if (disk.FileExists(u"/CompanyLogo.txt"_s)) LoadLogoAtStart(disk, live.Print, isPicture);
   if (disk.FileExists(u"/LogoSettings.txt"_s)) LoadLogoSettings(disk, live.Print);
   LoadSettings(disk, live, loadInvoice);
 }

@@ -20,19 +20,42 @@ float ReadSize(ListReader& file) {
   return static_cast<float>(twips);
 }
 
-}  // namespace
+/// The path that is stored; empty where none is.
+QString StoredPath(CommonDiskRoutines& disk) {
+  if (!disk.FileExists(u"\\CompanyLogo.txt"_s)) return {};
+  return disk.OpenInputFile(u"/CompanyLogo.txt"_s).ReadString();
+}
 
-void LoadLogo(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture) {
-  if (!disk.FileExists(u"\\CompanyLogo.txt"_s)) return;
-  const QString path = disk.OpenInputFile(u"/CompanyLogo.txt"_s).ReadString();
-  if (!disk.Store().IsFile(path)) return;
+/// Damage of the file that names the picture: it, and not the user's own picture, is what can be done without.
+RuntimeError NamesNoLogo(const QString& path, const QString& why) {
+  return {ErrorNumber::InvalidPicture, u"/CompanyLogo.txt"_s,
+          u"It names "_s + path + u" as the logo, and that file can't be read"_s + why,
+          RuntimeError::Origin::FileContent};
+}
+
+void LoadLogoFrom(const QString& path, CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture) {
+  if (path.isEmpty() || !disk.Store().IsFile(path)) return;
   try {
     LoadPicture(disk, print, path, isPicture);
   } catch (const RuntimeError& error) {
     if (error.Number() != ErrorNumber::InvalidPicture) throw;
-    throw RuntimeError(ErrorNumber::InvalidPicture, u"/CompanyLogo.txt"_s,
-                       u"It names "_s + path + u" as the logo, and that file can't be read as a picture."_s,
-                       RuntimeError::Origin::FileContent);
+    throw NamesNoLogo(path, u" as a picture."_s);
+  }
+}
+
+}  // namespace
+
+void LoadLogo(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture) {
+  LoadLogoFrom(StoredPath(disk), disk, print, isPicture);
+}
+
+void LoadLogoAtStart(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture) {
+  const QString path = StoredPath(disk);
+  try {
+    LoadLogoFrom(path, disk, print, isPicture);
+  } catch (const RuntimeError& error) {
+    if (error.Number() == ErrorNumber::InvalidPicture) throw;
+    throw NamesNoLogo(path, u". "_s + error.Text());
   }
 }
 

@@ -13,6 +13,9 @@ using PictureTest = std::function<bool(const QByteArray& content)>;
 /// Reads the picture that /CompanyLogo.txt names. A path that leads to no file leaves the logo as it is. Throws
 /// RuntimeError 481 on /CompanyLogo.txt for a file that is no picture, 62 for a /CompanyLogo.txt that ends too early.
 void LoadLogo(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture);
+/// The same at the start, where whatever keeps the picture from being looked at or read, as a dead network drive does,
+/// is RuntimeError 481 on /CompanyLogo.txt too: the box then tells how to start without the logo.
+void LoadLogoAtStart(CommonDiskRoutines& disk, PrintAppearance& print, const PictureTest& isPicture);
 /// Reads any picture file into the logo. Throws RuntimeError 481 on that file, or what the reading throws; the logo is
 /// as it was then.
 void LoadPicture(CommonDiskRoutines& disk, PrintAppearance& print, const QString& path, const PictureTest& isPicture);

@@ -1,9 +1,12 @@
 // The logo: the path of the user's picture, its size in print, and what each button's rule does to the files.
+#include <cerrno>
+#include <QScopeGuard>
 #include <QtTest>
 
 #include "setup/Logo.h"
 #include "support/DataFolder.h"
 #include "support/ErrorOf.h"
+#include "torture/FileCalls.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +65,61 @@ class LogoTest : public QObject {
     QVERIFY2(error.Text().contains(folder.Path(u"/logo.png"_s)), qPrintable(error.Text()));
     QCOMPARE(error.From(), RuntimeError::Origin::FileContent);
     QVERIFY(print.Logo.isEmpty());
+  }
+
+  void atTheStartAPictureThatCannotBeReadIsDamageOfTheFileThatNamesIt_data() {
+    QTest::addColumn<int>("call");
+    QTest::addColumn<int>("error");
+    QTest::addColumn<QString>("why");
+    const QString unusable = u"The file or folder can't be used."_s;
+    QTest::newRow("the look, a dead network drive") << 1 << ENOTCONN << unusable;
+    QTest::newRow("the look, a broken disk") << 1 << EIO << unusable;
+    QTest::newRow("its length, a broken disk") << 2 << EIO << unusable;
+    QTest::newRow("the opening, not for this user")
+        << 3 << EACCES << u"The file or its folder is write-protected or may not be used."_s;
+    QTest::newRow("the reading, a broken disk") << 4 << EIO << unusable;
+  }
+  void atTheStartAPictureThatCannotBeReadIsDamageOfTheFileThatNamesIt() {
+    QFETCH(int, call);
+    QFETCH(int, error);
+    QFETCH(QString, why);
+    DataFolder folder;
+    const DataFolder drive;
+    const QString path = drive.Path(u"/logo.png"_s);
+    drive.Put(u"/logo.png"_s, "picture one");
+    folder.Put(u"/CompanyLogo.txt"_s, Quoted(path));
+    PrintAppearance print;
+    FileCalls::Arm(drive.Path({}).toLocal8Bit().constData(), {FileCalls::Harm::FailOnce, call, error, 0});
+    const auto whole = qScopeGuard([] { FileCalls::Disarm(); });
+    const RuntimeError told = CaughtFrom([&] { LoadLogoAtStart(folder.Disk, print, SaysPicture); });
+    QCOMPARE(told.Number(), 481);
+    QCOMPARE(told.Subject(), u"/CompanyLogo.txt"_s);
+    QCOMPARE(told.Text(), u"It names "_s + path + u" as the logo, and that file can't be read. "_s + why);
+    QCOMPARE(told.From(), RuntimeError::Origin::FileContent);
+    QVERIFY(print.Logo.isEmpty());
+  }
+
+  void atTheStartAFileOfThePathThatCannotBeReadIsTheErrorItIs() {
+    DataFolder folder;
+    folder.Put(u"/CompanyLogo.txt"_s, Quoted(folder.Path(u"/logo.png"_s)));
+    PrintAppearance print;
+    folder.Device.FailAt(FailingDevice::Call::Open, 1, EIO);
+    const RuntimeError told = CaughtFrom([&] { LoadLogoAtStart(folder.Disk, print, SaysPicture); });
+    QCOMPARE(told.Number(), 75);
+    QCOMPARE(told.Subject(), folder.Path(u"/CompanyLogo.txt"_s));
+  }
+
+  void laterAPictureThatCannotBeReadIsRefusedByItsOwnName() {
+    DataFolder folder;
+    folder.Put(u"/logo.png"_s, "picture one");
+    folder.Put(u"/CompanyLogo.txt"_s, Quoted(folder.Path(u"/logo.png"_s)));
+    PrintAppearance print;
+    folder.Device.FailAt(FailingDevice::Call::Open, 2, EIO);
+    const RuntimeError told = CaughtFrom([&] { LoadLogo(folder.Disk, print, SaysPicture); });
+    QCOMPARE(told.Number(), 75);
+    QCOMPARE(told.Subject(), folder.Path(u"/logo.png"_s));
+    // The program goes on.
+    QCOMPARE(told.From(), RuntimeError::Origin::Event);
   }
 
   void aPictureFileThatIsNoneIsRefusedByItsOwnName() {

@@ -1,5 +1,6 @@
 // Files that can't be what they must be: the start tells which one, ends the program, and leaves the disk as it is.
 
+#include "runtime/FileStore.h"
 #include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -34,6 +35,7 @@ class DamagedFiles : public QObject {
   void aLogoThatIsNoPictureEndsTheStartAndChangesNothing();
   void eachAdviceOfTheLogosBoxLetsTheProgramStart_data();
   void eachAdviceOfTheLogosBoxLetsTheProgramStart();
+  void aLogoThatCannotBeReadTellsHowToStartWithoutIt();
   void aLogoThatIsGoneIsPassedOver();
   void aDamagedSettingIsToldBeforeAnyWindowShows();
   void aDamagedCatalogueIsToldOverTheStartUpScreen();
@@ -134,6 +136,30 @@ void DamagedFiles::eachAdviceOfTheLogosBoxLetsTheProgramStart() {
     program.Tree.Remove(u"/Backup/CompanyLogo.txt"_s);
   }
   QVERIFY(program.Start());
+}
+
+void DamagedFiles::aLogoThatCannotBeReadTellsHowToStartWithoutIt() {
+  ProgramFixture program;
+  const TemporaryTree pictures;
+  pictures.Write(u"/logo.png"_s, "");
+  const QString path = pictures.Path(u"/logo.png"_s);
+  QVERIFY(QFile::resize(path, LargestWholeFile + 1));
+  program.Tree.Write(u"/CompanyLogo.txt"_s, '"' + path.toUtf8() + "\"\r\n");
+  const auto before = program.Tree.Everything();
+  program.Answers.Ok({}, u"Karvex Invoicer"_s);
+  QVERIFY(!program.Start());
+  QVERIFY(program.Running().HasFailed());
+  QCOMPARE(
+      program.Answers.Last().Text,
+      program.Tree.Path(u"/CompanyLogo.txt"_s) + u": It names "_s + path +
+          u" as the logo, and that file can't be read. The file is larger than any that the program can read. (error "
+          u"481)\n\nThe program ends and leaves all files as they are. Put a picture in that place, or move what "
+          u"stands "
+          u"there elsewhere; or remove CompanyLogo.txt and its copy in the Backup folder. Then start the program again."_s);
+  QCOMPARE(program.Tree.Everything(), before);
+  program.Tree.Remove(u"/CompanyLogo.txt"_s);
+  QVERIFY(program.Start());
+  QVERIFY(!program.Running().HasFailed());
 }
 
 void DamagedFiles::aLogoThatIsGoneIsPassedOver() {
