@@ -28,7 +28,7 @@ bool LoadPartialList(PartialList& list, CommonDiskRoutines& disk) {
   grid.SetRows(list.Count() + 1);
   grid.SetRow(1);
   for (int row = 1; row <= list.Count(); ++row) {
-    ListReader file = disk.OpenInputFile(folder + u'/' + list.FileNames.at(row - 1));
+    ListReader file = disk.OpenInputStart(folder + u'/' + list.FileNames.at(row - 1), grid.Cols());
     for (int column = 0; column < grid.Cols(); ++column) grid.SetText(row, column, file.ReadLine());
   }
   return true;

@@ -48,6 +48,14 @@ class PartialListTest : public QObject {
     QCOMPARE(Row(2), QStringList({u"20260002"_s, u"1002"_s, u"Hill, Farm"_s, u"3/6/2026"_s}));
   }
 
+  void onlyTheFirstFourLinesAreRead() {
+    Save(u"20260001.txt"_s, "20260001\r\n1001\r\nBay\r\n3/5/2026\r\n" + QByteArray(50000, 'x'));
+    m_desk->Device.Reset();
+    QVERIFY(LoadPartialList(*m_list, m_desk->Disk));
+    QCOMPARE(Row(1), QStringList({u"20260001"_s, u"1001"_s, u"Bay"_s, u"3/5/2026"_s}));
+    QVERIFY(m_desk->Device.BytesRead() < 1000);
+  }
+
   void theSelectedRowNamesTheInvoiceTrimmed() {
     QVERIFY(m_list->SelectedInvoiceNo().isEmpty());
     Save(u"a.txt"_s, " 7 \r\n\r\n\r\n\r\n");
