@@ -35,7 +35,11 @@ CatalogueEditor::CatalogueEditor(Catalogue& catalogue, Dialogs& dialogs, Catalog
     : m_catalogue(catalogue), m_dialogs(dialogs), m_view(view) {}
 
 void CatalogueEditor::Open() {
-  for (const CatalogueList list : AllCatalogueLists) SetEditing(list, false);
+  for (const CatalogueList list : AllCatalogueLists) {
+    SetEditing(list, false);
+    // A Modify that was left by Menu can't be gone on with: its row may stand elsewhere after the save.
+    m_view.EnableGrid(list, true);
+  }
 }
 
 bool CatalogueEditor::IsEntering() const {

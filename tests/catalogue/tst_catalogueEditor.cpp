@@ -36,6 +36,18 @@ class CatalogueEditorTest : public QObject {
     QVERIFY(!desk.Editor.IsEntering());
   }
 
+  void openingOpensTheGridsThatAModifyShut() {
+    Desk desk;
+    desk.Catalog.PutRow(Services, false, {u"Repair"_s, u"$1.00"_s, u"0:15"_s});
+    desk.Catalog.Grid(Services).SetRow(1);
+    desk.Catalog.PutRow(Custom, false, {u"Engraving"_s, u"$1.00"_s, u"$0.00"_s, u"0"_s});
+    desk.Editor.Modify(Services);
+    desk.Editor.Modify(Custom);
+    QCOMPARE(desk.View.ShutGrids, (std::set<CatalogueList>{Services, Custom}));
+    desk.Editor.Open();
+    QCOMPARE(desk.View.ShutGrids, std::set<CatalogueList>{});
+  }
+
   void addNewOpensOneListAlone_data() {
     QTest::addColumn<int>("list");
     QTest::addColumn<int>("save");

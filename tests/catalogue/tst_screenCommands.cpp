@@ -19,6 +19,7 @@ class ScreenCommands : public QObject {
   void aRowClickMakesDeleteLive();
   void aRowIsClickedByEnterToo();
   void modifyServiceLoadsTheRowAndShutsTheGrid();
+  void aModifyThatWasLeftByMenuLeavesTheGridOpenForAnother();
   void modifyItemLoadsTheRowAndTheCategoryByItsRule();
   void modifyCustomItemLoadsTheRow();
   void modifyWithoutACurrentRowDoesNothing();
@@ -271,6 +272,31 @@ void ScreenCommands::modifyServiceLoadsTheRowAndShutsTheGrid() {
   QVERIFY(screen.Live(4));
   QVERIFY(screen.Open("txtDescription_0"));
   QVERIFY(!screen.Open("fgServices"));
+}
+
+void ScreenCommands::aModifyThatWasLeftByMenuLeavesTheGridOpenForAnother() {
+  CatalogueScreen screen;
+  const QByteArray services = CatalogueScreen::Service("a") + CatalogueScreen::Service("b");
+  screen.Program.Tree.Write(u"/Services.txt"_s, services);
+  screen.Open();
+  screen.SelectRow("fgServices", 2);
+  screen.Click(3);
+  screen.Fill("txtDescription_0", "never saved");
+  screen.Click(0);
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), services);
+  screen.GoFromMenu();
+  QVERIFY(screen.Open("fgServices"));
+  // What was typed stands there still, shut, until the next row or entry takes its place.
+  QCOMPARE(screen.Text("txtDescription_0"), u"never saved"_s);
+  QVERIFY(!screen.Open("txtDescription_0"));
+  QVERIFY(!screen.Live(4));
+  screen.SelectRow("fgServices", 1);
+  screen.Click(3);
+  QCOMPARE(screen.Text("txtDescription_0"), u"a"_s);
+  screen.Fill("txtDescription_0", "c");
+  screen.Click(4);
+  QCOMPARE(screen.Row("fgServices", 1), u"c|$1.00|0:15"_s);
+  QCOMPARE(screen.Rows("fgServices"), 2);
 }
 
 void ScreenCommands::modifyItemLoadsTheRowAndTheCategoryByItsRule() {
