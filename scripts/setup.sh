@@ -1,9 +1,10 @@
 #!/bin/sh
 # setup.sh LIST...: installs the Debian packages of the lists that are missing; quiet and quick when none is.
-# The lists stand beside it: packages.run (building and running) and packages.test (testing, on top of that).
+# The lists stand beside it: packages.run (building and running), and on top of that packages.test (testing) and
+# packages.fuzz (fuzzing).
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
-[ $# -gt 0 ] || { echo "Usage: setup.sh run [test]" >&2; exit 2; }
+[ $# -gt 0 ] || { echo "Usage: setup.sh run [test] [fuzz]" >&2; exit 2; }
 missing=
 wanted=
 for list in "$@"; do
