@@ -43,6 +43,6 @@ class Screens {
   virtual void StartCall(const QString& name, const QString& number) = 0;
   /// Setup's sample: the page frame with the number 12345, and the end of the job.
   virtual void PrintSample() = 0;
-  /// The one way out: exit backup, all screens unloaded, the process ends.
+  /// The one way out: exit backup, all screens hidden, the process ends.
   virtual void QuitProgram() = 0;
 };
