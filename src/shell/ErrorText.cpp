@@ -32,7 +32,7 @@ QString WhatToDo(const RuntimeError& error) {
     case ErrorNumber::PrinterError:
       return u"Check that the printer is on and has paper, or choose another one, then print again. Nothing was lost."_s;
     case ErrorNumber::PathNotFound:
-      return u"The folder isn't there. Start the program again: it makes its folders at each start."_s;
+      return u"Start the program again: it makes its folders at each start."_s;
     case ErrorNumber::TypeMismatch:
     case ErrorNumber::Overflow:
       return u"Correct what was typed and try again. Nothing was lost."_s;

@@ -98,6 +98,12 @@ class ErrorTextTest : public QObject {
              u"/home/me/oranges/Services.txt: It is full. (error 6)\n\nDelete one."_s);
   }
 
+  void aFolderThatIsGoneIsToldOnceAndWhatToDoNext() {
+    QCOMPARE(ErrorBoxText(RuntimeError::AtPath(76, u"/data/Templates"_s), false, Root),
+             u"/data/Templates: The folder isn't there. (error 76)\n\nStart the program again: it makes its folders at "
+             u"each start."_s);
+  }
+
   void everyErrorSaysWhatToDo_data() {
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("advice");
