@@ -106,7 +106,7 @@ ListReader CommonDiskRoutines::OpenInputFile(const QString& name) {
 }
 
 ListReader CommonDiskRoutines::OpenInputStart(const QString& name, int lines) {
-  ListReader reader(name, m_store.ReadLines(PathOf(name), lines));
+  ListReader reader(Rooted(name), m_store.ReadLines(PathOf(name), lines));
   reader.Attach(NewOpenMark());
   return reader;
 }
@@ -122,7 +122,7 @@ void CommonDiskRoutines::AppendRecord(const QString& name, const QByteArray& rec
   const auto length = static_cast<int>(record.size());
   const int count = RecordCount(name, length);
   if (count == RecordLimit) {
-    throw RuntimeError(ErrorNumber::Overflow, name, u"The file holds 32,767 records and takes no more."_s)
+    throw RuntimeError(ErrorNumber::Overflow, Rooted(name), u"The file holds 32,767 records and takes no more."_s)
         .WithAdvice(
             u"Move it, and its copy in the Backup folder, elsewhere: the next entry starts a new one. Nothing was lost."_s);
   }

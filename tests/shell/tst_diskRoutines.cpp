@@ -76,6 +76,20 @@ class DiskRoutinesTest : public QObject {
     QCOMPARE(Bytes(u"/TaxRecords.txt"_s), QByteArray(32766, 'x') + 'y');
   }
 
+  void anErrorOfAFileNamesItFromTheRootHoweverTheCallerDid() {
+    Put(u"/Short.txt"_s, "1\r\n");
+    Put(u"/Full.txt"_s, QByteArray(32767, 'x'));
+    for (const QString& separator : {u"/"_s, u"\\"_s, QString()}) {
+      const RuntimeError read = CaughtFrom([&] {
+        ListReader file = m_disk->OpenInputStart(separator + u"Short.txt"_s, 2);
+        file.ReadLine();
+        file.ReadLine();
+      });
+      QCOMPARE(read.Subject(), u"/Short.txt"_s);
+      QCOMPARE(CaughtFrom([&] { m_disk->AppendRecord(separator + u"Full.txt"_s, "y"); }).Subject(), u"/Full.txt"_s);
+    }
+  }
+
   void aRecordCountRoundsTiesToEven_data() {
     QTest::addColumn<int>("bytes");
     QTest::addColumn<int>("count");
