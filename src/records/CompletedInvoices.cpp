@@ -74,8 +74,7 @@ void PurgeCompletedInvoices(const CompletedInvoices& list, CommonDiskRoutines& d
   const TextMatrix& grid = list.fgReceivables;
   for (int row = 1; row < grid.Rows(); ++row) {
     const QString number = list.InvoiceNoOf(row);
-    const bool isBefore =
-        ParseShortDate(grid.Text(row, CompletedColumn::Date), CompletedInvoicesFolder() + u'/' + number) < date;
+    const bool isBefore = ParseShortDate(grid.Text(row, CompletedColumn::Date), u"fgReceivables"_s) < date;
     // A number that can't name a file has none to delete.
     if (isBefore && CanNameAFile(number)) {
       disk.KillWithBackup(InvoiceImageName(number, true));
