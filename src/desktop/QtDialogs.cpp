@@ -14,6 +14,7 @@
 #include "desktop/DialogOwner.h"
 #include "desktop/PackedColor.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/ToolkitSettings.h"
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +46,10 @@ QString ToolkitFilter(const QString& filter) {
 }
 
 }  // namespace
+
+QtDialogs::QtDialogs() {
+  KeepNoToolkitSettings();
+}
 
 void QtDialogs::ShowMessage(const QString& text, const QString& title) {
   ShowBox(text, title, QMessageBox::Ok, QMessageBox::Ok);

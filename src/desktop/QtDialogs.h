@@ -5,6 +5,8 @@
 
 class QtDialogs : public Dialogs {
  public:
+  /// What the toolkit's dialogs would remember in the user's home isn't kept from now on.
+  QtDialogs();
   void ShowMessage(const QString& text, const QString& title = {}) override;
   bool AskYesNo(const QString& text, const QString& title = {}) override;
   bool AskOkCancel(const QString& text, const QString& title = {}) override;

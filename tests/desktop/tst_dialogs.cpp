@@ -1,6 +1,7 @@
 // The user's boxes and dialogs, the real ones.
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QDirIterator>
 #include <QFileDialog>
 #include <QFontDialog>
 
@@ -13,6 +14,14 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Where the toolkit keeps its settings is asked for once, before any test.
+const QTemporaryDir& Home() {
+  static const QTemporaryDir home;
+  return home;
+}
+[[maybe_unused]] const bool AtHome =
+    qputenv("XDG_CONFIG_HOME", Home().path().toLocal8Bit()) && qputenv("HOME", Home().path().toLocal8Bit());
 
 int NumberThrownBy(const std::function<void()>& call) {
   try {
@@ -159,6 +168,23 @@ class UserDialogs : public QObject {
     QCOMPARE(m_dialogs.ChooseFile(u"Find"_s, filter), tree.Path(u"/logo.bmp"_s));
     answers.CancelDialog();
     QCOMPARE(NumberThrownBy([&] { m_dialogs.ChooseFile(u"Find"_s, filter); }), 32755);
+  }
+
+  void theDialogsLeaveNothingInTheUsersHome() {
+    QueuedAnswers answers;
+    TemporaryTree tree;
+    tree.Write(u"/logo.bmp"_s, "BM");
+    answers.File(tree.Path(u"/logo.bmp"_s));
+    m_dialogs.ChooseFile(u"Find"_s, u"All|*.*"_s);
+    answers.Dialog([](QDialog& dialog) {
+      QColorDialog::setCustomColor(0, Qt::red);
+      dialog.accept();
+    });
+    m_dialogs.ChooseColor(0);
+    answers.Dialog([](QDialog& dialog) { dialog.accept(); });
+    m_dialogs.ChooseFont(u"Liberation Serif"_s);
+    QDirIterator left(Home().path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    QVERIFY2(!left.hasNext(), qPrintable(left.next()));
   }
 
   void coloursArePackedBlueGreenRed() {
