@@ -117,9 +117,9 @@ std::vector<ReaderTarget> CustomerReaders() {
   return {
       {"customers", u"/CustomerData.txt"_s, ReadCustomers, CustomerRecord::Length},
       // Three more of the same file, which look at texts in it.
-      {"customer-lists", u"/CustomerData.txt"_s, ListCustomers},
-      {"customer-search", u"/CustomerData.txt"_s, SearchCustomers},
-      {"customer-folders", u"/CustomerData.txt"_s, FolderCustomers, 0, true},
+      {"customer-lists", u"/CustomerData.txt"_s, ListCustomers, CustomerRecord::Length},
+      {"customer-search", u"/CustomerData.txt"_s, SearchCustomers, CustomerRecord::Length},
+      {"customer-folders", u"/CustomerData.txt"_s, FolderCustomers, CustomerRecord::Length, true},
       {"aux-headings", u"/AuxHeadings.txt"_s,
        [](ReaderDesk& desk) {
          AuxBoxes boxes;
