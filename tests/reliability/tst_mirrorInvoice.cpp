@@ -50,6 +50,10 @@ ReadLater Counter() {
                      // The first of the year, which is kept at once.
                      {"missing", {}, true, u"20260001"_s, "20260001\r\n"},
                      {"empty", "", false, {}},
+                     // What is left of a number is a number, which the next invoice has; where it isn't as high as the
+                     // year, by its digits, the year begins anew.
+                     {"cut", "202600", true, u"202600"_s, "202600\r\n"},
+                     {"cut in the year", "202", true, u"20260001"_s, "20260001\r\n"},
                      {"text", "2026q017\r\n", false, {}},
                      {"too large", "20260017000\r\n", false, {}}}};
 }
