@@ -37,6 +37,13 @@ inline qint64 Extension(qint64 price, qint64 quantity) {
   return DivideAway(price * quantity, 10000) * 100;
 }
 
+/// Hundredths of a unit as whole units, as the counts of stock and sales take them: halves to the even one.
+inline qint64 WholeUnits(qint64 hundredths) {
+  const qint64 units = hundredths / 100;
+  const qint64 rest = hundredths % 100;
+  return units + (rest > 50 || (rest == 50 && units % 2 == 1) ? 1 : 0);
+}
+
 /// Whether `held` is the percentage of an amount: the exact value rounded to ten-thousandths. An exact half may go
 /// either way, as its double falls.
 inline bool IsPercentage(qint64 held, qint64 amount, qint64 rate) {
