@@ -15,6 +15,7 @@ work=$4
 business=$work/shop
 # What the program may see of a user: nothing but this folder.
 export HOME="$work/home" XDG_CACHE_HOME="$work/home/cache" XDG_DATA_HOME="$work/home/data" TMPDIR="$work"
+unset XDG_CONFIG_HOME
 export XDG_RUNTIME_DIR="$work/home/runtime" QT_QPA_PLATFORM=xcb
 mkdir -p "$XDG_RUNTIME_DIR" "$work/elsewhere"
 chmod 700 "$XDG_RUNTIME_DIR"
@@ -154,6 +155,7 @@ eventually "the start-up screen" has_the_keys "$first" "Karvex Invoicer"
 equal "$(expected_folders KarvexInvoicer)" "$(folders)" "the tree"
 years_are_of_the_starts
 equal "" "$(ls -A "$work/elsewhere")" "what the program left where it was started from"
+equal "" "$(find "$HOME" -type f ! -path '*/openbox/*')" "what the program left in its user's home"
 [ ! -e "$XDG_DATA_HOME/KarvexInvoicer" ] || fail "the data went to the user's folder"
 
 refused_beside_the_running_one KarvexInvoicer.bin
@@ -189,6 +191,7 @@ close_by_the_window_manager "$started" "Karvex Invoicer"
 cmp "$business/BillingSettings.txt" "$business/Backup/BillingSettings.txt" || fail "the backup of BillingSettings.txt"
 [ ! -e "$business/Backup/KarvexInvoicerSettings.txt" ] || fail "one name's end copied the other name's settings"
 equal "" "$(ls -A "$work/elsewhere")" "what the program left where it was started from"
+equal "" "$(find "$HOME" -type f ! -path '*/openbox/*')" "what the program left in its user's home"
 
 # A start that fails answers so to whoever started it.
 printf 'x\r\n' >"$business/BillingSettings.txt"
