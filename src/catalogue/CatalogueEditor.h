@@ -77,6 +77,7 @@ class CatalogueEditor {
   void ZeroWhereEmpty(CatalogueBox box, const QString& zero);
   bool MissesLine(CatalogueList list);
   QString CurrencyTextOf(CatalogueBox box) const;
+  QString ServiceCharge() const;
   qint16 Whole16(CatalogueBox box) const;
   void RequireInt32(CatalogueBox box) const;
 

@@ -2,8 +2,10 @@
 
 #include "catalogue/CatalogueCommands.h"
 #include "catalogue/CatalogueEditor.h"
+#include "catalogue/CatalogueRecords.h"
 #include "runtime/Dialogs.h"
 #include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
 using Box = CatalogueBox;
@@ -49,7 +51,7 @@ void CatalogueEditor::Save(CatalogueList list) {
 std::optional<QStringList> CatalogueEditor::CellsOf(CatalogueList list) {
   switch (list) {
     case CatalogueList::Services:
-      return QStringList{Text(Box::txtDescription0), CurrencyTextOf(Box::txtCharge0), Text(Box::lstTime)};
+      return QStringList{Text(Box::txtDescription0), ServiceCharge(), Text(Box::lstTime)};
     case CatalogueList::Items:
       return ItemCells();
     case CatalogueList::Custom:
@@ -123,6 +125,16 @@ QString CatalogueEditor::CurrencyTextOf(CatalogueBox box) const {
   const QString text = CurrencyText(ToNumber(Text(box), name));
   Currency::FromText(text, name);
   return text;
+}
+
+/// The file keeps the text, cut at its width: a longer one would be read back as another amount.
+QString CatalogueEditor::ServiceCharge() const {
+  const QString charge = CurrencyTextOf(Box::txtCharge0);
+  if (charge.size() > ServiceRecord::ChargeWidth) {
+    throw RuntimeError(ErrorNumber::Overflow, m_view.NameOf(Box::txtCharge0),
+                       charge + u" doesn't fit into the file, which keeps ten characters, as in $99,999.99."_s);
+  }
+  return charge;
 }
 
 qint16 CatalogueEditor::Whole16(CatalogueBox box) const {

@@ -5,11 +5,11 @@
 using namespace Qt::StringLiterals;
 
 ServiceRecord ServiceRecord::Read(const RecordView& record) {
-  return {record.Text(0, 60), record.Text(60, 10), record.Int16(70)};
+  return {record.Text(0, 60), record.Text(60, ChargeWidth), record.Int16(70)};
 }
 
 QByteArray ServiceRecord::Bytes() const {
-  return RecordBuilder(Length).Text(0, 60, Description).Text(60, 10, Charge).Int16(70, TimeIndex).Record();
+  return RecordBuilder(Length).Text(0, 60, Description).Text(60, ChargeWidth, Charge).Int16(70, TimeIndex).Record();
 }
 
 InventoryItemRecord InventoryItemRecord::Read(const RecordView& record) {

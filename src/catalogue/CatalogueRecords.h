@@ -28,6 +28,7 @@ inline QString Labor() {
 /// One service of `/Services.txt`.
 struct ServiceRecord {
   static constexpr int Length = 72;
+  static constexpr int ChargeWidth = 10;
   QString Description;
   QString Charge;        ///< The amount as the grid shows it.
   qint16 TimeIndex = 0;  ///< Position in `lstTime`.

@@ -130,17 +130,16 @@ void Catalogue::DeleteRow(CatalogueList list) {
   if (row < 1) return;
   if (grid.Rows() > 2) {
     const QStringList deleted = grid.RemoveItem(row);
+    // As a loaded grid has it, whatever fails: Delete is still live, and pressed again it must not hit the row behind.
+    grid.SetRow(0);
     for (const CatalogueList each : AllCatalogueLists) RequireRoom(each);
     try {
       SaveLists();
     } catch (const RuntimeError&) {
-      // Delete is still live: pressed again it must not hit the row behind.
       grid.InsertItem(row, deleted);
       grid.SetRow(row);
       throw;
     }
-    // As a loaded grid has it, should the load fail.
-    grid.SetRow(0);
     LoadLists();
     return;
   }

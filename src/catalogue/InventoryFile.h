@@ -19,9 +19,10 @@ class InventoryFile {
   /// Throws RuntimeError 6 for a file beyond the limit.
   explicit InventoryFile(CommonDiskRoutines& disk);
 
-  /// Takes `units` off the first record whose trimmed name equals `name` exactly, and writes that record. Throws
-  /// RuntimeError 6 where the difference doesn't fit 16 bits, 61, 70 or 75 where the write fails.
-  Stock Lower(const QString& name, qint16 units);
+  /// Takes `units` off the first record whose trimmed name equals `name` exactly, rounded to a whole number, a tie to
+  /// the even one, and writes that record. Throws RuntimeError 6 where there is such a record and they, or what they
+  /// leave, don't fit 16 bits; 61, 70 or 75 where the write fails.
+  Stock Lower(const QString& name, double units);
 
  private:
   RandomFile m_file;

@@ -49,6 +49,8 @@ QString ToolkitFilter(const QString& filter) {
 
 QtDialogs::QtDialogs() {
   KeepNoToolkitSettings();
+  // A desktop's own dialogs would keep such things of their own.
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }
 
 void QtDialogs::ShowMessage(const QString& text, const QString& title) {

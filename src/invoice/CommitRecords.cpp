@@ -24,15 +24,15 @@ namespace {
 constexpr int SalesJournalLength = 125;
 constexpr int TaxRecordLength = 75;
 
-/// The quantity as the inventory takes it: through a single-precision number and its text to the nearest whole number.
-qint16 InventoryUnits(const QString& quantity) {
+/// The quantity as the inventory takes it: through a single-precision number and its text.
+double InventoryUnits(const QString& quantity) {
   const double number = ToNumber(quantity, u"Quantity"_s);
   if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max())) {
     throw RuntimeError(ErrorNumber::Overflow, u"Quantity"_s);
   }
   const auto single = static_cast<float>(number);
   constexpr int singleDigits = 7;
-  return ToInt16(QString::number(static_cast<double>(single), 'g', singleDigits), u"Quantity"_s);
+  return ToNumber(QString::number(static_cast<double>(single), 'g', singleDigits), u"Quantity"_s);
 }
 
 }  // namespace

@@ -418,6 +418,12 @@ void CatalogueSaves::aDeleteTakesItsRowOutOfAnOverfullListThoughNothingIsSaved()
   QCOMPARE(ErrorOf([&] { tree.Catalog.DeleteRow(CatalogueList::Custom); }), 6);
   QVERIFY(!tree.Has(Custom));
   QCOMPARE(tree.Catalog.fgCustom.Rows(), 257);
+  // Pressed again it doesn't hit the row behind.
+  QCOMPARE(tree.Catalog.fgCustom.Row(), 0);
+  tree.Catalog.DeleteRow(CatalogueList::Custom);
+  QCOMPARE(tree.Catalog.fgCustom.Rows(), 257);
+  QVERIFY(!tree.Has(Custom));
+  tree.Catalog.fgCustom.SetRow(1);
   tree.Catalog.DeleteRow(CatalogueList::Custom);
   QCOMPARE(tree.Read(Custom).size(), 255 * 70);
 }

@@ -20,6 +20,7 @@ class ScreenAmounts : public QObject {
   void aBoxThatIsLeftIsRoundedToCentsOnce_data();
   void aBoxThatIsLeftIsRoundedToCentsOnce();
   void aServicesChargeIsSavedRoundedOnce();
+  void aServicesChargeThatItsFileWouldCutIsRefused();
   void theAmountsOfAnItemAreSavedRoundedOnce();
   void theCustomPricesAreSavedRoundedOnce();
   void laborRatesAreSavedRoundedOnce();
@@ -64,6 +65,25 @@ void ScreenAmounts::aServicesChargeIsSavedRoundedOnce() {
   screen.Click(4);
   screen.Click(0);
   QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), Field("Advice", 60) + Field("$12.34", 10) + Hex("01 00"));
+}
+
+void ScreenAmounts::aServicesChargeThatItsFileWouldCutIsRefused() {
+  CatalogueScreen screen;
+  screen.Open();
+  screen.Click(1);
+  screen.Fill("txtDescription_0", "Survey");
+  screen.PickTime("0:15");
+  screen.Fill("txtCharge_0", "100000");
+  screen.Program.Answers.Ok();
+  screen.Click(4);
+  QCOMPARE(screen.Program.Answers.Last().Text,
+           u"Service charge: $100,000.00 doesn't fit into the file, which keeps ten characters, as in $99,999.99. "
+           u"(error 6)\n\nCorrect what was typed and try again. Nothing was lost."_s);
+  QCOMPARE(screen.Text("txtDescription_0"), u"Survey"_s);
+  screen.Fill("txtCharge_0", "99999.99");
+  screen.Click(4);
+  screen.Click(0);
+  QCOMPARE(screen.Program.Tree.Bytes(u"/Services.txt"_s), Field("Survey", 60) + Field("$99,999.99", 10) + Hex("01 00"));
 }
 
 void ScreenAmounts::theAmountsOfAnItemAreSavedRoundedOnce() {

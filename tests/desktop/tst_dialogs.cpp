@@ -183,6 +183,7 @@ class UserDialogs : public QObject {
     m_dialogs.ChooseColor(0);
     answers.Dialog([](QDialog& dialog) { dialog.accept(); });
     m_dialogs.ChooseFont(u"Liberation Serif"_s);
+    QVERIFY(QApplication::testAttribute(Qt::AA_DontUseNativeDialogs));
     QDirIterator left(Home().path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     QVERIFY2(!left.hasNext(), qPrintable(left.next()));
   }

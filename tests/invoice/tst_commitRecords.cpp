@@ -303,20 +303,31 @@ class CommitRecordsTest : public QObject {
 
   void aQuantityThatIsNoNumberStopsTheInventoryThere_data() {
     QTest::addColumn<QString>("quantity");
+    QTest::addColumn<QString>("name");
     QTest::addColumn<int>("error");
-    QTest::newRow("letters") << u"3x"_s << 13;
-    QTest::newRow("too large") << u"32768"_s << 6;
-    QTest::newRow("beyond a single") << u"1E39"_s << 6;
+    QTest::newRow("letters") << u"3x"_s << u"no such item"_s << 13;
+    QTest::newRow("more than a stock can hold") << u"32768"_s << u"Rope"_s << 6;
+    QTest::newRow("beyond a single") << u"1E39"_s << u"no such item"_s << 6;
   }
   void aQuantityThatIsNoNumberStopsTheInventoryThere() {
     QFETCH(const QString, quantity);
+    QFETCH(const QString, name);
     QFETCH(const int, error);
     m_desk->Write(u"/KVInventoriedItems.txt"_s, Item(u"Rope"_s, 10));
     m_desk->AddLine({u"1"_s, u"Rope"_s});
-    m_desk->AddLine({quantity, u"no such item"_s});
+    m_desk->AddLine({quantity, name});
     m_desk->AddLine({u"1"_s, u"Rope"_s});
     QCOMPARE(ErrorOf([&] { Update(); }), error);
     QCOMPARE(OnHand(), QList<int>({9}));
+  }
+
+  void aQuantityBeyondAnyStockOfWhatIsNotStockedChangesNothing() {
+    m_desk->Write(u"/KVInventoriedItems.txt"_s, Item(u"Rope"_s, 10));
+    m_desk->AddLine({u"40000"_s, u"Leaflets"_s});
+    m_desk->AddLine({u"1"_s, u"Rope"_s});
+    Update();
+    QCOMPARE(OnHand(), QList<int>({9}));
+    QCOMPARE(m_desk->Boxes.Take(), QStringList());
   }
 
   void withoutAnInventoryNothingHappens() {
