@@ -107,7 +107,7 @@ void frmNewCustomer::LeaveScreen(bool forInvoice) {
   if (!m_editor.SaveAccepted()) {
     return;
   }
-  // The next screen stands before this one goes: were it to fail, the user would be left without a window.
+  // The next screen stands before this one goes: where it fails to show, this one never left.
   if (forInvoice) {
     m_screens.StartInvoiceFor(m_editor.CustomerForInvoice());
   } else {

@@ -12,7 +12,7 @@ struct WorkingInvoice;
 QString PartialInvoicesFolder();    ///< Root-relative, without a trailing separator.
 QString CompletedInvoicesFolder();  ///< The same.
 
-/// Root-relative name of an image. Throws RuntimeError 64 on `txtInvoiceNo` for a number that can't name a file.
+/// Root-relative name of an image. Throws RuntimeError 64, whose text tells the number, for one that can't name a file.
 QString InvoiceImageName(const QString& invoiceNo, bool complete);
 
 /// The four writers, called in this order. `complete` adds the lines that only a completed image has.
