@@ -97,7 +97,8 @@ void frmNewCustomer::ConnectMenu() {
   On(m_ui->mnuDelete, &QAction::triggered, [this] { m_editor.DeleteCustomer(); });
 }
 
-/// The two ways off the screen. A record that is being added is dropped by both, which is meant.
+/// The two ways off the screen. While Cancel shows, both drop the record that is being added, and leave whoever is in
+/// sight for the one before it, also once it was stored by a move. This is meant.
 void frmNewCustomer::LeaveScreen(bool forInvoice) {
   m_disk.CloseAllFiles();
   if (m_cmdCustomer[13]->isVisible()) {

@@ -1,4 +1,4 @@
-// The customer screen as its user meets it: opening, moving, adding, deleting, and the ways off it.
+// The customer screen as its user meets it: opening, moving, deleting, and the ways off it.
 #include "customers/CustomerDesk.h"
 
 using namespace Qt::StringLiterals;
@@ -202,113 +202,6 @@ class CustomerScreenTest : public QObject {
     QCOMPARE(desk.Customers().mid(20, 6), "Typed ");
   }
 
-  void anAddedCustomerIsKeptOnceTheScreenMovesOffHim() {
-    CustomerDesk desk(Many(1));
-    desk.Open();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QVERIFY(desk.Sees(u"cmdCustomer_13"_s));
-    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 2"_s);
-    QCOMPARE(desk.Focus(), u"txtCustomer_0"_s);
-    desk.Driver().Type(u"2"_s);
-    desk.Fill(u"txtCustomer_1"_s, u"Two"_s);
-    desk.Click(u"cmdNav_0"_s);
-    QCOMPARE(desk.Customers().size(), 656);
-    QCOMPARE(desk.Customers().mid(328, 24), "2                   Two ");
-    QVERIFY2(desk.Sees(u"cmdCustomer_13"_s), "stays until the next activation");
-  }
-
-  void cancellingAfterThatTakesTheCountBackAndKeepsTheRecord() {
-    CustomerDesk desk(Many(2));
-    desk.Open();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    desk.Driver().Type(u"3"_s);
-    desk.Fill(u"txtCustomer_1"_s, u"Three"_s);
-    desk.Click(u"cmdNav_0"_s);
-    desk.Click(u"cmdCustomer_13"_s);
-    QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
-    QCOMPARE(desk.Box(0), u"2"_s);
-    desk.Click(u"cmdNav_2"_s);
-    QCOMPARE(desk.Box(0), u"1"_s);
-    QCOMPARE(desk.Customers().size(), 3 * 328);
-  }
-
-  void cancelDropsTheCustomerBeingAdded() {
-    CustomerDesk desk(Many(2));
-    desk.Open();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    desk.Driver().Type(u"3"_s);
-    desk.Fill(u"txtCustomer_1"_s, u"Three"_s);
-    desk.Click(u"cmdCustomer_13"_s);
-    QCOMPARE(desk.Box(0), u"2"_s);
-    QCOMPARE(desk.Customers(), Many(2));
-  }
-
-  void addingWithoutANumberOnTheScreenIsSilent() {
-    CustomerDesk desk{QByteArray()};
-    desk.Open();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QCOMPARE(desk.BoxesShown(), 0);
-    QVERIFY2(!desk.Sees(u"cmdCustomer_13"_s), "nothing was added that could be cancelled");
-    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 1"_s);
-  }
-
-  void addingWithoutANumberCostsNoStoredCustomer() {
-    CustomerDesk desk(Many(2));
-    desk.Open();
-    desk.Click(u"cmdNav_3"_s);
-    const QByteArray before = desk.Customers();
-    desk.Fill(u"txtCustomer_0"_s, QString());
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
-    desk.Fill(u"txtCustomer_0"_s, u"2"_s);
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 3"_s);
-    QCOMPARE(desk.Customers(), before);
-  }
-
-  void addingAgainWithoutANumberKeepsTheCancelOfTheFirst() {
-    CustomerDesk desk(Many(2));
-    desk.Open();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QVERIFY(desk.Sees(u"cmdCustomer_13"_s));
-    desk.Click(u"cmdCustomer_13"_s);
-    QCOMPARE(desk.Box(0), u"2"_s);
-  }
-
-  void addingOnAFullDiskCostsNoStoredCustomer() {
-    CustomerDesk desk(Many(2));
-    desk.Open();
-    desk.Click(u"cmdNav_3"_s);
-    const QByteArray before = desk.Customers();
-    desk.Program.Files.FailAt(FailingDevice::Call::Write, 1, ENOSPC);
-    desk.Program.Answers.Ok();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
-    desk.Program.Files.Reset();
-    desk.Click(u"cmdCustomer_0"_s);
-    desk.GoFromMenu();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QCOMPARE(desk.Text(u"fraCustomer"_s), u"Account Information for Customer No 3"_s);
-    desk.Driver().Type(u"3"_s);
-    desk.Fill(u"txtCustomer_1"_s, u"Three"_s);
-    desk.Click(u"cmdNav_0"_s);
-    QCOMPARE(desk.Customers().size(), 3 * 328);
-    QCOMPARE(desk.Customers().first(2 * 328), before);
-  }
-
-  void aFullFileTakesNoMoreAndOffersNoCancel() {
-    CustomerDesk desk(BusinessRecord("1", "One") + QByteArray(328 * 32766, ' '));
-    desk.Open();
-    desk.Program.Answers.Ok(desk.Program.Tree.Path(u"/CustomerData.txt"_s) +
-                            u": The customer file is full: it holds 32,767 customers. (error 6)\n\n"
-                            "Delete one first. Nothing was lost."_s);
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    QVERIFY(!desk.Sees(u"cmdCustomer_13"_s));
-    QCOMPARE(desk.Box(0), u"1"_s);
-    QCOMPARE(desk.Customers().size(), 328 * 32767);
-  }
-
   void aDeleteThatFailsLateNeverSavesTheDeletedOverAnother() {
     CustomerDesk desk(Many(3));
     desk.Open();
@@ -341,18 +234,6 @@ class CustomerScreenTest : public QObject {
     QCOMPARE(desk.Text(u"lbLType"_s), u"Business"_s);
     QVERIFY(desk.Sees(u"txtCustomer_1"_s));
     QVERIFY(!desk.Sees(u"txtCustomer_8"_s));
-  }
-
-  void menuDuringAnAddDropsTheNewCustomer() {
-    CustomerDesk desk(Many(2));
-    desk.Open();
-    desk.Driver().Trigger(u"mnuAdd"_s);
-    desk.Driver().Type(u"3"_s);
-    desk.Fill(u"txtCustomer_1"_s, u"Three"_s);
-    desk.Click(u"cmdCustomer_0"_s);
-    QVERIFY(!desk.Shown());
-    QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
-    QCOMPARE(desk.Customers(), Many(2));
   }
 
   void aDeleteAsksOnceAndANoChangesNothing() {
