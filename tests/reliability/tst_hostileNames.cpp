@@ -23,29 +23,34 @@ struct Name {
   const char* Label;
   QString Text;
   bool CanNameAFile;
+  /// What a paste leaves of it in the box of the account number, which takes none of , & . \ * / ? but behind a number.
+  QString InAccountBox;
+  /// And in that of the invoice number, which takes digits, and a point behind them.
+  QString InNumberBox;
   Template As = Template::Saved;
 };
 
 const QList<Name>& Names() {
-  static const QList<Name> names{{"the folder above", u".."_s, false},
-                                 {"the folder itself", u"."_s, false},
-                                 {"up and out", u"../../secret"_s, false, Template::Refused},
-                                 {"up and out, backslashes", u"..\\..\\secret"_s, false, Template::Refused},
-                                 {"through a folder", u"x/../../secret"_s, false, Template::Refused},
-                                 {"a separator", u"10/01"_s, false, Template::NoFolder},
-                                 {"a backslash", u"10\\01"_s, false, Template::NoFolder},
-                                 {"from the root", u"/secret"_s, false},
-                                 {"a zero byte", u"10"_s + QChar::Null + u"01"_s, false, Template::Refused},
-                                 {"a device's name", u"CON"_s, true},
-                                 {"another device's name", u"NUL"_s, true},
-                                 {"a device's name with an ending", u"COM1.txt"_s, true},
-                                 {"three dots", u"..."_s, true},
-                                 {"hidden", u".1001"_s, true},
-                                 {"an option", u"-rf"_s, true},
-                                 {"a home", u"~root"_s, true},
-                                 {"wildcards", u"*?[a]"_s, true},
-                                 {"a percent sign", u"%1%2%n"_s, true},
-                                 {"the new file's ending", u"1001.new"_s, true}};
+  static const QList<Name> names{
+      {"the folder above", u".."_s, false, u""_s, u""_s},
+      {"the folder itself", u"."_s, false, u""_s, u""_s},
+      {"up and out", u"../../secret"_s, false, u"secret"_s, u""_s, Template::Refused},
+      {"up and out, backslashes", u"..\\..\\secret"_s, false, u"secret"_s, u""_s, Template::Refused},
+      {"through a folder", u"x/../../secret"_s, false, u"xsecret"_s, u""_s, Template::Refused},
+      {"a separator", u"10/01"_s, false, u"10/01"_s, u"1001"_s, Template::NoFolder},
+      {"a backslash", u"10\\01"_s, false, u"10\\01"_s, u"1001"_s, Template::NoFolder},
+      {"from the root", u"/secret"_s, false, u"secret"_s, u""_s},
+      {"a zero byte", u"10"_s + QChar::Null + u"01"_s, false, u"1001"_s, u"1001"_s, Template::Refused},
+      {"a device's name", u"CON"_s, true, u"CON"_s, u""_s},
+      {"another device's name", u"NUL"_s, true, u"NUL"_s, u""_s},
+      {"a device's name with an ending", u"COM1.txt"_s, true, u"COM1txt"_s, u"1."_s},
+      {"three dots", u"..."_s, true, u""_s, u""_s},
+      {"hidden", u".1001"_s, true, u"1001"_s, u"1001"_s},
+      {"an option", u"-rf"_s, true, u"-rf"_s, u""_s},
+      {"a home", u"~root"_s, true, u"~root"_s, u""_s},
+      {"wildcards", u"*?[a]"_s, true, u"[a]"_s, u""_s},
+      {"a percent sign", u"%1%2%n"_s, true, u"%1%2%n"_s, u"12"_s},
+      {"the new file's ending", u"1001.new"_s, true, u"1001.new"_s, u"1001."_s}};
   return names;
 }
 
@@ -53,6 +58,12 @@ void AddNames() {
   QTest::addColumn<QString>("name");
   QTest::addColumn<bool>("safe");
   for (const Name& name : Names()) QTest::newRow(name.Label) << name.Text << name.CanNameAFile;
+}
+
+void AddPastes(QString Name::*left) {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QString>("left");
+  for (const Name& name : Names()) QTest::newRow(name.Label) << name.Text << name.*left;
 }
 
 QByteArray CustomerOf(const QString& account) {
@@ -63,6 +74,11 @@ QByteArray CustomerOf(const QString& account) {
 void Stock(const TemporaryTree& tree, const QString& account) {
   OneDay::Stock(tree);
   tree.Write(u"/CustomerData.txt"_s, CustomerOf(account));
+}
+
+QStringList Sorted(QStringList names) {
+  names.sort();
+  return names;
 }
 
 void PasteInto(const ScreenDriver& screen, const QString& box, const QString& text) {
@@ -108,11 +124,11 @@ class HostileNames : public QObject {
   void anAccountOfTheFileStaysInTheTree();
   void anAccountOfTheFileWritesItsNotesInTheTree_data() { AddNames(); }
   void anAccountOfTheFileWritesItsNotesInTheTree();
-  void aPastedAccountStaysInTheTree_data() { AddNames(); }
+  void aPastedAccountStaysInTheTree_data() { AddPastes(&Name::InAccountBox); }
   void aPastedAccountStaysInTheTree();
   void aDeletedAccountTakesNothingFromOutside_data() { AddNames(); }
   void aDeletedAccountTakesNothingFromOutside();
-  void aPastedInvoiceNumberStaysInTheTree_data() { AddNames(); }
+  void aPastedInvoiceNumberStaysInTheTree_data() { AddPastes(&Name::InNumberBox); }
   void aPastedInvoiceNumberStaysInTheTree();
   void aPartialInvoiceOfAForeignNumberStaysInTheTree_data() { AddNames(); }
   void aPartialInvoiceOfAForeignNumberStaysInTheTree();
@@ -164,43 +180,54 @@ void HostileNames::anAccountOfTheFileWritesItsNotesInTheTree() {
   QVERIFY(fenced.Start());
   OneDay::GoToCustomers();
   const ScreenDriver screen(u"frmNewCustomer"_s);
-  auto agree = std::make_unique<AnyAnswer>(program.Answers);
   screen.Trigger(u"mnuAux"_s);
-  if (screen.IsVisible(u"txtAux_0"_s)) {
-    screen.Click(u"txtAux_0"_s);
-    screen.Paste(u"a note"_s);
-    screen.Click(u"cmdSaveAux_1"_s);
+  screen.Click(u"txtAux_0"_s);
+  screen.Paste(u"a note"_s);
+  if (!safe) program.Answers.Ok();
+  screen.Click(u"cmdSaveAux_1"_s);
+  QVERIFY(program.Answers.AllUsed());
+  if (safe) {
+    QCOMPARE(program.Tree.Bytes(u"/AuxFiles/"_s + name + u"/AuxFile0/Data.txt"_s), "a note\r\n");
+  } else {
+    QVERIFY(program.Answers.Last().Text.startsWith(u"The account number \"%1\" names the folder"_s.arg(name)));
+    QCOMPARE(program.Tree.List(u"/AuxFiles"_s), QStringList{});
   }
-  agree.reset();
-  QCOMPARE(program.Tree.Exists(u"/AuxFiles/"_s + name + u"/AuxFile0/Data.txt"_s), safe);
   QCOMPARE(fenced.Outside(), QString());
   QVERIFY(!program.Running().HasEnded());
 }
 
 void HostileNames::aPastedAccountStaysInTheTree() {
-  QFETCH(QString, name);
+  QFETCH(const QString, name);
+  QFETCH(const QString, left);
   Fenced fenced;
   ProgramFixture& program = fenced.Program;
-  OneDay::Stock(program.Tree);
+  Stock(program.Tree, u"7"_s);
   QVERIFY(fenced.Start());
   const QByteArray before = program.Tree.Bytes(u"/CustomerData.txt"_s);
   OneDay::GoToCustomers();
   const ScreenDriver screen(u"frmNewCustomer"_s);
-  auto agree = std::make_unique<AnyAnswer>(program.Answers);
   screen.Trigger(u"mnuAdd"_s);
   PasteInto(screen, u"txtCustomer_0"_s, name);
+  QCOMPARE(screen.Text(u"txtCustomer_0"_s), left);
   PasteInto(screen, u"txtCustomer_1"_s, u"Bell Farm"_s);
   PasteInto(screen, u"txtCustomer_6"_s, u"555-0123"_s);
+  const bool refused = !left.isEmpty() && !CanNameAFile(left);
+  if (refused) program.Answers.Ok({}, u"Invalid Account Number"_s);
+  if (left.isEmpty()) program.Answers.Ok(u"Telephone Number will be used as Acct No."_s, u"Account not Entered"_s);
   screen.Click(u"cmdNav_0"_s);
-  agree.reset();
+  QVERIFY(program.Answers.AllUsed());
   QVERIFY(!program.Running().HasEnded());
+  const QString account = left.isEmpty() ? u"555-0123"_s : left;
+  const QByteArray stored = Field(account.toLatin1(), 20) + Field("Bell Farm", 45);
   const QByteArray after = program.Tree.Bytes(u"/CustomerData.txt"_s);
-  QVERIFY(after.startsWith(before) && after.size() % 328 == 0);
-  // What was stored, if anything, can name its files: the next start makes their folders.
+  QCOMPARE(after.first(328), before);
+  QCOMPARE(after.size(), refused ? 328 : 2 * 328);
+  QCOMPARE(after.mid(328, stored.size()), refused ? QByteArray() : stored);
+  // What was stored names the folders that the next start makes.
   QVERIFY(program.Start());
-  const QByteArray stored = after.mid(328, 20).trimmed();
-  QVERIFY2(stored.isEmpty() || program.Tree.Exists(u"/AuxFiles/"_s + QString::fromLatin1(stored) + u"/AuxFile5"_s),
-           stored.constData());
+  QStringList folders{u"7/"_s};
+  if (!refused) folders << account + u'/';
+  QCOMPARE(program.Tree.List(u"/AuxFiles"_s), Sorted(folders));
   QCOMPARE(fenced.Outside(), QString());
 }
 
@@ -216,38 +243,51 @@ void HostileNames::aDeletedAccountTakesNothingFromOutside() {
   program.Tree.Write(u"/secret.txt"_s, "of the root");
   QVERIFY(fenced.Start());
   OneDay::GoToCustomers();
-  auto agree = std::make_unique<AnyAnswer>(program.Answers);
+  program.Answers.Yes(u"Delete this Customer"_s);
   ScreenDriver(u"frmNewCustomer"_s).Trigger(u"mnuDelete"_s);
-  agree.reset();
+  QVERIFY(program.Answers.AllUsed());
   QCOMPARE(fenced.Outside(), QString());
   QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
-  const QByteArray left = program.Tree.Bytes(u"/CustomerData.txt"_s);
-  QVERIFY(left == other || left == CustomerOf(name) + other);
-  if (safe) {
-    QVERIFY(left == other);
-    QVERIFY(!program.Tree.Exists(u"/KVActiveAccounts/"_s + name + u".txt"_s));
-  }
+  QCOMPARE(program.Tree.Bytes(u"/CustomerData.txt"_s), other);
+  if (safe) QVERIFY(!program.Tree.Exists(u"/KVActiveAccounts/"_s + name + u".txt"_s));
 }
 
 void HostileNames::aPastedInvoiceNumberStaysInTheTree() {
-  QFETCH(QString, name);
+  QFETCH(const QString, name);
+  QFETCH(const QString, left);
   Fenced fenced;
   ProgramFixture& program = fenced.Program;
   OneDay::Stock(program.Tree);
   QVERIFY(fenced.Start());
   OneDay::ComposeInvoice();
   const ScreenDriver invoice(u"frmInvoice"_s);
-  auto agree = std::make_unique<AnyAnswer>(program.Answers);
   invoice.Trigger(u"mnuSetup"_s);
   PasteInto(invoice, u"txtInvoiceNo"_s, name);
+  QCOMPARE(invoice.Text(u"txtInvoiceNo"_s), left);
+  const auto before = program.Tree.Everything();
+  if (left.isEmpty()) {
+    // Told as the box is left and by Continue, and as it is left again, which keeps the save from running.
+    program.Answers.Ok(u"Enter an Invoice Number"_s);
+    program.Answers.Ok(u"You have not entered an Invoice Number"_s);
+  }
   invoice.Click(u"cmdInvoice_0"_s);
+  QVERIFY(program.Answers.AllUsed());
+  if (left.isEmpty()) {
+    program.Answers.Ok(u"Enter an Invoice Number"_s);
+  } else {
+    OneDay::AnswerPartialSave(program);
+  }
   invoice.Click(u"cmdSave"_s);
-  agree.reset();
+  QVERIFY(program.Answers.AllUsed());
   QVERIFY(!program.Running().HasEnded());
   QCOMPARE(fenced.Outside(), QString());
-  // The box takes digits and a point alone: with nothing left of the name there is no invoice to be saved.
-  for (const QString& file : program.Tree.List(u"/KarvexInvoicer/IncompleteInvoices"_s)) {
-    QVERIFY2(QRegularExpression(u"^[0-9.]+\\.txt$"_s).match(file).hasMatch(), qPrintable(file));
+  if (left.isEmpty()) {
+    QCOMPARE(program.Tree.Everything(), before);
+  } else {
+    const QString folder = u"/KarvexInvoicer/IncompleteInvoices"_s;
+    QCOMPARE(program.Tree.List(folder), QStringList{left + u".txt"_s});
+    QVERIFY(program.Tree.Bytes(folder + u'/' + left + u".txt"_s)
+                .startsWith(left.toLatin1() + "\r\n1001\r\nAcme Tools\r\n"));
   }
 }
 
@@ -296,31 +336,43 @@ void HostileNames::aPartialInvoiceOfAForeignNumberStaysInTheTree() {
 }
 
 void HostileNames::aPartialInvoiceListedUnderAForeignNumberTakesNothingFromOutside() {
-  QFETCH(QString, name);
+  QFETCH(const QString, name);
+  QFETCH(const bool, safe);
   Fenced fenced;
   ProgramFixture& program = fenced.Program;
   OneDay::Stock(program.Tree);
   const QString file = u"/KarvexInvoicer/IncompleteInvoices/20260009.txt"_s;
-  const QByteArray before = PartialOf(name, u"20260009"_s);
-  program.Tree.Write(file, before);
+  program.Tree.Write(file, PartialOf(name, u"20260009"_s));
   program.Tree.Write(u"/secret.txt"_s, "of the root");
   QVERIFY(fenced.Start());
+  const auto before = program.Tree.Everything();
   const ScreenDriver menu(u"frmStartup"_s);
   menu.Click(u"optMainMenuSub_1"_s);
   menu.Click(u"cmdGoto"_s);
   const ScreenDriver partials(u"frmIncomplete"_s);
+  const auto told = [&] {
+    return program.Answers.AllUsed() &&
+           program.Answers.Last().Text.contains(safe ? u"(error 53)"_s : u"\"%1\" can't name a file."_s.arg(name));
+  };
   // Its recall and its purge go by the listed number, and there is no such file.
-  for (const QString& button : {u"Command1_1"_s, u"Command1_3"_s}) {
-    auto agree = std::make_unique<AnyAnswer>(program.Answers);
-    partials.SelectRow(u"fgIncomplete"_s, 1);
-    partials.Click(button);
-    agree.reset();
-    QVERIFY(!program.Running().HasEnded());
-    QCOMPARE(fenced.Outside(), QString());
-    QCOMPARE(program.Tree.Bytes(u"/secret.txt"_s), "of the root");
-    if (!ScreenDriver::IsShown(u"frmIncomplete"_s)) break;
-  }
-  QCOMPARE(program.Tree.Bytes(file), before);
+  partials.SelectRow(u"fgIncomplete"_s, 1);
+  program.Answers.Ok();
+  partials.Click(u"Command1_1"_s);
+  QVERIFY2(told(), qPrintable(program.Answers.Last().Text));
+  QVERIFY(ScreenDriver::IsShown(u"frmIncomplete"_s));
+  QCOMPARE(program.Tree.Everything(), before);
+  partials.SelectRow(u"fgIncomplete"_s, 1);
+  program.Answers.Yes(u"This will Purge Incomplete Invoice# "_s + name);
+  program.Answers.Yes(u"Are You Sure?"_s);
+  if (!safe) program.Answers.Ok();
+  partials.Click(u"Command1_3"_s);
+  QVERIFY(program.Answers.AllUsed());
+  if (!safe) QVERIFY2(told(), qPrintable(program.Answers.Last().Text));
+  // A purge that went through leads back to the menu.
+  QCOMPARE(ScreenDriver::IsShown(u"frmStartup"_s), safe);
+  QVERIFY(!program.Running().HasEnded());
+  QCOMPARE(program.Tree.Everything(), before);
+  QCOMPARE(fenced.Outside(), QString());
 }
 
 void HostileNames::aTemplateStaysInTheTree_data() {
