@@ -122,7 +122,9 @@ void CheckReadLater(const ReadLater& about, const CopyState& live, const CopySta
     const QString text = program.Answers.Last().Text;
     QVERIFY2(text.contains(WordsOf(about, read)), qPrintable(text));
   }
-  QCOMPARE(program.Running().HasEnded(), !read.Loads && about.Then == ReadLater::Unreadable::EndsIt);
+  const bool ends = !read.Loads && about.Then == ReadLater::Unreadable::EndsIt;
+  QCOMPARE(program.Running().HasEnded(), ends);
+  QCOMPARE(program.Running().HasFailed(), ends);
   const bool dropped = read.Loads && about.Kind == ReadLater::Copy::Dropped;
   const auto kept = dropped ? std::nullopt : copy.Bytes;
   QCOMPARE(Held(program.Tree, CopyOf(about.File)), kept);
