@@ -111,9 +111,9 @@ void RandomInvoice::PostAnyLine() {
                      .Taxed = Desk->Tax.ckServices});
     }
     case LineKind::Item:
-      return PostFromList(LineKind::Item, Desk->Lists.ItemBreaks[1], 0);
+      return PostFromList(LineKind::Item, Desk->Lists.ItemBreaks[1]);
     case LineKind::Custom:
-      return PostFromList(LineKind::Custom, Desk->Lists.CustomBreaks[1], 0);
+      return PostFromList(LineKind::Custom, Desk->Lists.CustomBreaks[1]);
     case LineKind::Manual:
       return PostManualLine();
     default:
@@ -122,9 +122,10 @@ void RandomInvoice::PostAnyLine() {
 }
 
 /// With a price from the list, to which the break may apply, or a typed one, to which none does.
-void RandomInvoice::PostFromList(int kind, const QuantityBreak& quantityBreak, qint64 price) {
+void RandomInvoice::PostFromList(int kind, const QuantityBreak& quantityBreak) {
   const int element = ElementOf(kind);
   const qint64 quantity = Upto(2500);
+  qint64 price = 0;
   SelectDescription(Invoice(), Desk->Lists, element, 0);
   const bool typed = Chance(50);
   if (typed) {

@@ -38,7 +38,7 @@ class RandomInvoice {
   void ChooseSettings();
   void FillCatalogue();
   void PostAnyLine();
-  void PostFromList(int kind, const QuantityBreak& quantityBreak, qint64 price);
+  void PostFromList(int kind, const QuantityBreak& quantityBreak);
   void PostManualLine();
   void PostLaborLine();
   void Expect(const Oracle::Line& line);
