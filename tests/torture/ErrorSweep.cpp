@@ -39,6 +39,13 @@ QSet<QString> ChangedBefore(const std::vector<Note>& notes, int nth, const QStri
   return names;
 }
 
+/// Whether one of the boxes names the file, the folder, or something in the folder: a name that goes on is another
+/// one's.
+bool IsNamedIn(const QStringList& told, const QString& name) {
+  const QRegularExpression whole(QRegularExpression::escape(name) + u"(?![\\w-]|\\.\\w)"_s);
+  return std::any_of(told.begin(), told.end(), [&](const QString& box) { return box.contains(whole); });
+}
+
 }  // namespace
 
 /// What was being written when it failed isn't published.
@@ -56,9 +63,8 @@ bool Sweep::NamesTheRootOrAFileInIt(const QStringList& told) const {
   const QRegularExpression alone(QRegularExpression::escape(m_bench.Root()) + u"(?!/)"_s);
   const QSet<QString> touched =
       ChangedBefore(m_bench.Unharmed().Notes, std::numeric_limits<int>::max(), m_bench.Root());
-  return std::any_of(told.begin(), told.end(), [&](const QString& box) {
-    return box.contains(alone) || std::any_of(touched.begin(), touched.end(),
-                                              [&](const QString& name) { return box.contains(m_bench.Root() + name); });
+  return !told.filter(alone).isEmpty() || std::any_of(touched.begin(), touched.end(), [&](const QString& name) {
+    return IsNamedIn(told, m_bench.Root() + name);
   });
 }
 
@@ -72,9 +78,7 @@ QString Sweep::JudgeTelling(const Outcome& outcome) const {
   // A print job tells in its own words.
   if (!told.filter(u"A Print Error has occurred"_s).isEmpty()) return {};
   // A folder's failure is told by the file whose name was to be kept in it.
-  const auto names = [&](const QString& file) {
-    return std::any_of(told.begin(), told.end(), [&](const QString& box) { return box.contains(file); });
-  };
+  const auto names = [&](const QString& file) { return IsNamedIn(told, file); };
   if (!mustTell && !done) {
     // What fails behind it, on the way back to the menu, is told as ever.
     for (const auto& [name, bytes] : m_bench.After().asKeyValueRange()) {
