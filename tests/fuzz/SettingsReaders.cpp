@@ -17,7 +17,7 @@ bool BeginsLikeAPicture(const QByteArray& content) {
 
 void LoadLogoOf(ReaderDesk& desk) {
   PrintAppearance print;
-  LoadLogo(desk.Disk(), print, BeginsLikeAPicture);
+  LoadLogoAtStart(desk.Disk(), print, BeginsLikeAPicture);
 }
 
 }  // namespace
