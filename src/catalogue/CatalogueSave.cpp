@@ -132,8 +132,10 @@ void Catalogue::DeleteRow(CatalogueList list) {
     const QStringList deleted = grid.RemoveItem(row);
     // As a loaded grid has it, whatever fails: Delete is still live, and pressed again it must not hit the row behind.
     grid.SetRow(0);
-    for (const CatalogueList each : AllCatalogueLists) RequireRoom(each);
+    // An overfull list shrinks, row by row, though nothing can be saved yet.
+    RequireRoom(list);
     try {
+      for (const CatalogueList each : AllCatalogueLists) RequireRoom(each);
       SaveLists();
     } catch (const RuntimeError&) {
       grid.InsertItem(row, deleted);

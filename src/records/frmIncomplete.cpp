@@ -80,7 +80,9 @@ void frmIncomplete::PurgeAll() {
 }
 
 void frmIncomplete::PurgeSelected() {
-  // Until the next click on a row, whatever is answered.
+  // Until the next click on a row, whatever is answered. The focus would go on to Purge All, which a second Enter would
+  // press.
+  SetFocusTo(m_ui->fgIncomplete);
   m_Command1[3]->setEnabled(false);
   const TextMatrix& grid = m_desk.Partials.fgIncomplete;
   if (!m_desk.Boxes.AskYesNo(u"This will Purge Incomplete Invoice# "_s + grid.Text(grid.Row(), 0),

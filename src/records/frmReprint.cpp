@@ -1,6 +1,7 @@
 #include "records/frmReprint.h"
 
 #include <QMouseEvent>
+#include <QShortcut>
 
 #include "customers/CustomerOnScreen.h"
 #include "desktop/LabelText.h"
@@ -53,6 +54,12 @@ frmReprint::frmReprint(ScreenHost& host, const ReprintDesk& desk)
   m_ui->fgItems->SetMatrix(&m_desk.Shown.fgItems);
   m_ui->DTPicker1->Change = [this] { ChangeDate(); };
   On(m_ui->mnuSort, &QAction::triggered, [this] { mnuSort(); });
+  auto* escape = new QShortcut(Qt::Key_Escape, m_ui->fraSort);
+  escape->setContext(Qt::WidgetWithChildrenShortcut);
+  On(escape, &QShortcut::activated, [this] { HideSort(); });
+  // Escape loses nothing: out of a memo in which something was typed only the buttons lead.
+  On(m_ui->txtMemo, &QPlainTextEdit::modificationChanged,
+     [this](bool typed) { SetEscapeButton(typed ? nullptr : m_ui->cmdHide); });
   m_ui->cmdMemo->installEventFilter(this);
   OnClick(m_ui->cmdMode, [this] { cmdMode(); });
   OnClick(m_ui->cmdHide, [this] { cmdHide(); });
@@ -139,6 +146,7 @@ void frmReprint::ShowInvoice() {
   ShowOnLabel(m_Label1[9], shown.Reference);
   m_ui->txtAttn->setText(shown.Attention);
   m_ui->txtMemo->setPlainText(MemoText(MemoLines(m_desk.Disk).value_or(QStringList())));
+  m_ui->txtMemo->document()->setModified(false);
   // In the image's order.
   constexpr std::array<int, 7> elements{0, 1, 9, 2, 4, 5, 6};
   for (std::size_t i = 0; i < elements.size(); ++i) ShowOnLabel(m_lblInvoice[elements[i]], shown.Amounts[i]);
@@ -163,17 +171,25 @@ void frmReprint::cmdHide() {
 
 void frmReprint::mnuSort() {
   m_ui->fraSort->show();
+  SetEnterButton(m_ui->cmdMode);
   SetFocusTo(m_optCol[Chosen(m_optCol)]);
+}
+
+void frmReprint::HideSort() {
+  m_ui->fraSort->hide();
+  SetEnterButton(nullptr);
+  SetFocusTo(m_ui->fgReceivables);
 }
 
 void frmReprint::cmdMode() {
   SortCompletedInvoices(m_desk.Completed, Chosen(m_optCol), Chosen(m_optSort));
-  m_ui->fraSort->hide();
-  SetFocusTo(m_ui->fgReceivables);
+  HideSort();
 }
 
 void frmReprint::cmdMemo() {
   m_ui->txtMemo->clear();
+  m_ui->txtMemo->document()->setModified(false);
+  SetEscapeButton(m_ui->cmdHide);
   KillMemo(m_desk.Disk);
 }
 
@@ -181,6 +197,7 @@ void frmReprint::cmdPrint() {
   m_desk.Routines.RunPrintJob(m_desk.Boxes, [this] {
     m_desk.Routines.BeginPrintJob(u"Invoice "_s + m_desk.Shown.InvoiceNo);
     SaveMemo(m_ui->txtMemo->toPlainText(), m_desk.Disk);
+    m_ui->txtMemo->document()->setModified(false);
     m_desk.Pages.PrintReprint(PageOf(m_desk.Shown, m_desk.Customer.UsaAddress));
   });
 }

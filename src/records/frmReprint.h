@@ -62,6 +62,7 @@ class frmReprint final : public Screen {
   void cmdExit();
   void cmdHide();
   void mnuSort();
+  void HideSort();
   void cmdMode();
   void cmdMemo();
   void cmdPrint();

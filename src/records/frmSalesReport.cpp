@@ -140,7 +140,10 @@ void frmSalesReport::PrintReport() {
     ProgressBox progress = ProgressBox::OfReport(m_desk.Patience);
     m_desk.Report.PrintItemSales(m_desk.Sales, m_desk.Range, progress.Teller());
   });
-  if (printed) m_cmdSales[4]->setEnabled(false);
+  if (!printed) return;
+  // The focus would go on to Menu, which a second Enter would press.
+  SetFocusTo(m_ui->fgSalesItems);
+  m_cmdSales[4]->setEnabled(false);
 }
 
 void frmSalesReport::mnuDelete() {

@@ -289,6 +289,16 @@ void FileStore::Copy(const QString& from, const QString& to) {
 void FileStore::Rename(const QString& from, const QString& to) {
   RequireInTree(from);
   RequireInTree(to);
+  const int mayWrite = m_device.MayWrite(to);
+  if (mayWrite != -ENOENT) {
+    // As where a file is written anew: what is replaced keeps its protection and its permissions.
+    CheckFile(mayWrite, to);
+    const int descriptor = m_device.Open(from, FileDevice::OpenMode::Read);
+    CheckFile(descriptor, from);
+    OpenFile file(m_device, descriptor);
+    CheckFile(m_device.CopyPermissions(to, descriptor), to);
+    CheckFile(file.Close(), from);
+  }
   CheckFile(m_device.Rename(from, to), from);
   FlushFolderOf(m_device, to);
 }

@@ -85,6 +85,7 @@ class CatalogueSaves : public QObject {
   void aDeleteThatCannotBeSavedLeavesItsRowTheCurrentOne();
   void aDeleteWhoseReloadFailsLeavesNoCurrentRow();
   void aDeleteTakesItsRowOutOfAnOverfullListThoughNothingIsSaved();
+  void aDeleteKeepsItsRowWhereAnotherListIsOverfull();
   void aTypedCategoryIsOfferedAndTheInvoiceListGetsTheRecordLastRead();
   void anEmptyCategoryIsNotOffered();
   void oneCategoryNarrowsTheItemListAndItsBreaks();
@@ -426,6 +427,17 @@ void CatalogueSaves::aDeleteTakesItsRowOutOfAnOverfullListThoughNothingIsSaved()
   tree.Catalog.fgCustom.SetRow(1);
   tree.Catalog.DeleteRow(CatalogueList::Custom);
   QCOMPARE(tree.Read(Custom).size(), 255 * 70);
+}
+
+void CatalogueSaves::aDeleteKeepsItsRowWhereAnotherListIsOverfull() {
+  CatalogueTree tree;
+  for (const QString& name : {u"a"_s, u"b"_s, u"c"_s}) AddService(tree, name);
+  for (int i = 0; i < 256; ++i) AddCustom(tree, u"c"_s);
+  tree.Catalog.fgServices.SetRow(2);
+  QCOMPARE(ErrorOf([&] { tree.Catalog.DeleteRow(CatalogueList::Services); }), 6);
+  QCOMPARE(Column(tree.Catalog.fgServices, 0), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
+  QCOMPARE(tree.Catalog.fgServices.Row(), 2);
+  QVERIFY(!tree.Has(Services));
 }
 
 void CatalogueSaves::aTypedCategoryIsOfferedAndTheInvoiceListGetsTheRecordLastRead() {

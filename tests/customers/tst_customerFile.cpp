@@ -179,6 +179,25 @@ class CustomerFileTest : public QObject {
     QCOMPARE(m_file->ReadLists(5).Cities, (QStringList{u"Reno"_s, QString(), u"Elko"_s, u"reno"_s}));
   }
 
+  /// Made anew it would be blank records, and the exit backup would copy it over the good copy.
+  void aFileThatWentMissingComesBackFromItsCopyBeforeItIsReadOrWritten() {
+    const QByteArray copy = Many(3);
+    const std::initializer_list<std::function<void()>> uses{[&] { m_file->Read(2); }, [&] { m_file->ReadLists(3); },
+                                                            [&] {
+                                                              m_file->Find({EveryCustomer, {}}, 3);
+                                                            }};
+    for (const auto& use : uses) {
+      QFile::remove(m_tree->Path(u"/CustomerData.txt"_s));
+      m_tree->Put(u"/Backup/CustomerData.txt"_s, copy);
+      use();
+      QCOMPARE(Customers(), copy);
+    }
+    m_file->Read(3);
+    QVERIFY(QFile::remove(m_tree->Path(u"/CustomerData.txt"_s)));
+    m_file->Write(2);
+    QCOMPARE(Customers(), copy.first(328) + copy.last(328) + copy.last(328));
+  }
+
   void aDeleteTakesOneRecordItsLedgerAndTheBackupCopies() {
     const QByteArray one = BusinessRecord("1", "One"), two = BusinessRecord("2", "Two"),
                      three = BusinessRecord("3", "Three");

@@ -23,6 +23,7 @@ class ScreenPartials : public QObject {
   void theCaptions();
   void addAndPurgeWaitForAClickOnARow();
   void aKeyClicksTheRowToo();
+  void aDeclinedPurgeLeavesTheKeysAtTheList();
   void theMenuButtonAndEscapeLeadBack();
   void theListIsReadAnewAtEachShowing();
   void withoutPartialInvoicesTheChoiceLeavesNoWindow();
@@ -96,6 +97,19 @@ void ScreenPartials::aKeyClicksTheRowToo() {
     desk.Program.Answers.No(u"This will Purge Incomplete Invoice# 20260008"_s);
     partials.Click(u"Command1_3"_s);
   }
+}
+
+/// On the next button, which purges all, a second Enter would ask for that.
+void ScreenPartials::aDeclinedPurgeLeavesTheKeysAtTheList() {
+  PartialsDesk desk;
+  QVERIFY(desk.Open());
+  const ScreenDriver partials(u"frmIncomplete"_s);
+  partials.SelectRow(u"fgIncomplete"_s, 1);
+  partials.Control(u"Command1_3"_s)->setFocus();
+  desk.Program.Answers.No(u"This will Purge Incomplete Invoice# 20260007"_s);
+  partials.PressKey(Qt::Key_Space);
+  QCOMPARE(partials.FocusName(), u"fgIncomplete"_s);
+  QCOMPARE(Enabled(), (QList<int>{0, 1, 2}));
 }
 
 void ScreenPartials::theMenuButtonAndEscapeLeadBack() {

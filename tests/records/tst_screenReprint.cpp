@@ -29,6 +29,7 @@ class ScreenReprint : public QObject {
   void theListNeedsNoMoreThanFiveLinesOfAnImage();
   void eachKeySortsBothWays_data();
   void eachKeySortsBothWays();
+  void inTheSortPanelEnterSortsAndEscapeClosesIt();
   void withinADateTheOrderOfTheFormerSortIsKept();
   void theYearLeadsTheOrderOfDates();
   void theTwoKindsOfOptionsAreChosenApart();
@@ -196,6 +197,27 @@ void ScreenReprint::eachKeySortsBothWays() {
   // A click opens the row that stands there now.
   desk.On().SelectRow(u"fgReceivables"_s, 1);
   QCOMPARE(ReprintScreen::Title(), u"Details for Invoice "_s + numbers.first());
+}
+
+void ScreenReprint::inTheSortPanelEnterSortsAndEscapeClosesIt() {
+  ReprintScreen desk;
+  QVERIFY(desk.Open());
+  const QStringList order = desk.Column(0);
+  desk.On().Trigger(u"mnuSort"_s);
+  desk.On().PressKey(Qt::Key_Escape);
+  QVERIFY(!desk.On().IsVisible(u"fraSort"_s));
+  QVERIFY(desk.ShowsList());
+  QCOMPARE(desk.On().FocusName(), u"fgReceivables"_s);
+  QCOMPARE(desk.Column(0), order);
+  desk.On().Trigger(u"mnuSort"_s);
+  desk.On().Click(u"optSort_1"_s);
+  desk.On().PressKey(Qt::Key_Return);
+  QVERIFY(!desk.On().IsVisible(u"fraSort"_s));
+  QCOMPARE(desk.Column(0), QStringList(order.crbegin(), order.crend()));
+  QCOMPARE(desk.On().FocusName(), u"fgReceivables"_s);
+  // At the list Enter opens the row, and Escape leads to the menu again.
+  desk.On().PressKey(Qt::Key_Escape);
+  QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
 }
 
 void ScreenReprint::withinADateTheOrderOfTheFormerSortIsKept() {

@@ -31,6 +31,7 @@ class ScreenReprintInvoice : public QObject {
   void anInvoiceWithoutLinesIsShown();
   void reSelectLeadsBackToTheList();
   void escapeLeadsOneStepBack();
+  void escapeLosesNoMemoThatWasTyped();
   void theMemoShownIsTheOneLoadedNow();
   void clearMemoEmptiesTheBoxAndDeletesItsFileAndCopy();
   void aDoubleClickOnARowClearsNoMemoUnderIt();
@@ -276,6 +277,27 @@ void ScreenReprintInvoice::escapeLeadsOneStepBack() {
   QVERIFY(desk.ShowsList());
   desk.On().PressKey(Qt::Key_Escape);
   QVERIFY(ScreenDriver::IsShown(u"frmStartup"_s));
+}
+
+void ScreenReprintInvoice::escapeLosesNoMemoThatWasTyped() {
+  ReprintScreen desk;
+  QVERIFY(desk.Open());
+  desk.Select(u"900"_s);
+  desk.On().Fill(u"txtMemo"_s, u"Paid in full"_s);
+  desk.On().PressKey(Qt::Key_Escape);
+  QVERIFY(!desk.ShowsList());
+  QCOMPARE(desk.On().Text(u"txtMemo"_s), u"Paid in full"_s);
+  // What is cleared is lost already.
+  desk.On().Click(u"cmdMemo"_s);
+  desk.On().PressKey(Qt::Key_Escape);
+  QVERIFY(desk.ShowsList());
+  // The next invoice begins anew.
+  desk.Select(u"900"_s);
+  desk.On().Fill(u"txtMemo"_s, u"x"_s);
+  desk.On().Click(u"cmdHide"_s);
+  desk.Select(u"900"_s);
+  desk.On().PressKey(Qt::Key_Escape);
+  QVERIFY(desk.ShowsList());
 }
 
 void ScreenReprintInvoice::theMemoShownIsTheOneLoadedNow() {

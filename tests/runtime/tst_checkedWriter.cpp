@@ -189,6 +189,26 @@ class CheckedWriterTest : public QObject {
     QVERIFY(newSeen);
   }
 
+  void aFileThatARenameReplacesKeepsItsPermissionsAndItsProtection() {
+    const QString shorter = m_tree->Path(u"/TemporaryFile.txt"_s);
+    const QByteArray before = Content();
+    m_tree->Write(u"/TemporaryFile.txt"_s, "shorter");
+    ::chmod(QFile::encodeName(m_path).constData(), 0640);
+    for (const Call call : {Call::MayWrite, Call::CopyPermissions}) {
+      m_device.FailAt(call, 1, EACCES);
+      const RuntimeError error = CaughtFrom([&] { m_store.Rename(shorter, m_path); });
+      QCOMPARE(error.Number(), 70);
+      QCOMPARE(error.Subject(), m_path);
+      QCOMPARE(Content(), before);
+      QCOMPARE(m_tree->Bytes(u"/TemporaryFile.txt"_s), "shorter");
+    }
+    m_device.Reset();
+    m_store.Rename(shorter, m_path);
+    QCOMPARE(Content(), "shorter");
+    QCOMPARE(Mode(), mode_t{0640});
+    QCOMPARE(Files(), QStringList{u"Labor.txt"_s});
+  }
+
   void aFileKeepsItsPermissions() {
     ::chmod(QFile::encodeName(m_path).constData(), 0640);
     Save();

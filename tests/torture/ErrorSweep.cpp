@@ -87,6 +87,10 @@ QString Sweep::JudgeTelling(const Outcome& outcome) const {
     }
   }
   for (const QString& path : outcome.HarmedPaths) {
+    // What it is to become is what the user knows.
+    for (const Note& note : m_bench.Unharmed().Notes) {
+      if (note.What == Kind::Rename && note.Path == path.toStdString() && names(FileOf(note.To))) return {};
+    }
     const QString name = FileOf(path).sliced(m_bench.Root().size());
     if (name.isEmpty() ? NamesTheRootOrAFileInIt(told) : names(FileOf(path)) || names(name)) return {};
   }
