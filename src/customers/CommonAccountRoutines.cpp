@@ -37,6 +37,10 @@ QString LedgerName(const QString& account) {
   return u"/KVActiveAccounts/"_s + TrimBlanks(account) + u".txt"_s;
 }
 
+QString PaymentRecordsName() {
+  return u"/KAPaymentRecords.txt"_s;
+}
+
 void CommonAccountRoutines::CreateLedger(const QString& account, const QString& name) {
   m_record = {.LedgerName = name,
               .LedgerAcct = account,
@@ -72,7 +76,7 @@ void CommonAccountRoutines::WritePaymentRecord(const QString& account, const QSt
               .LedgerDate = ShortDateText(date),
               .LedgerText = description,
               .LedgerAmount = amount};
-  Append(u"/KAPaymentRecords.txt"_s);
+  Append(PaymentRecordsName());
 }
 
 void CommonAccountRoutines::Append(const QString& file) {

@@ -27,6 +27,8 @@ struct LedgerRecord {
 bool IsSafeAccount(const QString& account);
 /// The root-relative name of the account's ledger. Throws RuntimeError 64 for an account that isn't safe.
 QString LedgerName(const QString& account);
+/// Root-relative: all payments taken.
+QString PaymentRecordsName();
 
 class CommonAccountRoutines {
  public:

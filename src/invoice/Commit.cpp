@@ -28,6 +28,21 @@ bool CanNameItsFiles(const CommitDesk& desk, const CommitSteps& steps) {
   return false;
 }
 
+/// A full store would end this recording, and each one after it, in its middle and without a word: told before anything
+/// is printed.
+void RequireRoom(const CommitDesk& desk) {
+  try {
+    RequireRoomForRecords(desk.Invoice, desk.Customer.txtCustomer0, desk.Disk);
+  } catch (const RuntimeError& error) {
+    // What can't be looked at is left to the recording.
+    if (error.Number() != ErrorNumber::Overflow) return;
+    throw error.AsEvent(error.Subject())
+        .WithAdvice(
+            u"Move it, and its copy in the Backup folder, elsewhere: the recording starts a new one. Then finalize and "
+            u"print the invoice again. Nothing was lost."_s);
+  }
+}
+
 /// Prints until the user says that it printed; false where he gives up.
 bool PrintUntilConfirmed(const CommitDesk& desk, const CommitSteps& steps) {
   do {
@@ -73,6 +88,7 @@ void PrintAndCommit(const CommitDesk& desk, const CommitSteps& steps) {
     return;
   }
   if (!CanNameItsFiles(desk, steps)) return;
+  RequireRoom(desk);
   try {
     if (PrintUntilConfirmed(desk, steps)) {
       WriteEveryStore(desk, steps);

@@ -24,6 +24,14 @@ namespace {
 constexpr int SalesJournalLength = 125;
 constexpr int TaxRecordLength = 75;
 
+QString JournalName() {
+  return u"/InvoiceSalesJournal.txt"_s;
+}
+
+QString TaxRecordsName() {
+  return u"/TaxRecords.txt"_s;
+}
+
 /// The quantity as the inventory takes it: through a single-precision number and its text.
 double InventoryUnits(const QString& quantity) {
   const double number = ToNumber(quantity, u"Quantity"_s);
@@ -36,6 +44,15 @@ double InventoryUnits(const QString& quantity) {
 }
 
 }  // namespace
+
+void RequireRoomForRecords(const WorkingInvoice& invoice, const QString& account, CommonDiskRoutines& disk) {
+  const int taxes = (invoice.Tax1 > Currency() ? 1 : 0) + (invoice.Tax2 > Currency() ? 1 : 0);
+  const int payments = invoice.ckPrepaid ? 1 : 0;
+  disk.RequireRoom(JournalName(), SalesJournalLength, 1);
+  disk.RequireRoom(LedgerName(account), LedgerRecord::Length, 1 + payments);
+  if (payments > 0) disk.RequireRoom(PaymentRecordsName(), LedgerRecord::Length, payments);
+  if (taxes > 0) disk.RequireRoom(TaxRecordsName(), TaxRecordLength, taxes);
+}
 
 void WriteSoldItems(const WorkingInvoice& invoice, const SalesItemsList& list, CommonDiskRoutines& disk, QDate today) {
   const QString name = u"/SoldItems.txt"_s;
@@ -67,7 +84,7 @@ void WriteSalesJournal(const SalesJournalEntry& entry, CommonDiskRoutines& disk)
   record.Double(85, ToDayCount(entry.InvoiceDate));
   record.Amount(93, entry.SubTotal).Amount(101, entry.TaxTotal);
   record.Amount(109, entry.Discount).Amount(117, entry.GrandTotal);
-  disk.AppendRecord(u"/InvoiceSalesJournal.txt"_s, record.Record());
+  disk.AppendRecord(JournalName(), record.Record());
 }
 
 void WriteSalesJournal(const WorkingInvoice& invoice, CommonDiskRoutines& disk, QDate today) {
@@ -101,7 +118,7 @@ void WriteTaxRecord(const QString& taxHeading, const QString& invoiceNo, QDate t
                     CommonDiskRoutines& disk) {
   RecordBuilder record(TaxRecordLength);
   record.Text(0, 20, taxHeading).Text(20, 15, ShortDateText(taxDate)).Text(35, 30, invoiceNo).Text(65, 10, taxAmount);
-  disk.AppendRecord(u"/TaxRecords.txt"_s, record.Record());
+  disk.AppendRecord(TaxRecordsName(), record.Record());
 }
 
 void WriteTaxRecords(const WorkingInvoice& invoice, const QString& heading1, const QString& heading2,

@@ -14,6 +14,10 @@ struct CustomerOnScreen;
 struct SalesItemsList;
 struct WorkingInvoice;
 
+/// Error 6 on the first store that can't take the records of this invoice: journal, ledger of the account, payments,
+/// taxes. The sold items have no limit.
+void RequireRoomForRecords(const WorkingInvoice& invoice, const QString& account, CommonDiskRoutines& disk);
+
 /// One record in /SoldItems.txt for each line and each entry of the list that equals its description.
 void WriteSoldItems(const WorkingInvoice& invoice, const SalesItemsList& list, CommonDiskRoutines& disk, QDate today);
 

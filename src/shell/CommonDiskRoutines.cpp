@@ -118,14 +118,19 @@ RandomFile CommonDiskRoutines::OpenRandomFile(const QString& name, int recordLen
   return RandomFile(m_store, Rooted(name), path, recordLength, created, NewOpenMark());
 }
 
-void CommonDiskRoutines::AppendRecord(const QString& name, const QByteArray& record) {
-  const auto length = static_cast<int>(record.size());
-  const int count = RecordCount(name, length);
-  if (count == RecordLimit) {
-    throw RuntimeError(ErrorNumber::Overflow, Rooted(name), u"The file holds 32,767 records and takes no more."_s)
+int CommonDiskRoutines::RequireRoom(const QString& name, int recordLength, int records) {
+  const int count = RecordCount(name, recordLength);
+  if (count + records > RecordLimit) {
+    throw RuntimeError(ErrorNumber::Overflow, Rooted(name), u"The file takes no more than 32,767 records."_s)
         .WithAdvice(
             u"Move it, and its copy in the Backup folder, elsewhere: the next entry starts a new one. Nothing was lost."_s);
   }
+  return count;
+}
+
+void CommonDiskRoutines::AppendRecord(const QString& name, const QByteArray& record) {
+  const auto length = static_cast<int>(record.size());
+  const int count = RequireRoom(name, length, 1);
   OpenRandomFile(name, length).Put(count + 1, record);
 }
 

@@ -61,6 +61,8 @@ class CommonDiskRoutines {
   /// The same for no more of the file than its first `lines` lines, where a list needs no more of each.
   ListReader OpenInputStart(const QString& name, int lines);
   RandomFile OpenRandomFile(const QString& name, int recordLength);  ///< Creates the file if absent.
+  /// How many records the file holds, after the restore. Error 6 where it can't take so many more.
+  int RequireRoom(const QString& name, int recordLength, int records);
   /// Writes the record behind the last one, into a new file if there is none, after the restore. Error 6 on a full
   /// file.
   void AppendRecord(const QString& name, const QByteArray& record);
