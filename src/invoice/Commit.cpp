@@ -36,7 +36,8 @@ void RequireRoom(const CommitDesk& desk) {
   } catch (const RuntimeError& error) {
     // What can't be looked at is left to the recording.
     if (error.Number() != ErrorNumber::Overflow) return;
-    throw error.AsEvent(error.Subject())
+    if (error.From() == RuntimeError::Origin::FileContent) desk.Disk.KeepBackupOf(error.Subject());
+    throw RuntimeError(ErrorNumber::Overflow, error.Subject(), u"The file takes no more than 32,767 records."_s)
         .WithAdvice(
             u"Move it, and its copy in the Backup folder, elsewhere: the recording starts a new one. Then finalize and "
             u"print the invoice again. Nothing was lost."_s);
