@@ -318,17 +318,8 @@ void HostilePlaces::aRootThatVanishesIsToldAtEachSave_data() {
     ScreenDriver(u"frmSetup"_s).Fill(u"txtBusiness_0"_s, u"A New Name"_s);
   }) << u"cmdQuit"_s << u"frmSetup"_s
                          << u"/MyBusinessData.txt"_s;
-  QTest::newRow("the catalogue") << Act([](ProgramFixture&) {
-    const ScreenDriver menu(u"frmStartup"_s);
-    menu.Click(u"optMainMenuSub_3"_s);
-    menu.Click(u"cmdGoto"_s);
-    const ScreenDriver screen(u"frmServices"_s);
-    screen.Click(u"cmdServices_1"_s);
-    screen.Fill(u"txtDescription_0"_s, u"Cleaning"_s);
-    screen.Fill(u"txtCharge_0"_s, u"25"_s);
-    screen.Click(u"cmdServices_4"_s);
-  }) << u"cmdServices_0"_s << u"frmServices"_s
-                                 << u"/Services.txt"_s;
+  QTest::newRow("the catalogue") << Act([](ProgramFixture&) { OneDay::EnterService(); }) << u"cmdServices_0"_s
+                                 << u"frmServices"_s << u"/Services.txt"_s;
   QTest::newRow("a customer") << Act([](ProgramFixture&) {
     OneDay::GoToCustomers();
     ScreenDriver(u"frmNewCustomer"_s).Fill(u"txtCustomer_2"_s, u"99 Elsewhere"_s);

@@ -3,6 +3,7 @@
 
 #include "customers/CustomerRecords.h"
 #include "support/InvoiceBench.h"
+#include "support/OneDay.h"
 #include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -38,18 +39,6 @@ QList<int> Offered() {
     if (menu.IsVisible(u"optMainMenuSub_%1"_s.arg(i))) offered.append(i);
   }
   return offered;
-}
-
-/// From the main menu to the lines of a new invoice for the one customer, with two hammers posted.
-void PostHammers() {
-  ScreenDriver(u"frmStartup"_s).Click(u"cmdGoto"_s);
-  ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdCustomer_1"_s);
-  const ScreenDriver invoice(u"frmInvoice"_s);
-  invoice.Click(u"cmdInvoice_0"_s);
-  invoice.Trigger(u"mnuItems"_s);
-  invoice.PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
-  invoice.Fill(u"txtUnits"_s, u"2"_s);
-  invoice.Click(u"cmdPost_1"_s);
 }
 
 QString FirstLine() {
@@ -95,7 +84,7 @@ void Road::afterTheFirstCommitTheMenuOffersWhatHasData() {
   Stock(program.Tree);
   QVERIFY(program.StartAtMenu());
   QCOMPARE(Offered(), (QList<int>{0, 3}));
-  PostHammers();
+  OneDay::ComposeInvoice();
   PrintAndConfirm(program);
   QCOMPARE(Offered(), (QList<int>{0, 2, 3, 4, 5, 6}));
 }
@@ -105,7 +94,7 @@ void Road::closingTheInvoiceRunsTheBackupEndsTheProgramAndLosesTheInvoice() {
   Stock(program.Tree);
   program.Tree.Write(u"/Backup/CustomerData.txt"_s, "an older copy");
   QVERIFY(program.StartAtMenu());
-  PostHammers();
+  OneDay::ComposeInvoice();
   QCOMPARE(FirstLine(), u"Hammer"_s);
   const auto expected = WithExitBackup(program.Tree.Everything());
   ScreenDriver(u"frmInvoice"_s).CloseByUser();
@@ -149,7 +138,7 @@ void Road::anInternationalProfileAtStartPrintsTheCustomerWithoutHisState() {
   program.Tree.Write(u"/MyBusinessData.txt"_s,
                      "\"Grove\",\"12 Grove Road\",\"\",\"Sydney\",\"NSW\",\"\",\"555-0100\",\"\",\"\"\r\n");
   QVERIFY(program.StartAtMenu());
-  PostHammers();
+  OneDay::ComposeInvoice();
   PrintAndConfirm(program);
   QCOMPARE(program.Paper.SoldToBlock(),
            (QStringList{u"SOLD TO:"_s, u"Acme Tools"_s, u"1 Main Street"_s, u"Springfield"_s, u"62701"_s}));
@@ -160,7 +149,7 @@ void Road::aProfileInUsaStylePrintsTheStateInOneLine() {
   ProgramFixture program;
   Stock(program.Tree);
   QVERIFY(program.StartAtMenu());
-  PostHammers();
+  OneDay::ComposeInvoice();
   PrintAndConfirm(program);
   QCOMPARE(program.Paper.SoldToBlock(),
            (QStringList{u"SOLD TO:"_s, u"Acme Tools"_s, u"1 Main Street"_s, u"Springfield, IL 62701"_s}));

@@ -55,7 +55,8 @@ inline void SaveSetup() {
   setup.Click(u"cmdQuit"_s);
 }
 
-inline void SaveCatalogue() {
+/// On the catalogue screen, a new service in the list and not in the file yet.
+inline void EnterService() {
   const ScreenDriver menu(u"frmStartup"_s);
   menu.Click(u"optMainMenuSub_3"_s);
   menu.Click(u"cmdGoto"_s);
@@ -64,7 +65,11 @@ inline void SaveCatalogue() {
   screen.Fill(u"txtDescription_0"_s, u"Cleaning"_s);
   screen.Fill(u"txtCharge_0"_s, u"25"_s);
   screen.Click(u"cmdServices_4"_s);
-  screen.Click(u"cmdServices_0"_s);
+}
+
+inline void SaveCatalogue() {
+  EnterService();
+  ScreenDriver(u"frmServices"_s).Click(u"cmdServices_0"_s);
 }
 
 inline void GoToCustomers() {
@@ -80,12 +85,17 @@ inline void SaveCustomer() {
   screen.Click(u"cmdCustomer_0"_s);
 }
 
-/// The lines of a new invoice for the one customer, two hammers posted.
-inline void ComposeInvoice() {
+/// The lines of a new invoice for the one customer, none posted.
+inline void OpenInvoiceLines() {
   GoToCustomers();
   ScreenDriver(u"frmNewCustomer"_s).Click(u"cmdCustomer_1"_s);
+  ScreenDriver(u"frmInvoice"_s).Click(u"cmdInvoice_0"_s);
+}
+
+/// The same, two hammers posted.
+inline void ComposeInvoice() {
+  OpenInvoiceLines();
   const ScreenDriver invoice(u"frmInvoice"_s);
-  invoice.Click(u"cmdInvoice_0"_s);
   invoice.Trigger(u"mnuItems"_s);
   invoice.PickEntry(u"cboDescription_1"_s, u"Hammer"_s);
   invoice.Fill(u"txtUnits"_s, u"2"_s);
